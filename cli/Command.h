@@ -1,0 +1,42 @@
+// What the commands share: their surroundings, their exit statuses and the way they complain.
+#pragma once
+
+#include "core/platform/Platform.h"
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+#include <string>
+
+namespace vitrelle::cli {
+
+/// The exit statuses that scripts may rely on.
+enum class Exit : int {
+  done = 0,
+  failed = 1,
+  usage = 2,
+  unmeasuredPhone = 3,
+};
+
+/// The surroundings of the one command that runs. main.cpp fills it in; a command's callback reads
+/// it after all options are parsed and leaves its exit status in it.
+struct CommandContext {
+  /// Made at the first call, from the options.
+  std::function<const Platform&()> platform;
+  /// Delivers what the platform watches; returns when the user interrupts the program.
+  std::function<void()> runLoop;
+  Exit exit = Exit::done;
+};
+
+/// "vitrelle: what: why" on stderr.
+void complain(const Failure& failure);
+
+// One for each command, in a file of its own. Each adds its subcommand, whose callback runs it.
+void addCutCommand(CLI::App& program, CommandContext& context);
+void addDefaultsCommand(CLI::App& program, CommandContext& context);
+void addPaletteCommand(CLI::App& program, CommandContext& context);
+void addPhoneCommand(CLI::App& program, CommandContext& context);
+void addPhonesCommand(CLI::App& program, CommandContext& context);
+void addRecordsCommand(CLI::App& program, CommandContext& context);
+
+} // namespace vitrelle::cli

@@ -1,0 +1,15 @@
+// What the application's bundle says of itself.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace vitrelle {
+
+struct Bundle {
+  /// Reverse domain name of the application, such as "com.example.program".
+  std::function<std::optional<std::string>()> identifier;
+};
+
+} // namespace vitrelle

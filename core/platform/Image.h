@@ -1,0 +1,74 @@
+// A picture as the logic handles it: a cheap, immutable handle on a bitmap that may not have been
+// decoded yet.
+#pragma once
+
+#include "core/platform/ColourProfile.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+namespace vitrelle {
+
+struct PixelSize {
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  bool operator==(const PixelSize&) const = default;
+};
+
+/// In pixels, origin top left, y down.
+struct PixelRect {
+  std::int64_t x = 0;
+  std::int64_t y = 0;
+  std::int64_t width = 0;
+  std::int64_t height = 0;
+  bool operator==(const PixelRect&) const = default;
+};
+
+/// A view of 8-bit RGBA pixels with straight alpha, in memory that `owner` keeps alive.
+struct Bitmap {
+  PixelSize size;
+  std::size_t bytesPerRow = 0;          ///< at least 4 times the width; rows may be unaligned
+  const std::uint8_t* pixels = nullptr; ///< first byte (red) of the top left pixel
+  bool opaque = false;                  ///< every alpha sample is known to be 255
+  std::shared_ptr<const void> owner;
+
+  const std::uint8_t* row(std::int32_t y) const {
+    return pixels + static_cast<std::size_t>(y) * bytesPerRow;
+  }
+};
+
+/// Where an image's pixels come from. Implementations are immutable and safe to use from several
+/// threads at once.
+class ImageSource {
+ public:
+  virtual ~ImageSource() = default;
+  virtual PixelSize size() const = 0;
+  virtual const ColourProfile& profile() const = 0;
+  /// Decodes at the first call, if need be. Nothing when the pixels can't be had.
+  virtual std::optional<Bitmap> bitmap() const = 0;
+};
+
+/// Two images are equal when they are the same object.
+class Image final {
+ public:
+  explicit Image(std::shared_ptr<const ImageSource> source);
+  /// An image of pixels in memory.
+  explicit Image(Bitmap bitmap, ColourProfile profile = {});
+
+  PixelSize size() const { return source_->size(); }
+  const ColourProfile& profile() const { return source_->profile(); }
+  std::optional<Bitmap> bitmap() const { return source_->bitmap(); }
+
+  /// The part of the image inside the rectangle, as a view: no pixel is copied. The rectangle is
+  /// first cut to the bitmap. Nothing when there is no bitmap or nothing is left of the rectangle.
+  std::optional<Image> cropped(const PixelRect& rect) const;
+
+  bool operator==(const Image& other) const { return source_ == other.source_; }
+
+ private:
+  std::shared_ptr<const ImageSource> source_;
+};
+
+} // namespace vitrelle

@@ -1,0 +1,31 @@
+// Every operation that the logic needs of the platform, gathered in one value. Composition roots
+// build it with designated initialisers; an operation left out is a compile error.
+#pragma once
+
+#include "core/platform/Bundle.h"
+#include "core/platform/DebugConsole.h"
+#include "core/platform/Defaults.h"
+#include "core/platform/Device.h"
+#include "core/platform/Files.h"
+#include "core/platform/Images.h"
+#include "core/platform/PhoneBook.h"
+#include "core/platform/SharedInstances.h"
+#include "core/platform/WidgetCenter.h"
+
+namespace vitrelle {
+
+struct Platform {
+  Defaults defaults;
+  Files files;
+  Images images;
+  Device device;
+  PhoneBook phoneBook;
+  WidgetCenter widgetCenter;
+  Bundle bundle;
+  DebugConsole debugConsole;
+
+  /// What is made once per platform, such as the device name.
+  SharedInstances shared = {};
+};
+
+} // namespace vitrelle

@@ -1,0 +1,141 @@
+#include "tests/support/Fakes.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace vitrelle::test {
+
+Status FakeDefaults::refuse() const {
+  return Failure{"group store", "can't be opened"};
+}
+
+void FakeDefaults::changed(Suite suite, const std::string& key) {
+  changes_.notify(suite, key);
+}
+
+void FakeDefaults::use(Platform& platform) {
+  const auto current = [this](Suite suite, const std::string& key) -> std::optional<StoreValue> {
+    const auto found = values_[suite].find(key);
+    if (found == values_[suite].end() || broken) return std::nullopt;
+    return found->second;
+  };
+  platform.defaults = {
+      .value = [this, current](Suite suite,
+                               const std::string& key) -> Result<std::optional<StoreValue>> {
+        if (broken) return refuse().failure();
+        return current(suite, key);
+      },
+      .set = [this](Suite suite, const std::string& key, const StoreValue& value) -> Status {
+        if (broken) return refuse();
+        values_[suite].insert_or_assign(key, value);
+        changed(suite, key);
+        return success();
+      },
+      .remove = [this](Suite suite, const std::string& key) -> Status {
+        if (broken) return refuse();
+        values_[suite].erase(key);
+        changed(suite, key);
+        return success();
+      },
+      .keys = [this](Suite suite) -> Result<std::vector<std::string>> {
+        if (broken) return refuse().failure();
+        std::vector<std::string> keys;
+        for (const auto& entry : values_[suite]) keys.push_back(entry.first);
+        return keys;
+      },
+      .watch =
+          [this, current](Suite suite, const std::string& key,
+                          std::function<void(const std::optional<StoreValue>&)> subscriber) {
+            subscriber(current(suite, key));
+            return changes_.add([=](Suite changedSuite, const std::string& changedKey) {
+              if (changedSuite == suite && changedKey == key) subscriber(current(suite, key));
+            });
+          },
+      .watchKeys =
+          [this](Suite suite, std::function<void(const std::string&)> subscriber) {
+            return changes_.add([=](Suite changedSuite, const std::string& changedKey) {
+              if (changedSuite == suite) subscriber(changedKey);
+            });
+          }};
+}
+
+namespace {
+
+std::string fileName(const std::string& path) {
+  const std::string prefix = std::string(FakeFolder::root) + "/";
+  return path.starts_with(prefix) ? path.substr(prefix.size()) : path;
+}
+
+} // namespace
+
+void FakeFolder::use(Platform& platform) {
+  platform.files = {.groupContainer = [this]() -> std::optional<std::string> {
+                      if (!exists) return std::nullopt;
+                      return root;
+                    },
+                    .fileExists = [this](const std::string& path) {
+                      return images.contains(fileName(path));
+                    }};
+  platform.images.load = [this](const std::string& path) -> Result<Image> {
+    const auto found = images.find(fileName(path));
+    if (found == images.end()) return Failure{path, "no such file"};
+    return found->second;
+  };
+  platform.images.writePngFiles = [this](std::span<const PngFile> files) {
+    std::vector<Result<std::size_t>> results;
+    for (const PngFile& file : files) {
+      const std::string name = fileName(file.path);
+      if (!exists || refused.contains(name)) {
+        results.emplace_back(Failure{file.path, "can't be written"});
+        continue;
+      }
+      written.push_back(name);
+      images.insert_or_assign(name, file.image);
+      results.emplace_back(std::size_t{1});
+    }
+    return results;
+  };
+}
+
+void FakePhone::use(Platform& platform) {
+  platform.device = {
+      .machine =
+          [this] {
+            MachineField field{};
+            std::copy(machine.begin(), machine.end(), field.begin());
+            return field;
+          },
+      .environment = [this](const std::string& name) -> std::optional<std::string> {
+        const auto found = environment.find(name);
+        if (found == environment.end()) return std::nullopt;
+        return found->second;
+      },
+      .isOperatingSystemAtLeast = [this](const OsVersion& version) { return os >= version; },
+      .screenBounds = [this] { return bounds; },
+      .screenScale = [this] { return scale; },
+      .screenNativeScale = [this] { return nativeScale; }};
+}
+
+void FakeConsole::use(Platform& platform) {
+  platform.debugConsole.print = [this](const std::string& line) { lines.push_back(line); };
+  platform.widgetCenter.reloadAllTimelines = [this] { ++reloads; };
+}
+
+Image positionImage(std::int32_t width, std::int32_t height, ColourProfile profile) {
+  const auto pixels = std::make_shared<std::vector<std::uint8_t>>();
+  for (std::int32_t y = 0; y < height; ++y) {
+    for (std::int32_t x = 0; x < width; ++x) {
+      for (const std::int32_t sample : {x % 256, y % 256, x / 256 * 16 + y / 256, 255}) {
+        pixels->push_back(static_cast<std::uint8_t>(sample));
+      }
+    }
+  }
+  return Image(Bitmap{.size = {width, height},
+                      .bytesPerRow = static_cast<std::size_t>(width) * 4,
+                      .pixels = pixels->data(),
+                      .opaque = true,
+                      .owner = pixels},
+               std::move(profile));
+}
+
+} // namespace vitrelle::test

@@ -1,0 +1,68 @@
+// A platform in memory that behaves: a store that notifies, a folder that holds images, a phone
+// and a console. `use` puts a fake's operations into a platform; the fake must outlive it.
+#pragma once
+
+#include "core/platform/Platform.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vitrelle::test {
+
+/// Both suites. While `broken` is set, no suite can be opened.
+class FakeDefaults final {
+ public:
+  void use(Platform& platform);
+
+  std::map<std::string, StoreValue>& values(Suite suite) { return values_[suite]; }
+  bool broken = false;
+
+ private:
+  Status refuse() const;
+  void changed(Suite suite, const std::string& key);
+
+  std::map<Suite, std::map<std::string, StoreValue>> values_;
+  Subscribers<Suite, const std::string&> changes_;
+};
+
+/// A group folder and its pictures. Names in `refused` can't be written.
+class FakeFolder final {
+ public:
+  void use(Platform& platform);
+
+  bool exists = true;
+  std::map<std::string, Image> images; ///< by file name
+  std::vector<std::string> written;    ///< file names in the order of writing
+  std::set<std::string> refused;
+  static constexpr const char* root = "/group";
+};
+
+/// A phone: a real machine identifier, or "x86_64" with a simulated one in the environment.
+class FakePhone final {
+ public:
+  void use(Platform& platform);
+
+  std::string machine = "iPhone16,1";
+  std::map<std::string, std::string> environment;
+  OsVersion os{18, 0, 0};
+  PointSize bounds{393, 852};
+  double scale = 3;
+  double nativeScale = 3;
+};
+
+/// The debug lines in order, and how many reloads of the widgets were asked for.
+class FakeConsole final {
+ public:
+  void use(Platform& platform);
+  std::vector<std::string> lines;
+  int reloads = 0;
+};
+
+/// An opaque picture whose pixel at x, y is {x mod 256, y mod 256, x / 256 * 16 + y / 256, 255}, so
+/// that a crop tells where it comes from.
+Image positionImage(std::int32_t width, std::int32_t height, ColourProfile profile = {});
+
+} // namespace vitrelle::test

@@ -1,0 +1,63 @@
+#include "tests/support/UnimplementedPlatform.h"
+
+#include <gtest/gtest.h>
+
+namespace vitrelle::test {
+
+namespace {
+
+/// Converts to any operation; calling it fails the test and gives an empty answer.
+struct Unimplemented {
+  const char* name;
+
+  template <class Answer, class... Arguments>
+  operator std::function<Answer(Arguments...)>() const {
+    return [operation = name](Arguments...) -> Answer {
+      ADD_FAILURE() << "the test does not implement " << operation;
+      if constexpr (!std::is_void_v<Answer>) return empty<Answer>();
+    };
+  }
+
+ private:
+  template <class Answer>
+  static Answer empty() {
+    if constexpr (std::is_constructible_v<Answer, Failure>) {
+      return Failure{"test", "unimplemented"};
+    } else {
+      return Answer{};
+    }
+  }
+};
+
+} // namespace
+
+Platform unimplementedPlatform() {
+  return {
+      .defaults = {.value = Unimplemented{"defaults.value"},
+                   .set = Unimplemented{"defaults.set"},
+                   .remove = Unimplemented{"defaults.remove"},
+                   .keys = Unimplemented{"defaults.keys"},
+                   .watch = Unimplemented{"defaults.watch"},
+                   .watchKeys = Unimplemented{"defaults.watchKeys"}},
+      .files = {.groupContainer = Unimplemented{"files.groupContainer"},
+                .fileExists = Unimplemented{"files.fileExists"}},
+      .images = {.load = Unimplemented{"images.load"},
+                 .decode = Unimplemented{"images.decode"},
+                 .pngRepresentation = Unimplemented{"images.pngRepresentation"},
+                 .writePngFiles = Unimplemented{"images.writePngFiles"}},
+      .device = {.machine = Unimplemented{"device.machine"},
+                 .environment = Unimplemented{"device.environment"},
+                 .isOperatingSystemAtLeast = Unimplemented{"device.isOperatingSystemAtLeast"},
+                 .screenBounds = Unimplemented{"device.screenBounds"},
+                 .screenScale = Unimplemented{"device.screenScale"},
+                 .screenNativeScale = Unimplemented{"device.screenNativeScale"}},
+      .phoneBook = {.models = Unimplemented{"phoneBook.models"},
+                    .current = Unimplemented{"phoneBook.current"},
+                    .save = Unimplemented{"phoneBook.save"}},
+      .widgetCenter = {.reloadAllTimelines = Unimplemented{"widgetCenter.reloadAllTimelines"}},
+      .bundle = {.identifier = Unimplemented{"bundle.identifier"}},
+      .debugConsole = {.print = Unimplemented{"debugConsole.print"}},
+  };
+}
+
+} // namespace vitrelle::test
