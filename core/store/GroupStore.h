@@ -1,0 +1,58 @@
+// The state that the application and the widgets share: plain values by key, and the record arrays
+// of the six families. A store that can't be opened is no error here: reads give absence or empty
+// arrays, writes are skipped.
+#pragma once
+
+#include "core/platform/Platform.h"
+#include "core/store/Family.h"
+#include "core/store/Key.h"
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace vitrelle {
+
+/// Every call reaches through to the platform's store; nothing is kept between two calls. The
+/// platform must outlive it. A key of the standard defaults is looked up there.
+class GroupStore final {
+ public:
+  explicit GroupStore(const Platform& platform) : platform_(&platform) {}
+
+  /// Nothing when the key is absent or its value is of another type.
+  template <class T>
+  std::optional<T> value(const Key<T>& key) const;
+
+  template <class T>
+  T valueOrDefault(const Key<T>& key) const {
+    if (std::optional<T> stored = value(key)) return *std::move(stored);
+    if constexpr (std::is_same_v<T, Data>) {
+      return {};
+    } else {
+      return T(key.defaultValue);
+    }
+  }
+
+  /// Readers in this process and in the widgets see it at once.
+  template <class T>
+  void set(const Key<T>& key, const T& value) const;
+
+  /// Calls with the present value before it returns, then with each later one, whoever wrote it.
+  template <class T>
+  Subscription subscribe(const Key<T>& key,
+                         std::function<void(const std::optional<T>&)> subscriber) const;
+
+  /// The family's whole array. Empty when one record of it is damaged: none is salvaged.
+  template <class Record>
+  std::vector<Record> loadRecords(const Family<Record>& family) const;
+
+  /// Replaces the family's array and reloads the widgets, even when the store can't be opened. An
+  /// array that can't be encoded is reported on the debug console, and nothing else happens.
+  template <class Record>
+  void saveRecords(const Family<Record>& family, const std::vector<Record>& records) const;
+
+ private:
+  const Platform* platform_;
+};
+
+} // namespace vitrelle

@@ -1,0 +1,23 @@
+// Arrays of records as the bytes that the store holds: a JSON array of objects, compact, UTF-8.
+#pragma once
+
+#include "core/platform/Data.h"
+#include "core/platform/Result.h"
+#include "core/store/Records.h"
+
+#include <optional>
+#include <vector>
+
+namespace vitrelle {
+
+/// Each object has all fields of its record, in order. Fails on text that is not UTF-8. An
+/// unresolved colour becomes `null`, which no reader accepts.
+template <class Record>
+Result<Data> encodeRecords(const std::vector<Record>& records);
+
+/// Nothing unless every record has every field in its right type; fields of other names are
+/// ignored. An integer may be written with a fraction of zero.
+template <class Record>
+std::optional<std::vector<Record>> decodeRecords(const Data& json);
+
+} // namespace vitrelle
