@@ -2,17 +2,17 @@
 
 #include "core/platform/FatalError.h"
 
-#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstring>
+#include <limits>
 #include <utility>
 
 namespace vitrelle {
 namespace {
 
-constexpr std::int32_t smallestAlpha = 125;
-constexpr std::int32_t nearWhiteLimit = 250;
+constexpr std::uint32_t smallestAlpha = 125;
+constexpr std::uint32_t nearWhiteLimit = 250;
 
 /// Where a pixel's samples lie among its four bytes.
 struct PixelLayout {
@@ -21,38 +21,75 @@ struct PixelLayout {
 constexpr PixelLayout layoutOfPixels{.red = 3, .green = 2, .blue = 1, .alpha = 0};
 constexpr PixelLayout layoutOfBitmap{.red = 0, .green = 1, .blue = 2, .alpha = 3};
 
-/// The sample at a byte of a pixel that was read as one machine word. Signed, because the simplest
-/// vector instructions compare signed numbers.
-constexpr std::int32_t sample(std::uint32_t pixel, int byte) {
-  const int shift = std::endian::native == std::endian::little ? 8 * byte : 24 - 8 * byte;
-  return static_cast<std::int32_t>((pixel >> shift) & 0xFF);
+/// How far to the left a byte of a pixel lies once the pixel was read as a machine word.
+constexpr int shiftOf(int byte) {
+  return std::endian::native == std::endian::little ? 8 * byte : 24 - 8 * byte;
 }
 
-/// Counts blocks of pixels. The cells of a block are computed first, in a loop without branches
-/// that the compiler turns into vector code, and counted after that. Neighbouring pixels go to
-/// different tables: they often share a cell, and one counter that is raised by each of them would
-/// make each wait for the one before.
+/// Tells the cell of a pixel. All four samples are looked at in one word, without branches, so that
+/// the compiler makes vector code of a loop over pixels on any processor.
+template <PixelLayout layout>
+class CellFinder final {
+ public:
+  /// The cell that stands for "does not count".
+  static constexpr std::uint32_t skipped = histogramCells;
+
+  explicit CellFinder(bool ignoreWhite)
+      : raise_((128 - smallestAlpha) << shiftOf(layout.alpha) |
+               (ignoreWhite ? (127 - nearWhiteLimit % 128) * colourOnes : 0)) {}
+
+  std::uint32_t operator()(std::uint32_t pixel) const {
+    // Adding to the low 7 bits of each sample carries into its top bit, and no further, where they
+    // reach a limit. A colour sample is above its limit when its own top bit is set as well, an
+    // alpha sample reaches the limit with either.
+    const std::uint32_t raised = (pixel & 0x7F7F7F7F) + raise_;
+    const bool nearWhite = (raised & pixel & colourTops) == colourTops;
+    const bool transparent = ((raised | pixel) & alphaTop) == 0;
+    const std::uint32_t cell = coordinate(pixel, layout.red) << 10 |
+                               coordinate(pixel, layout.green) << 5 |
+                               coordinate(pixel, layout.blue);
+    return (nearWhite | transparent) ? skipped : cell;
+  }
+
+ private:
+  static constexpr std::uint32_t colourOnes =
+      1u << shiftOf(layout.red) | 1u << shiftOf(layout.green) | 1u << shiftOf(layout.blue);
+  static constexpr std::uint32_t colourTops = colourOnes << 7;
+  static constexpr std::uint32_t alphaTop = 1u << shiftOf(layout.alpha) << 7;
+
+  static constexpr std::uint32_t coordinate(std::uint32_t pixel, int byte) {
+    return pixel >> (shiftOf(byte) + sampleShift) & (coordinatesPerChannel - 1);
+  }
+
+  std::uint32_t raise_;
+};
+
+/// Counts blocks of pixels: at once when all are alike, as on a plain background. Otherwise the
+/// cells are found first and counted after that, neighbours in different tables: they often share a
+/// cell, and raising one counter again and again would make each step wait for the one before.
 template <PixelLayout layout>
 class Counter final {
  public:
-  static constexpr std::size_t blockPixels = 512;
+  explicit Counter(bool ignoreWhite) : cellOf_(ignoreWhite) {}
 
-  explicit Counter(bool ignoreWhite) : whiteLimit_(ignoreWhite ? nearWhiteLimit : 255) {}
-
-  /// The pixels of one row from `row` on, every `stride`th of them.
+  /// Every `stride`th pixel from `row` on, so many of them.
   void count(const std::uint8_t* row, std::size_t pixels, std::size_t stride) {
-    std::array<std::uint32_t, blockPixels> block;
-    for (std::size_t done = 0; done < pixels; done += blockPixels) {
-      const std::size_t size = std::min(blockPixels, pixels - done);
-      const std::uint8_t* from = row + done * stride * 4;
+    Block block;
+    std::size_t done = 0;
+    for (; done + blockPixels <= pixels; done += blockPixels) {
       if (stride == 1) {
-        std::memcpy(block.data(), from, size * 4);
+        std::memcpy(block.data(), row + done * 4, sizeof block);
       } else {
-        for (std::size_t i = 0; i < size; ++i)
-          std::memcpy(&block[i], from + i * stride * 4, 4);
+        for (std::size_t i = 0; i < blockPixels; ++i) {
+          block[i] = load(row + (done + i) * stride * 4);
+        }
       }
-      countBlock(block, size);
+      countBlock(block);
+      noteCounted(blockPixels);
     }
+    noteCounted(pixels - done);
+    for (; done < pixels; ++done)
+      ++tables_[0][cellOf_(load(row + done * stride * 4))];
   }
 
   ColourHistogram histogram() && {
@@ -61,59 +98,51 @@ class Counter final {
   }
 
  private:
-  /// Pixels that don't count are counted here.
-  static constexpr std::int32_t skippedCell = histogramCells;
+  static constexpr std::size_t blockPixels = 64;
   static constexpr std::size_t tableCount = 4;
-  using Table = std::array<std::uint32_t, histogramCells + 1>;
+  using Block = std::array<std::uint32_t, blockPixels>;
+  using Table = std::array<std::uint32_t, CellFinder<layout>::skipped + 1>;
 
-  std::uint32_t cell(std::uint32_t pixel) const {
-    const std::int32_t red = sample(pixel, layout.red);
-    const std::int32_t green = sample(pixel, layout.green);
-    const std::int32_t blue = sample(pixel, layout.blue);
-    const bool skipped = (sample(pixel, layout.alpha) < smallestAlpha) |
-                         ((red > whiteLimit_) & (green > whiteLimit_) & (blue > whiteLimit_));
-    const std::int32_t counted =
-        red >> sampleShift << 10 | green >> sampleShift << 5 | blue >> sampleShift;
-    return static_cast<std::uint32_t>(skipped ? skippedCell : counted);
+  static std::uint32_t load(const std::uint8_t* pixel) {
+    std::uint32_t word;
+    std::memcpy(&word, pixel, sizeof word);
+    return word;
   }
 
-  void countBlock(std::array<std::uint32_t, blockPixels>& block, std::size_t size) {
-    for (std::size_t i = 0; i < size; ++i)
-      block[i] = cell(block[i]);
-
-    std::size_t i = 0;
-    for (; i + tableCount <= size; i += tableCount) {
-      const std::uint32_t first = block[i];
-      if (first == block[i + 1] && first == block[i + 2] && first == block[i + 3]) {
-        tables_[0][first] += tableCount;
-      } else {
-        ++tables_[0][first];
-        ++tables_[1][block[i + 1]];
-        ++tables_[2][block[i + 2]];
-        ++tables_[3][block[i + 3]];
+  void countBlock(Block& block) {
+    std::uint32_t difference = 0;
+    for (const std::uint32_t pixel : block)
+      difference |= pixel ^ block[0];
+    if (difference == 0) {
+      tables_[0][cellOf_(block[0])] += blockPixels;
+    } else {
+      for (std::uint32_t& pixel : block)
+        pixel = cellOf_(pixel);
+      for (std::size_t i = 0; i < blockPixels; i += tableCount) {
+        for (std::size_t j = 0; j < tableCount; ++j)
+          ++tables_[j][block[i + j]];
       }
     }
-    for (; i < size; ++i)
-      ++tables_[0][block[i]];
-
-    unfolded_ += static_cast<std::uint32_t>(size);
-    if (unfolded_ > UINT32_MAX - blockPixels) fold();
   }
 
-  /// Moves the tables' counts, before one of them can overflow, to the histogram.
+  /// Empties the tables well before one of their counters could overflow.
+  void noteCounted(std::size_t pixels) {
+    unfolded_ += static_cast<std::uint32_t>(pixels);
+    if (unfolded_ > std::numeric_limits<std::uint32_t>::max() / 2) fold();
+  }
+
+  /// Moves the tables' counts to the histogram.
   void fold() {
     for (std::size_t cell = 0; cell < histogramCells; ++cell) {
-      std::int64_t sum = 0;
       for (const Table& table : tables_)
-        sum += table[cell];
-      histogram_[cell] += sum; // never above the number of pixels, which an int64 holds
+        histogram_[cell] += table[cell];
     }
     for (Table& table : tables_)
       table.fill(0);
     unfolded_ = 0;
   }
 
-  const std::int32_t whiteLimit_;
+  CellFinder<layout> cellOf_;
   std::vector<Table> tables_{tableCount};
   std::uint32_t unfolded_ = 0;
   ColourHistogram histogram_ = ColourHistogram(histogramCells);
