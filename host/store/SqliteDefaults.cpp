@@ -1,0 +1,200 @@
+#include "host/store/SqliteDefaults.h"
+
+#include "host/store/SuiteFile.h"
+
+#include <array>
+#include <memory>
+#include <mutex>
+#include <set>
+
+#include <sys/inotify.h>
+#include <unistd.h>
+
+namespace vitrelle::host {
+
+namespace {
+
+/// Covers a writer that died before it could wake anyone, and a home folder that is yet to come.
+constexpr double slowPollSeconds = 1;
+
+class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults> {
+ public:
+  SqliteDefaults(std::string home, EventLoop loop)
+      : home_(std::move(home)),
+        loop_(std::move(loop)),
+        suites_{Watched(SuiteFile(home_, groupIdentifier)), Watched(SuiteFile(home_, "standard"))} {
+  }
+  ~SqliteDefaults() { stopListening(); }
+  SqliteDefaults(const SqliteDefaults&) = delete;
+  SqliteDefaults& operator=(const SqliteDefaults&) = delete;
+
+  /// Runs a method of the suite's file, alone.
+  template <class Method, class... Arguments>
+  auto access(Suite suite, Method method, const Arguments&... arguments) {
+    const std::lock_guard lock(mutex_);
+    return (watched(suite).file.*method)(arguments...);
+  }
+
+  Status write(Suite suite, const std::string& key, const StoreValue* value) {
+    const std::lock_guard lock(mutex_);
+    SuiteFile& file = watched(suite).file;
+    Status written = value ? file.set(key, *value) : file.remove(key);
+    if (written) {
+      watchHome(); // it may be new
+      file.poke();
+    }
+    return written;
+  }
+
+  Subscription watch(Suite suite, const std::string& key,
+                     const std::function<void(const std::optional<StoreValue>&)>& subscriber) {
+    Subscription subscription =
+        watchKeys(suite, [this, suite, key, subscriber](const auto& changed) {
+          if (changed == key) subscriber(present(suite, key));
+        });
+    subscriber(present(suite, key));
+    return subscription;
+  }
+
+  Subscription watchKeys(Suite suite, std::function<void(const std::string&)> subscriber) {
+    Watched& watch = watched(suite);
+    if (watch.subscribers.empty()) {
+      listen();
+      watch.seen = {};
+      watch.known = {};
+      news(watch);
+    }
+    auto inner = std::make_shared<Subscription>(watch.subscribers.add(std::move(subscriber)));
+    return Subscription([inner, weak = weak_from_this()] {
+      inner->cancel();
+      if (const auto self = weak.lock()) self->stopListeningIfAlone();
+    });
+  }
+
+ private:
+  struct Watched {
+    explicit Watched(SuiteFile suiteFile) : file(std::move(suiteFile)) {}
+    SuiteFile file;
+    SeenChanges seen;
+    std::set<std::string> known; ///< every key seen so far in the present file
+    Subscribers<const std::string&> subscribers;
+  };
+
+  Watched& watched(Suite suite) { return suites_[suite == Suite::group ? 0 : 1]; }
+
+  std::optional<StoreValue> present(Suite suite, const std::string& key) {
+    Result<std::optional<StoreValue>> value = access(suite, &SuiteFile::value, key);
+    return value ? std::move(value).value() : std::nullopt;
+  }
+
+  /// The keys that changed since the last call; with another file, also those of the old one.
+  std::set<std::string> news(Watched& watch) {
+    const std::lock_guard lock(mutex_);
+    const std::uint64_t fileBefore = watch.seen.file;
+    const auto changes = watch.file.changes(watch.seen);
+    if (!changes) return {};
+    std::set<std::string> keys(changes->begin(), changes->end());
+    std::set<std::string> known = keys;
+    known.merge(watch.known);
+    if (watch.seen.file == fileBefore) {
+      watch.known = std::move(known);
+      return keys;
+    }
+    watch.known = std::move(keys);
+    return known;
+  }
+
+  void deliverNews() {
+    for (Watched& watch : suites_) {
+      if (watch.subscribers.empty()) continue;
+      for (const std::string& key : news(watch))
+        watch.subscribers.notify(key);
+    }
+  }
+
+  void listen() {
+    if (inotify_ < 0) {
+      {
+        const std::lock_guard lock(mutex_);
+        inotify_ = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+      }
+      const auto whileAlive = [weak = weak_from_this()](void (SqliteDefaults::*method)()) {
+        return [weak, method] {
+          if (const auto self = weak.lock()) ((*self).*method)();
+        };
+      };
+      slowPoll_ = loop_.every(slowPollSeconds, whileAlive(&SqliteDefaults::tick));
+      if (inotify_ < 0) return;
+      poked_ = loop_.whenReadable(inotify_, whileAlive(&SqliteDefaults::drain));
+    }
+    watchHome();
+  }
+
+  /// Adding the folder again changes nothing, unless another one stands there now.
+  void watchHome() {
+    if (inotify_ >= 0) inotify_add_watch(inotify_, home_.c_str(), IN_CLOSE_WRITE | IN_ONLYDIR);
+  }
+
+  void drain() {
+    std::array<char, 4096> events{};
+    while (read(inotify_, events.data(), events.size()) > 0) {
+    }
+    deliverNews();
+  }
+
+  void tick() {
+    watchHome();
+    deliverNews();
+  }
+
+  void stopListeningIfAlone() {
+    for (const Watched& watch : suites_) {
+      if (!watch.subscribers.empty()) return;
+    }
+    stopListening();
+  }
+
+  void stopListening() {
+    poked_.cancel();
+    slowPoll_.cancel();
+    const std::lock_guard lock(mutex_);
+    if (inotify_ >= 0) close(inotify_);
+    inotify_ = -1;
+  }
+
+  std::string home_;
+  EventLoop loop_;
+  std::mutex mutex_; ///< guards the files and `inotify_`; all else is the main thread's
+  std::array<Watched, 2> suites_;
+  int inotify_ = -1; ///< changed by the main thread, under the mutex
+  Subscription poked_;
+  Subscription slowPoll_;
+};
+
+} // namespace
+
+Defaults makeSqliteDefaults(std::string home, EventLoop loop) {
+  const auto store = std::make_shared<SqliteDefaults>(std::move(home), std::move(loop));
+  return {
+      .value =
+          [store](Suite suite, const std::string& key) {
+            return store->access(suite, &SuiteFile::value, key);
+          },
+      .set = [store](Suite suite, const std::string& key,
+                     const StoreValue& value) { return store->write(suite, key, &value); },
+      .remove = [store](Suite suite,
+                        const std::string& key) { return store->write(suite, key, nullptr); },
+      .keys = [store](Suite suite) { return store->access(suite, &SuiteFile::keys); },
+      .watch =
+          [store](Suite suite, const std::string& key,
+                  std::function<void(const std::optional<StoreValue>&)> subscriber) {
+            return store->watch(suite, key, subscriber);
+          },
+      .watchKeys =
+          [store](Suite suite, std::function<void(const std::string&)> subscriber) {
+            return store->watchKeys(suite, std::move(subscriber));
+          },
+  };
+}
+
+} // namespace vitrelle::host
