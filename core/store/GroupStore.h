@@ -23,13 +23,14 @@ class GroupStore final {
   template <class T>
   std::optional<T> value(const Key<T>& key) const;
 
+  /// The key's default, or an empty value if it has none, in the place of absence.
   template <class T>
   T valueOrDefault(const Key<T>& key) const {
     if (std::optional<T> stored = value(key)) return *std::move(stored);
-    if constexpr (std::is_same_v<T, Data>) {
-      return {};
-    } else {
+    if constexpr (std::is_constructible_v<T, decltype(key.defaultValue)>) {
       return T(key.defaultValue);
+    } else {
+      return {};
     }
   }
 

@@ -17,7 +17,7 @@ enum class Absence {
   isAState, ///< readers may tell it from every value; where one is needed, the default stands in
 };
 
-/// The type of a constant for values of T. Blobs have none but the empty one.
+/// The type of a constant for values of T. Blobs and dates have none.
 template <class T>
 struct ConstantOf {
   using Type = T;
@@ -28,6 +28,10 @@ struct ConstantOf<std::string> {
 };
 template <>
 struct ConstantOf<Data> {
+  using Type = std::monostate;
+};
+template <>
+struct ConstantOf<Date> {
   using Type = std::monostate;
 };
 

@@ -26,8 +26,8 @@ Json json(const Value& value) {
 bool read(const Json& json, std::int64_t& value) {
   if (json.is_number_float()) {
     const double number = json.get<double>();
-    // Both bounds are powers of two, so they are exact.
-    if (number < -0x1p63 || number >= 0x1p63 || number != std::trunc(number)) return false;
+    // The lowest integer is left out: what lies just below it arrives here rounded to it.
+    if (number <= -0x1p63 || number >= 0x1p63 || number != std::trunc(number)) return false;
     value = static_cast<std::int64_t>(number);
     return true;
   }

@@ -16,8 +16,8 @@ inline constexpr std::int64_t noLinkedConfig = 13;
 struct textWidgetData {
   std::int64_t id = 0;            ///< always 0
   std::int64_t textConfigTag = 0; ///< index of the record in its array, for ever
-  std::string textWidgetText;
-  std::string textWidgetFont;       ///< PostScript name; empty for the system's font, as everywhere
+  std::string textWidgetText = {};
+  std::string textWidgetFont = {};  ///< PostScript name; empty for the system's font, as everywhere
   std::int64_t textWidgetSize = 18; ///< points, 10 to 80
   bool textWidgetShadow = true;
   Colour textWidgetTextColour = colours::white;
@@ -91,7 +91,7 @@ struct clockWidgetData {
   std::int64_t clockWidgetDateLength = 0;
   std::int64_t clockWidgetDatePlacement = 0;
   std::int64_t clockWidgetDateSize = 16; ///< points
-  std::string clockWidgetDateFont;
+  std::string clockWidgetDateFont = {};
   Colour clockWidgetDateColour = colours::white;
   std::int64_t clockWidgetAnalogComplexity = 0;
   std::int64_t clockWidgetAnalogDialShape = 0;
@@ -99,7 +99,7 @@ struct clockWidgetData {
   Colour clockWidgetAnalogArmsColour = colours::white;
   std::int64_t clockWidgetAnalogHoursShape = 0;
   Colour clockWidgetAnalogHoursColour = colours::white;
-  std::string clockWidgetDigitalFont;
+  std::string clockWidgetDigitalFont = {};
   std::int64_t clockWidgetDigitalSize = 16; ///< points
   Colour clockWidgetDigitalColour = colours::white;
   std::int64_t clockLinkedConfig = noLinkedConfig;

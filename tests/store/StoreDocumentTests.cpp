@@ -1,0 +1,143 @@
+// Holds the tables of the store's document against the tables in the code.
+#include "core/store/Family.h"
+#include "core/store/RecordFields.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace vitrelle {
+namespace {
+
+using Rows = std::vector<std::string>;
+
+/// The rows of the table under the heading, each cut after its fourth column: what follows is for
+/// readers alone.
+Rows documentedRows(const std::string& heading) {
+  std::ifstream document(VITRELLE_STORE_DOCUMENT);
+  Rows rows;
+  bool inside = false;
+  for (std::string line; std::getline(document, line);) {
+    if (line.starts_with("#")) inside = line == heading;
+    if (!inside || !line.starts_with("| `")) continue;
+    std::size_t end = 0;
+    for (int column = 0; column < 4; ++column)
+      end = line.find(" |", end + 1);
+    rows.push_back(line.substr(0, end));
+  }
+  return rows;
+}
+
+template <class... Columns>
+std::string row(const char* name, const Columns&... columns) {
+  std::ostringstream text;
+  text << "| `" << name << "`";
+  ((text << " | " << columns), ...);
+  return text.str();
+}
+
+const char* typeName(const Key<std::int64_t>&) {
+  return "Int";
+}
+const char* typeName(const Key<double>&) {
+  return "Double";
+}
+const char* typeName(const Key<bool>&) {
+  return "Bool";
+}
+const char* typeName(const Key<std::string>&) {
+  return "String";
+}
+const char* typeName(const Key<Data>&) {
+  return "Data";
+}
+const char* typeName(const Key<Date>&) {
+  return "Date";
+}
+
+std::string shown(bool flag) {
+  return flag ? "`true`" : "`false`";
+}
+std::string shown(std::int64_t number) {
+  return "`" + std::to_string(number) + "`";
+}
+std::string shown(double number) {
+  return shown(static_cast<std::int64_t>(number));
+}
+std::string shown(std::string_view text) {
+  return "`\"" + std::string(text) + "\"`";
+}
+std::string shown(std::monostate) {
+  return "none";
+}
+std::string shown(const Colour& colour) {
+  return "`\"" + colour.hex(false).value_or("") + "\"`";
+}
+
+const char* jsonType(std::int64_t) {
+  return "number";
+}
+const char* jsonType(bool) {
+  return "bool";
+}
+const char* jsonType(const std::string&) {
+  return "string";
+}
+const char* jsonType(const Colour&) {
+  return "colour";
+}
+
+template <class Keys>
+Rows keyRows(const Keys& keys) {
+  Rows rows;
+  const auto add = [&](const auto& key) {
+    rows.push_back(row(key.name, typeName(key),
+                       key.absence == Absence::isAState ? "a state" : "as default",
+                       shown(key.defaultValue)));
+  };
+  std::apply([&](const auto&... all) { (add(all), ...); }, keys);
+  return rows;
+}
+
+TEST(StoreDocument, keys_areThoseOfTheCode) {
+  EXPECT_EQ(documentedRows("### Keys of the group store"), keyRows(keys::groupKeys));
+  EXPECT_EQ(documentedRows("### Keys of the standard defaults"), keyRows(keys::standardKeys));
+}
+
+TEST(StoreDocument, records_areThoseOfTheCode) {
+  forEachFamily([]<class Record>(const Family<Record>& family) {
+    Rows rows;
+    forEachField<Record>([&](const auto& field) {
+      const Record record;
+      const auto& value = record.*field.member;
+      std::string initial = shown(value);
+      if constexpr (std::is_same_v<decltype(field.member), decltype(family.tag)>) {
+        if (field.member == family.tag) initial = "length of the array";
+      }
+      rows.push_back(row(field.name, jsonType(value), rows.size(), initial));
+    });
+    const std::string heading =
+        std::string("### `") + family.recordName + "`, under `" + family.records.name + "`";
+    EXPECT_EQ(documentedRows(heading), rows) << heading;
+  });
+}
+
+TEST(StoreDocument, everyKey_isOfItsSuiteAndNamedOnce) {
+  std::vector<std::string> names;
+  const auto check = [&](Suite suite) {
+    return [&names, suite](const auto&... all) {
+      ((EXPECT_EQ(all.suite, suite) << all.name, names.emplace_back(all.name)), ...);
+    };
+  };
+  std::apply(check(Suite::group), keys::groupKeys);
+  std::apply(check(Suite::standard), keys::standardKeys);
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(std::adjacent_find(names.begin(), names.end()), names.end());
+}
+
+} // namespace
+} // namespace vitrelle
