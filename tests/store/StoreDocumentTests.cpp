@@ -128,13 +128,12 @@ TEST(StoreDocument, records_areThoseOfTheCode) {
 
 TEST(StoreDocument, everyKey_isOfItsSuiteAndNamedOnce) {
   std::vector<std::string> names;
-  const auto check = [&](Suite suite) {
-    return [&names, suite](const auto&... all) {
-      ((EXPECT_EQ(all.suite, suite) << all.name, names.emplace_back(all.name)), ...);
-    };
+  const auto check = [&](const auto& key, Suite suite) {
+    EXPECT_EQ(key.suite, suite) << key.name;
+    names.emplace_back(key.name);
   };
-  std::apply(check(Suite::group), keys::groupKeys);
-  std::apply(check(Suite::standard), keys::standardKeys);
+  std::apply([&](const auto&... keys) { (check(keys, Suite::group), ...); }, keys::groupKeys);
+  std::apply([&](const auto&... keys) { (check(keys, Suite::standard), ...); }, keys::standardKeys);
   std::sort(names.begin(), names.end());
   EXPECT_EQ(std::adjacent_find(names.begin(), names.end()), names.end());
 }
