@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <limits>
 #include <memory>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -57,9 +56,7 @@ void printJson(const std::vector<MMCQ::Color>& palette) {
 Result<std::vector<MMCQ::Color>> paletteOf(const Images& images, const PaletteOptions& options) {
   const auto image = images.load(options.file);
   if (!image) return image.failure();
-  if (const Status decoded = images.decode(std::span(&*image, 1)); !decoded) {
-    return decoded.failure();
-  }
+  if (const auto bitmap = image->bitmap(); !bitmap) return bitmap.failure();
   auto palette = ColorThief::palette(*image, options.colours, options.quality, !options.keepWhite);
   if (!palette) return Failure{options.file, "it has no pixels"};
   return *std::move(palette);

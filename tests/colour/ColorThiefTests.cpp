@@ -11,7 +11,7 @@ class Undecodable final : public ImageSource {
  public:
   PixelSize size() const override { return {10, 10}; }
   const ColourProfile& profile() const override { return profile_; }
-  std::optional<Bitmap> bitmap() const override { return std::nullopt; }
+  Result<Bitmap> bitmap() const override { return Failure{"picture.png", "it is damaged"}; }
 
  private:
   ColourProfile profile_;
