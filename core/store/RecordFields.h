@@ -13,6 +13,8 @@ struct Field {
   const char* name;
   Value Record::*member;
 };
+template <class Record, class Value>
+Field(const char*, Value Record::*) -> Field<Record, Value>;
 
 /// Specialised below for each record: `all`, its fields in the order in which they are stored.
 template <class Record>
