@@ -153,8 +153,8 @@ std::optional<StoreValue> parseDate(const std::string& text) {
                                 std::chrono::day{day}};
   const bool timely = hour < 24 && minute < 60 && second >= 0 && second < 60;
   if (!whole || !calendar.ok() || !timely) return std::nullopt;
-  const auto whole_minutes = sys_days(calendar) - referenceDate + hours(hour) + minutes(minute);
-  return Date{duration<double>(whole_minutes).count() + second};
+  const auto toTheMinute = sys_days(calendar) - referenceDate + hours(hour) + minutes(minute);
+  return Date{duration<double>(toTheMinute).count() + second};
 }
 
 struct ValueType {

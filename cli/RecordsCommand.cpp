@@ -4,6 +4,8 @@
 #include "core/store/RecordCoding.h"
 #include "core/store/RecordFields.h"
 
+#include <nlohmann/json.hpp>
+
 #include <iostream>
 #include <memory>
 #include <string>
@@ -25,7 +27,7 @@ std::string shown(bool flag) {
   return flag ? "true" : "false";
 }
 std::string shown(const std::string& text) {
-  return '"' + text + '"';
+  return nlohmann::json(text).dump();
 }
 std::string shown(const Colour& colour) {
   return colour.hex(false).value_or("none");

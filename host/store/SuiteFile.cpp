@@ -15,11 +15,13 @@ namespace vitrelle::host {
 namespace {
 
 // `rev` counts all changes of the file. A removed key keeps its row, of type "removed", so that
-// those who watch the file learn of it.
-constexpr const char* schemaSql = "PRAGMA journal_mode=WAL;"
-                                  "CREATE TABLE kv(key TEXT PRIMARY KEY NOT NULL, type TEXT NOT "
-                                  "NULL, value, rev INTEGER NOT NULL);"
-                                  "CREATE INDEX kv_rev ON kv(rev)";
+// those who watch the file learn of it. The log comes last: on a full disk, what is only in the log
+// would stay behind when the file is linked into place.
+constexpr const char* schemaSql =
+    "CREATE TABLE kv("
+    " key TEXT PRIMARY KEY NOT NULL, type TEXT NOT NULL, value, rev INTEGER NOT NULL);"
+    "CREATE INDEX kv_rev ON kv(rev);"
+    "PRAGMA journal_mode=WAL";
 
 constexpr const char* readSql = "SELECT type, value FROM kv WHERE key = ?1 AND type <> 'removed'";
 

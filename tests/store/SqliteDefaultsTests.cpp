@@ -13,6 +13,8 @@
 #include <random>
 #include <string>
 
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -203,6 +205,34 @@ TEST_F(SqliteDefaultsTest, fullDisk_failsAndKeepsWhatIsStored) {
   });
   EXPECT_TRUE(succeeded(child));
   EXPECT_EQ(read(open(), Suite::group, "key"), StoreValue(std::int64_t{1}));
+}
+
+TEST_F(SqliteDefaultsTest, diskFullAtTheFirstWrite_leavesNoStoreOrAGoodOne) {
+  fs::create_directories(home);
+  // Without the right to mount, as in most containers, there is no small disk to try it on.
+  constexpr int unableToMount = 77;
+  const pid_t child = fork();
+  if (child == 0) {
+    for (int kilobytes = 4; kilobytes <= 160; kilobytes += 4) {
+      const std::string size = "size=" + std::to_string(kilobytes) + "k";
+      if (unshare(CLONE_NEWNS) != 0 || mount("", "/", "", MS_REC | MS_PRIVATE, "") != 0 ||
+          mount("tmpfs", home.c_str(), "tmpfs", 0, size.c_str()) != 0) {
+        _exit(unableToMount);
+      }
+      const bool written = open().set(Suite::group, "key", true).ok();
+      mount("tmpfs", home.c_str(), "tmpfs", MS_REMOUNT, "size=1m");
+      const StoreValue value = read(open(), Suite::group, "key");
+      const bool good =
+          value == StoreValue(true) || (!written && value == StoreValue(std::string("absent")));
+      if (!good || !open().set(Suite::group, "other", true)) _exit(kilobytes);
+    }
+    _exit(0);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  ASSERT_TRUE(WIFEXITED(status));
+  if (WEXITSTATUS(status) == unableToMount) GTEST_SKIP() << "no right to mount";
+  EXPECT_EQ(WEXITSTATUS(status), 0) << "the disk's size in kilobytes";
 }
 
 TEST_F(SqliteDefaultsTest, manyWritersFromTheFirstMoment_loseNoKey) {
