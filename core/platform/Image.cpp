@@ -15,7 +15,7 @@ class MemoryImage final : public ImageSource {
 
   PixelSize size() const override { return bitmap_.size; }
   const ColourProfile& profile() const override { return profile_; }
-  std::optional<Bitmap> bitmap() const override { return bitmap_; }
+  Result<Bitmap> bitmap() const override { return bitmap_; }
 
  private:
   Bitmap bitmap_;
@@ -44,13 +44,13 @@ Image::Image(Bitmap bitmap, ColourProfile profile)
     : source_(std::make_shared<MemoryImage>(std::move(bitmap), std::move(profile))) {}
 
 std::optional<Image> Image::cropped(const PixelRect& rect) const {
-  std::optional<Bitmap> whole = bitmap();
+  Result<Bitmap> whole = bitmap();
   if (!whole) return std::nullopt;
   const Span columns = intersect(rect.x, rect.width, whole->size.width);
   const Span rows = intersect(rect.y, rect.height, whole->size.height);
   if (columns.length == 0 || rows.length == 0) return std::nullopt;
 
-  Bitmap part = std::move(*whole);
+  Bitmap part = *std::move(whole);
   part.pixels = part.row(static_cast<std::int32_t>(rows.start)) + columns.start * 4;
   part.size = {static_cast<std::int32_t>(columns.length), static_cast<std::int32_t>(rows.length)};
   return Image(std::move(part), profile());

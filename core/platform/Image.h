@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/platform/ColourProfile.h"
+#include "core/platform/Result.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -46,8 +47,8 @@ class ImageSource {
   virtual ~ImageSource() = default;
   virtual PixelSize size() const = 0;
   virtual const ColourProfile& profile() const = 0;
-  /// Decodes at the first call, if need be. Nothing when the pixels can't be had.
-  virtual std::optional<Bitmap> bitmap() const = 0;
+  /// Decodes at the first call, if need be.
+  virtual Result<Bitmap> bitmap() const = 0;
 };
 
 /// Two images are equal when they are the same object.
@@ -59,7 +60,8 @@ class Image final {
 
   PixelSize size() const { return source_->size(); }
   const ColourProfile& profile() const { return source_->profile(); }
-  std::optional<Bitmap> bitmap() const { return source_->bitmap(); }
+  /// The pixels, decoded if they are not yet, or why they can't be had.
+  Result<Bitmap> bitmap() const { return source_->bitmap(); }
 
   /// The part of the image inside the rectangle, as a view: no pixel is copied. The rectangle is
   /// first cut to the bitmap. Nothing when there is no bitmap or nothing is left of the rectangle.

@@ -10,7 +10,8 @@
 
 namespace vitrelle {
 
-/// A screen setting: bounds in points, and the two scales in pixels per point.
+/// A screen setting: bounds in points, and the two scales in pixels per point. A screenshot has
+/// bounds times scale pixels.
 struct ScreenMode {
   PointSize bounds;
   double scale = 0;
@@ -21,8 +22,6 @@ struct ScreenMode {
 struct PhoneModel {
   std::string name;                     ///< marketing name, "iPhone 15 Pro"
   std::vector<std::string> identifiers; ///< machine identifiers, the usual one first
-  double pixelWidth = 0;                ///< of a screenshot
-  double pixelHeight = 0;
   ScreenMode standard;
   ScreenMode zoomed;
 };

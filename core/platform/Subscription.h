@@ -43,7 +43,8 @@ class Subscribers final {
   void notify(Values... values) const {
     const auto state = state_; // a subscriber may destroy this list
     std::vector<std::uint64_t> tickets;
-    for (const auto& entry : state->subscribers) tickets.push_back(entry.first);
+    for (const auto& entry : state->subscribers)
+      tickets.push_back(entry.first);
     for (const std::uint64_t ticket : tickets) {
       const auto found = state->subscribers.find(ticket);
       if (found == state->subscribers.end()) continue;

@@ -25,7 +25,8 @@ class InterruptDescriptor final {
   }
   ~InterruptDescriptor() {
     signalfd_siginfo pending;
-    while (read(descriptor_, &pending, sizeof pending) > 0) {}
+    while (read(descriptor_, &pending, sizeof pending) > 0) {
+    }
     close(descriptor_);
     sigprocmask(SIG_SETMASK, &before_, nullptr);
   }
@@ -51,8 +52,8 @@ EventLoop PollLoop::operations() {
           .every =
               [this](double seconds, std::function<void()> call) {
                 const std::uint64_t ticket = nextTicket_++;
-                const auto distance =
-                    std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds));
+                const auto distance = std::chrono::duration_cast<Clock::duration>(
+                    std::chrono::duration<double>(seconds));
                 timers_.emplace(ticket, Timer{distance, Clock::now() + distance, std::move(call)});
                 return Subscription([this, ticket] { timers_.erase(ticket); });
               }};
@@ -72,7 +73,8 @@ int PollLoop::millisecondsToNextTimer() const {
   constexpr int forever = -1;
   if (timers_.empty()) return forever;
   Clock::time_point soonest = Clock::time_point::max();
-  for (const auto& [ticket, timer] : timers_) soonest = std::min(soonest, timer.due);
+  for (const auto& [ticket, timer] : timers_)
+    soonest = std::min(soonest, timer.due);
   const auto left = std::chrono::ceil<std::chrono::milliseconds>(soonest - Clock::now()).count();
   return static_cast<int>(std::clamp<std::int64_t>(left, 0, 60'000));
 }

@@ -29,8 +29,8 @@ TEST(Image, cropped_isTheRectangleCutToTheBitmap) {
       {{5, 5, 5, -1}, std::nullopt},
   };
   for (const Case& c : cases) {
-    SCOPED_TRACE(testing::Message() << c.rect.x << ',' << c.rect.y << ' ' << c.rect.width << 'x'
-                                    << c.rect.height);
+    SCOPED_TRACE(testing::Message()
+                 << c.rect.x << ',' << c.rect.y << ' ' << c.rect.width << 'x' << c.rect.height);
     const std::optional<Image> part = image.cropped(c.rect);
     ASSERT_EQ(part.has_value(), c.expected.has_value());
     if (!part) continue;

@@ -40,7 +40,8 @@ void FakeDefaults::use(Platform& platform) {
       .keys = [this](Suite suite) -> Result<std::vector<std::string>> {
         if (broken) return refuse().failure();
         std::vector<std::string> keys;
-        for (const auto& entry : values_[suite]) keys.push_back(entry.first);
+        for (const auto& entry : values_[suite])
+          keys.push_back(entry.first);
         return keys;
       },
       .watch =
@@ -69,13 +70,12 @@ std::string fileName(const std::string& path) {
 } // namespace
 
 void FakeFolder::use(Platform& platform) {
-  platform.files = {.groupContainer = [this]() -> std::optional<std::string> {
-                      if (!exists) return std::nullopt;
-                      return root;
-                    },
-                    .fileExists = [this](const std::string& path) {
-                      return images.contains(fileName(path));
-                    }};
+  platform.files = {
+      .groupContainer = [this]() -> std::optional<std::string> {
+        if (!exists) return std::nullopt;
+        return root;
+      },
+      .fileExists = [this](const std::string& path) { return images.contains(fileName(path)); }};
   platform.images.load = [this](const std::string& path) -> Result<Image> {
     const auto found = images.find(fileName(path));
     if (found == images.end()) return Failure{path, "no such file"};

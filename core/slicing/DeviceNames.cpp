@@ -1,0 +1,174 @@
+#include "core/slicing/DeviceNames.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace vitrelle {
+
+namespace {
+
+// clang-format off
+constexpr DeviceNameRow rows[] = {
+  {"iPhone3,1",         "iPhone 4"},
+  {"iPhone3,2",         "iPhone 4"},
+  {"iPhone3,3",         "iPhone 4"},
+  {"iPhone4,1",         "iPhone 4s"},
+  {"iPhone5,1",         "iPhone 5"},
+  {"iPhone5,2",         "iPhone 5"},
+  {"iPhone5,3",         "iPhone 5c"},
+  {"iPhone5,4",         "iPhone 5c"},
+  {"iPhone6,1",         "iPhone 5s"},
+  {"iPhone6,2",         "iPhone 5s"},
+  {"iPhone7,2",         "iPhone 6"},
+  {"iPhone7,1",         "iPhone 6 Plus"},
+  {"iPhone8,1",         "iPhone 6s"},
+  {"iPhone8,2",         "iPhone 6s Plus"},
+  {"iPhone8,4",         "iPhone SE"},
+  {"iPhone9,1",         "iPhone 7"},
+  {"iPhone9,3",         "iPhone 7"},
+  {"iPhone9,2",         "iPhone 7 Plus"},
+  {"iPhone9,4",         "iPhone 7 Plus"},
+  {"iPhone10,1",        "iPhone 8"},
+  {"iPhone10,4",        "iPhone 8"},
+  {"iPhone10,2",        "iPhone 8 Plus"},
+  {"iPhone10,5",        "iPhone 8 Plus"},
+  {"iPhone10,3",        "iPhone X"},
+  {"iPhone10,6",        "iPhone X"},
+  {"iPhone11,2",        "iPhone XS"},
+  {"iPhone11,4",        "iPhone XS Max"},
+  {"iPhone11,6",        "iPhone XS Max"},
+  {"iPhone11,8",        "iPhone XR"},
+  {"iPhone12,1",        "iPhone 11"},
+  {"iPhone12,3",        "iPhone 11 Pro"},
+  {"iPhone12,5",        "iPhone 11 Pro Max"},
+  {"iPhone12,8",        "iPhone SE (2nd generation)"},
+  {"iPhone13,1",        "iPhone 12 Mini"},
+  {"iPhone13,2",        "iPhone 12"},
+  {"iPhone13,3",        "iPhone 12 Pro"},
+  {"iPhone13,4",        "iPhone 12 Pro Max"},
+  {"iPhone14,4",        "iPhone 13 Mini"},
+  {"iPhone14,1",        "iPhone 13"},
+  {"iPhone14,5",        "iPhone 13"},
+  {"iPhone14,2",        "iPhone 13 Pro"},
+  {"iPhone14,3",        "iPhone 13 Pro Max"},
+  {"iPhone14,6",        "iPhone SE (3rd generation)"},
+  {"iPhone14,7",        "iPhone 14"},
+  {"iPhone14,8",        "iPhone 14 Plus"},
+  {"iPhone15,2",        "iPhone 14 Pro"},
+  {"iPhone15,3",        "iPhone 14 Pro Max"},
+  {"iPhone15,4",        "iPhone 15"},
+  {"iPhone15,5",        "iPhone 15 Plus"},
+  {"iPhone16,1",        "iPhone 15 Pro"},
+  {"iPhone16,2",        "iPhone 15 Pro Max"},
+  {"iPhone17,1",        "iPhone 16 Pro"},
+  {"iPhone17,2",        "iPhone 16 Pro Max"},
+  {"iPhone17,3",        "iPhone 16"},
+  {"iPhone17,4",        "iPhone 16 Plus"},
+  {"iPad2,1",           "iPad 2"},
+  {"iPad2,2",           "iPad 2"},
+  {"iPad2,3",           "iPad 2"},
+  {"iPad2,4",           "iPad 2"},
+  {"iPad3,1",           "iPad (3rd generation)"},
+  {"iPad3,2",           "iPad (3rd generation)"},
+  {"iPad3,3",           "iPad (3rd generation)"},
+  {"iPad3,4",           "iPad (4th generation)"},
+  {"iPad3,5",           "iPad (4th generation)"},
+  {"iPad3,6",           "iPad (4th generation)"},
+  {"iPad6,11",          "iPad (5th generation)"},
+  {"iPad6,12",          "iPad (5th generation)"},
+  {"iPad7,5",           "iPad (6th generation)"},
+  {"iPad7,6",           "iPad (6th generation)"},
+  {"iPad7,11",          "iPad (7th generation)"},
+  {"iPad7,12",          "iPad (7th generation)"},
+  {"iPad11,6",          "iPad (8th generation)"},
+  {"iPad11,7",          "iPad (8th generation)"},
+  {"iPad4,1",           "iPad Air"},
+  {"iPad4,2",           "iPad Air"},
+  {"iPad4,3",           "iPad Air"},
+  {"iPad5,3",           "iPad Air 2"},
+  {"iPad5,4",           "iPad Air 2"},
+  {"iPad11,3",          "iPad Air (3rd generation)"},
+  {"iPad11,4",          "iPad Air (3rd generation)"},
+  {"iPad13,1",          "iPad Air (4th generation)"},
+  {"iPad13,2",          "iPad Air (4th generation)"},
+  {"iPad2,5",           "iPad mini"},
+  {"iPad2,6",           "iPad mini"},
+  {"iPad2,7",           "iPad mini"},
+  {"iPad4,4",           "iPad mini 2"},
+  {"iPad4,5",           "iPad mini 2"},
+  {"iPad4,6",           "iPad mini 2"},
+  {"iPad4,7",           "iPad mini 3"},
+  {"iPad4,8",           "iPad mini 3"},
+  {"iPad4,9",           "iPad mini 3"},
+  {"iPad5,1",           "iPad mini 4"},
+  {"iPad5,2",           "iPad mini 4"},
+  {"iPad11,1",          "iPad mini (5th generation)"},
+  {"iPad11,2",          "iPad mini (5th generation)"},
+  {"iPad6,3",           "iPad Pro (9.7-inch)"},
+  {"iPad6,4",           "iPad Pro (9.7-inch)"},
+  {"iPad7,3",           "iPad Pro (10.5-inch)"},
+  {"iPad7,4",           "iPad Pro (10.5-inch)"},
+  {"iPad8,1",           "iPad Pro (11-inch) (1st generation)"},
+  {"iPad8,2",           "iPad Pro (11-inch) (1st generation)"},
+  {"iPad8,3",           "iPad Pro (11-inch) (1st generation)"},
+  {"iPad8,4",           "iPad Pro (11-inch) (1st generation)"},
+  {"iPad8,9",           "iPad Pro (11-inch) (2nd generation)"},
+  {"iPad8,10",          "iPad Pro (11-inch) (2nd generation)"},
+  {"iPad6,7",           "iPad Pro (12.9-inch) (1st generation)"},
+  {"iPad6,8",           "iPad Pro (12.9-inch) (1st generation)"},
+  {"iPad7,1",           "iPad Pro (12.9-inch) (2nd generation)"},
+  {"iPad7,2",           "iPad Pro (12.9-inch) (2nd generation)"},
+  {"iPad8,5",           "iPad Pro (12.9-inch) (3rd generation)"},
+  {"iPad8,6",           "iPad Pro (12.9-inch) (3rd generation)"},
+  {"iPad8,7",           "iPad Pro (12.9-inch) (3rd generation)"},
+  {"iPad8,8",           "iPad Pro (12.9-inch) (3rd generation)"},
+  {"iPad8,11",          "iPad Pro (12.9-inch) (4th generation)"},
+  {"iPad8,12",          "iPad Pro (12.9-inch) (4th generation)"},
+  {"iPod5,1",           "iPod touch (5th generation)"},
+  {"iPod7,1",           "iPod touch (6th generation)"},
+  {"iPod9,1",           "iPod touch (7th generation)"},
+  {"AppleTV5,3",        "Apple TV"},
+  {"AppleTV6,2",        "Apple TV 4K"},
+  {"AudioAccessory1,1", "HomePod"},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const DeviceNameRow> deviceNameRows() {
+  return rows;
+}
+
+std::string machineIdentifier(const MachineField& machine) {
+  std::string identifier;
+  for (const signed char byte : machine) {
+    if (byte < 0) fatalError("a machine identifier with a byte that is not ASCII");
+    if (byte != 0) identifier.push_back(static_cast<char>(byte));
+  }
+  return identifier;
+}
+
+std::string modelName(std::string_view identifier, const Device& device) {
+  const auto row = std::ranges::find(rows, identifier, &DeviceNameRow::identifier);
+  if (row != std::end(rows)) return std::string(row->name);
+  if (identifier == "i386" || identifier == "x86_64" || identifier == "arm64") {
+    const auto model = device.environment("SIMULATOR_MODEL_IDENTIFIER");
+    // A simulator that simulates a simulator would never end.
+    if (model == identifier) fatalError("SIMULATOR_MODEL_IDENTIFIER names a simulator");
+    return "Simulator " + modelName(model.value_or("iOS"), device);
+  }
+  return std::string(identifier);
+}
+
+const std::string& deviceName(const Platform& platform) {
+  struct DeviceName {
+    std::string value;
+  };
+  const auto name = platform.shared.get<DeviceName>([&platform] {
+    const std::string identifier = machineIdentifier(platform.device.machine());
+    return new DeviceName{modelName(identifier, platform.device)};
+  });
+  return name->value; // the platform's shared instances keep it alive
+}
+
+} // namespace vitrelle

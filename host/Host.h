@@ -1,0 +1,20 @@
+// The platform on Linux, put together: what each program's main.cpp builds its `Platform` from.
+#pragma once
+
+#include "core/platform/Platform.h"
+#include "host/desktop/EventLoop.h"
+#include "host/files/HomeFolder.h"
+#include "host/phone/PhoneSettings.h"
+
+namespace vitrelle::host {
+
+struct HostOptions {
+  HomeFolder home;
+  PhoneOverrides phone;
+  bool verbose = false; ///< the debug console goes to stderr, else nowhere
+};
+
+/// The platform's operations. What `loop` refers to must outlive them.
+Platform makePlatform(const HostOptions& options, const EventLoop& loop);
+
+} // namespace vitrelle::host

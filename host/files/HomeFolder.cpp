@@ -1,0 +1,60 @@
+#include "host/files/HomeFolder.h"
+
+#include "core/platform/Defaults.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+
+#include <sys/stat.h>
+
+namespace vitrelle::host {
+
+namespace {
+
+/// The variable's value when it holds an absolute path or one is not asked for.
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? "" : value;
+}
+
+} // namespace
+
+HomeFolder HomeFolder::ofUser() {
+  if (const std::string home = environment("VITRELLE_HOME"); !home.empty()) return HomeFolder(home);
+  const std::string data = environment("XDG_DATA_HOME");
+  // A relative path there is to be ignored, by the rules of that variable.
+  if (data.starts_with('/')) return HomeFolder(data + "/vitrelle");
+  return HomeFolder(environment("HOME") + "/.local/share/vitrelle");
+}
+
+std::string HomeFolder::groupFolder() const {
+  return path_ + "/" + groupIdentifier;
+}
+
+Files HomeFolder::files() const {
+  return {.groupContainer = [folder = groupFolder()] { return std::optional(folder); },
+          .fileExists =
+              [](const std::string& path) {
+                struct stat status {};
+                return stat(path.c_str(), &status) == 0;
+              }};
+}
+
+Status makeFolder(const std::string& path) {
+  if (mkdir(path.c_str(), 0700) == 0) return success();
+  const int error = errno;
+  struct stat status {};
+  if (error == EEXIST && stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) {
+    return success();
+  }
+  const std::size_t slash = path.find_last_of('/');
+  if (error == ENOENT && slash != std::string::npos && slash > 0) {
+    Status parent = makeFolder(path.substr(0, slash));
+    if (!parent) return parent;
+    if (mkdir(path.c_str(), 0700) == 0 || errno == EEXIST) return success();
+  }
+  return Failure{path, std::strerror(error)};
+}
+
+} // namespace vitrelle::host

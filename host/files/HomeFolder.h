@@ -1,0 +1,38 @@
+// The folder in which all that Vitrelle keeps lies, and the names in it.
+#pragma once
+
+#include "core/platform/Files.h"
+#include "core/platform/Result.h"
+
+#include <string>
+
+namespace vitrelle::host {
+
+/// Its parts are made when first written to, for the user alone.
+class HomeFolder final {
+ public:
+  explicit HomeFolder(std::string path) : path_(std::move(path)) {}
+
+  /// `$VITRELLE_HOME`, else `$XDG_DATA_HOME/vitrelle`, else `~/.local/share/vitrelle`.
+  static HomeFolder ofUser();
+
+  const std::string& path() const { return path_; }
+  /// Slices and other images, and nothing else; no subfolders.
+  std::string groupFolder() const;
+  /// Files on their way. On the same file system, so that they can be renamed into place.
+  std::string pendingFolder() const { return path_ + "/tmp"; }
+  /// Rewritten at each request that the widgets be drawn anew.
+  std::string timelinesFile() const { return path_ + "/timelines"; }
+  /// The phone that is stood for.
+  std::string phoneFile() const { return path_ + "/phone"; }
+
+  Files files() const;
+
+ private:
+  std::string path_;
+};
+
+/// Makes the folder and those above it, readable by the user alone; existing ones stay as they are.
+Status makeFolder(const std::string& path);
+
+} // namespace vitrelle::host

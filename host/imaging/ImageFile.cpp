@@ -1,0 +1,193 @@
+#include "host/imaging/ImageFile.h"
+
+#include "host/imaging/HeifReader.h"
+#include "host/imaging/JpegReader.h"
+#include "host/imaging/ParallelWork.h"
+#include "host/imaging/PixelBuffer.h"
+#include "host/imaging/PngFiles.h"
+#include "host/imaging/PngReader.h"
+#include "host/imaging/PngWriter.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace vitrelle::host {
+
+namespace {
+
+constexpr std::size_t largestFile = std::size_t{512} << 20;
+
+class OpenFile final {
+ public:
+  explicit OpenFile(int descriptor) : descriptor_(descriptor) {}
+  OpenFile(OpenFile&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+  OpenFile& operator=(OpenFile&&) = delete;
+  ~OpenFile() {
+    if (descriptor_ >= 0) close(descriptor_);
+  }
+  int get() const { return descriptor_; }
+
+ private:
+  int descriptor_;
+};
+
+struct FileBytes {
+  std::shared_ptr<std::uint8_t> memory;
+  std::size_t size = 0;
+  std::span<const std::uint8_t> span() const { return {memory.get(), size}; }
+};
+
+/// The first bytes of the file, as many as there are up to `most`; nothing when it can't be read.
+/// They are read, not mapped: a mapped file that shrinks takes the process with it.
+std::optional<FileBytes> readBytes(int file, std::size_t most) {
+  FileBytes bytes{allocatePixels(most), 0};
+  if (!bytes.memory) return std::nullopt;
+  while (bytes.size < most) {
+    const ssize_t count = pread(file, bytes.memory.get() + bytes.size, most - bytes.size,
+                                static_cast<off_t>(bytes.size));
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return std::nullopt;
+    if (count == 0) break;
+    bytes.size += static_cast<std::size_t>(count);
+  }
+  return bytes;
+}
+
+struct Format {
+  bool (*matches)(std::span<const std::uint8_t>);
+  Result<PixelSize> (*size)(std::span<const std::uint8_t>);
+  Result<DecodedPicture> (*decode)(std::span<const std::uint8_t>);
+  bool sizeIsInHeader; ///< else the whole file must be searched for it
+};
+
+Result<PixelSize> readPngSize(std::span<const std::uint8_t> bytes) {
+  const Result<PngHeader> header = readPngHeader(bytes);
+  if (!header) return header.failure();
+  return header->size;
+}
+
+constexpr Format formats[] = {
+    {isPng, readPngSize, decodePng, true},
+    {isJpeg, readJpegSize, decodeJpeg, false},
+    {isHeif, readHeifSize, decodeHeif, false},
+};
+
+/// A failure in reading a file's content, with the file's name in the place of the format's.
+Failure ofFile(const std::string& path, const Failure& failure) {
+  return {path, failure.why};
+}
+
+class FileImage final : public ImageSource {
+ public:
+  FileImage(std::string path, OpenFile file, std::size_t bytes, const Format& format,
+            PixelSize size)
+      : path_(std::move(path)),
+        file_(std::move(file)),
+        bytes_(bytes),
+        format_(format),
+        size_(size) {}
+
+  PixelSize size() const override { return size_; }
+  const ColourProfile& profile() const override {
+    static const ColourProfile none;
+    const Result<DecodedPicture>& picture = decoded();
+    return picture ? picture->profile : none;
+  }
+  Result<Bitmap> bitmap() const override {
+    const Result<DecodedPicture>& picture = decoded();
+    if (!picture) return picture.failure();
+    return picture->bitmap;
+  }
+
+ private:
+  const Result<DecodedPicture>& decoded() const {
+    std::call_once(once_, [this] { decoded_ = decode(); });
+    return *decoded_;
+  }
+
+  Result<DecodedPicture> decode() const {
+    const auto bytes = readBytes(file_.get(), bytes_);
+    if (!bytes) return Failure{path_, std::strerror(errno)};
+    Result<DecodedPicture> picture = format_.decode(bytes->span());
+    if (!picture) return ofFile(path_, picture.failure());
+    // Someone wrote into the file since it was opened, and its size was told to others.
+    if (picture->bitmap.size != size_) return Failure{path_, "the file changed while it was read"};
+    return picture;
+  }
+
+  std::string path_;
+  OpenFile file_;
+  std::size_t bytes_;
+  const Format& format_;
+  PixelSize size_;
+  mutable std::once_flag once_;
+  mutable std::optional<Result<DecodedPicture>> decoded_;
+};
+
+Status decodeAll(std::span<const Image> images) {
+  std::vector<std::optional<Failure>> failures(images.size());
+  inParallel(images.size(), [&] {
+    return [&](std::size_t index) {
+      const Result<Bitmap> bitmap = images[index].bitmap();
+      if (!bitmap) failures[index] = bitmap.failure();
+    };
+  });
+  const auto first = std::ranges::find_if(failures, [](const auto& f) { return f.has_value(); });
+  if (first == failures.end()) return success();
+  return **first;
+}
+
+Result<Data> pngRepresentation(const Image& image) {
+  const Result<Bitmap> bitmap = image.bitmap();
+  if (!bitmap) return bitmap.failure();
+  PngWriter writer;
+  const auto bytes = writer.encode(*bitmap, image.profile());
+  if (bytes.empty()) return Failure{"PNG", "not enough memory"};
+  return Data(bytes.begin(), bytes.end());
+}
+
+} // namespace
+
+Result<Image> loadImageFile(const std::string& path) {
+  // Without waiting, should it be a pipe that nobody writes to.
+  OpenFile file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  struct stat status {};
+  if (file.get() < 0 || fstat(file.get(), &status) != 0) return Failure{path, std::strerror(errno)};
+  if (!S_ISREG(status.st_mode)) return Failure{path, "not a file"};
+  const auto fileBytes = static_cast<std::size_t>(status.st_size);
+  if (fileBytes == 0) return Failure{path, "the file is empty"};
+  if (fileBytes > largestFile) return Failure{path, "the file is too large"};
+
+  auto bytes = readBytes(file.get(), std::min(fileBytes, pngHeaderBytes));
+  if (!bytes) return Failure{path, std::strerror(errno)};
+  const auto format =
+      std::ranges::find_if(formats, [&](const Format& f) { return f.matches(bytes->span()); });
+  if (format == std::end(formats)) return Failure{path, "not a PNG, JPEG or HEIC picture"};
+  if (!format->sizeIsInHeader) {
+    bytes = readBytes(file.get(), fileBytes);
+    if (!bytes) return Failure{path, std::strerror(errno)};
+  }
+  const Result<PixelSize> size = format->size(bytes->span());
+  if (!size) return ofFile(path, size.failure());
+  return Image(std::make_shared<FileImage>(path, std::move(file), fileBytes, *format, *size));
+}
+
+Images makeImages(const HomeFolder& home) {
+  return {.load = loadImageFile,
+          .decode = decodeAll,
+          .pngRepresentation = pngRepresentation,
+          .writePngFiles = [home](std::span<const PngFile> files) {
+            return writePngFiles(home, files);
+          }};
+}
+
+} // namespace vitrelle::host

@@ -1,0 +1,168 @@
+#include "host/imaging/JpegReader.h"
+
+#include "host/imaging/IccProfile.h"
+#include "host/imaging/PictureBounds.h"
+#include "host/imaging/PixelBuffer.h"
+
+#include <csetjmp>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include <jpeglib.h>
+
+namespace vitrelle::host {
+
+namespace {
+
+/// libjpeg's error handler with a way back. Warnings mean damaged pixels, so they count as errors.
+struct Errors {
+  jpeg_error_mgr manager; // first: libjpeg hands back a pointer to it
+  std::jmp_buf back;
+  char complaint[JMSG_LENGTH_MAX];
+};
+
+[[noreturn]] void fail(j_common_ptr common) {
+  auto* errors = reinterpret_cast<Errors*>(common->err);
+  common->err->format_message(common, errors->complaint);
+  std::longjmp(errors->back, 1);
+}
+
+void failOnWarning(j_common_ptr common, int level) {
+  if (level < 0) fail(common);
+}
+
+void ignore(j_common_ptr) {}
+
+/// A small file can ask for any number of passes over a large picture; cameras make about ten.
+void limitScans(j_common_ptr common) {
+  constexpr int mostScans = 200;
+  if (reinterpret_cast<j_decompress_ptr>(common)->input_scan_number > mostScans) {
+    auto* errors = reinterpret_cast<Errors*>(common->err);
+    std::snprintf(errors->complaint, sizeof errors->complaint, "too many scans");
+    std::longjmp(errors->back, 1);
+  }
+}
+
+/// One decompression. Its steps give false when libjpeg complained.
+class Decompression final {
+ public:
+  explicit Decompression(std::span<const std::uint8_t> bytes) : bytes_(bytes) {
+    info_.err = jpeg_std_error(&errors_.manager);
+    errors_.manager.error_exit = fail;
+    errors_.manager.emit_message = failOnWarning;
+    errors_.manager.output_message = ignore;
+  }
+  ~Decompression() { jpeg_destroy_decompress(&info_); }
+  Decompression(const Decompression&) = delete;
+  Decompression& operator=(const Decompression&) = delete;
+
+  bool readHeader() {
+    if (setjmp(errors_.back) != 0) return false;
+    jpeg_create_decompress(&info_);
+    progress_.progress_monitor = limitScans;
+    info_.progress = &progress_;
+    jpeg_mem_src(&info_, bytes_.data(), bytes_.size());
+    jpeg_save_markers(&info_, JPEG_APP0 + 2, 0xFFFF); // where ICC profiles lie
+    jpeg_read_header(&info_, TRUE);
+    return true;
+  }
+
+  std::int64_t width() const { return info_.image_width; }
+  std::int64_t height() const { return info_.image_height; }
+
+  /// CMYK has no conversion in libjpeg: its four samples come as they are.
+  bool isCmyk() const {
+    return info_.jpeg_color_space == JCS_CMYK || info_.jpeg_color_space == JCS_YCCK;
+  }
+  bool isInverted() const { return info_.saw_Adobe_marker != 0; }
+
+  bool readPixels(std::uint8_t* rgba, std::size_t bytesPerRow) {
+    if (setjmp(errors_.back) != 0) return false;
+    info_.out_color_space = isCmyk() ? JCS_CMYK : JCS_EXT_RGBA;
+    info_.dct_method = JDCT_ISLOW;
+    jpeg_start_decompress(&info_);
+    while (info_.output_scanline < info_.output_height) {
+      JSAMPROW row = rgba + info_.output_scanline * bytesPerRow;
+      jpeg_read_scanlines(&info_, &row, 1);
+    }
+    jpeg_finish_decompress(&info_);
+    return true;
+  }
+
+  Data icc() {
+    JOCTET* profile = nullptr;
+    unsigned int size = 0;
+    if (setjmp(errors_.back) != 0) return {};
+    if (!jpeg_read_icc_profile(&info_, &profile, &size)) return {};
+    Data data(profile, profile + size);
+    std::free(profile);
+    return isIccProfile(data) ? data : Data();
+  }
+
+  Failure failure() const {
+    return {"JPEG", std::string("the picture is damaged (") + errors_.complaint + ")"};
+  }
+
+ private:
+  std::span<const std::uint8_t> bytes_;
+  jpeg_decompress_struct info_{};
+  jpeg_progress_mgr progress_{};
+  Errors errors_{};
+};
+
+/// Without a colour-managed conversion, the plain one. Adobe's files hold the inks inverted.
+void convertCmyk(std::uint8_t* rgba, std::size_t pixels, bool inverted) {
+  for (std::size_t i = 0; i < pixels; ++i, rgba += 4) {
+    const unsigned flip = inverted ? 0 : 255;
+    const unsigned paper = rgba[3] ^ flip;
+    for (std::size_t ink = 0; ink < 3; ++ink) {
+      rgba[ink] = static_cast<std::uint8_t>(((rgba[ink] ^ flip) * paper + 127) / 255);
+    }
+    rgba[3] = 255;
+  }
+}
+
+Result<PixelSize> boundedSize(const Decompression& jpeg) {
+  if (!withinBounds(jpeg.width(), jpeg.height())) {
+    return Failure{"JPEG", boundsComplaint(jpeg.width(), jpeg.height())};
+  }
+  return PixelSize{static_cast<std::int32_t>(jpeg.width()),
+                   static_cast<std::int32_t>(jpeg.height())};
+}
+
+} // namespace
+
+bool isJpeg(std::span<const std::uint8_t> bytes) {
+  return bytes.size() >= 3 && bytes[0] == 0xFF && bytes[1] == 0xD8 && bytes[2] == 0xFF;
+}
+
+Result<PixelSize> readJpegSize(std::span<const std::uint8_t> bytes) {
+  Decompression jpeg(bytes);
+  if (!jpeg.readHeader()) return jpeg.failure();
+  return boundedSize(jpeg);
+}
+
+Result<DecodedPicture> decodeJpeg(std::span<const std::uint8_t> bytes) {
+  Decompression jpeg(bytes);
+  if (!jpeg.readHeader()) return jpeg.failure();
+  const Result<PixelSize> size = boundedSize(jpeg);
+  if (!size) return size.failure();
+
+  const std::size_t bytesPerRow = static_cast<std::size_t>(size->width) * 4;
+  const auto height = static_cast<std::size_t>(size->height);
+  const std::shared_ptr<std::uint8_t> pixels = allocatePixels(bytesPerRow * height);
+  if (!pixels) return Failure{"JPEG", "not enough memory"};
+  ColourProfile profile;
+  profile.icc = jpeg.icc();
+  if (!jpeg.readPixels(pixels.get(), bytesPerRow)) return jpeg.failure();
+  if (jpeg.isCmyk()) convertCmyk(pixels.get(), bytesPerRow * height / 4, jpeg.isInverted());
+  return DecodedPicture{.bitmap = {.size = *size,
+                                   .bytesPerRow = bytesPerRow,
+                                   .pixels = pixels.get(),
+                                   .opaque = true,
+                                   .owner = pixels},
+                        .profile = std::move(profile)};
+}
+
+} // namespace vitrelle::host

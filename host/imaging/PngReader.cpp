@@ -1,0 +1,168 @@
+#include "host/imaging/PngReader.h"
+
+#include "host/imaging/BigEndian.h"
+#include "host/imaging/LibpngReader.h"
+#include "host/imaging/PictureBounds.h"
+#include "host/imaging/PixelBuffer.h"
+#include "host/imaging/PngChunks.h"
+#include "host/imaging/PngFormat.h"
+#include "host/imaging/PngUnfilter.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <libdeflate.h>
+
+namespace vitrelle::host {
+
+namespace {
+
+Failure refused(std::string why) {
+  return {"PNG", std::move(why)};
+}
+
+/// What the chunks up to the end of the pixels hold.
+struct Contents {
+  ColourProfile profile;
+  std::vector<std::span<const std::uint8_t>> pixels; ///< the parts of the compressed pixels
+  std::size_t compressedBytes = 0;
+  bool transparentColour = false;
+};
+
+Contents readContents(std::span<const std::uint8_t> file) {
+  Contents contents;
+  PngChunks chunks(file);
+  while (const auto chunk = chunks.next()) {
+    if (chunk->type == png::IDAT) {
+      contents.pixels.push_back(chunk->data);
+      contents.compressedBytes += chunk->data.size();
+    } else if (contents.pixels.empty()) {
+      contents.transparentColour = contents.transparentColour || chunk->type == png::tRNS;
+      readColourChunk(*chunk, contents.profile);
+    } else {
+      break;
+    }
+  }
+  return contents;
+}
+
+/// Bytes of a row of the file behind its filter number.
+std::size_t rowBytes(const PngHeader& header) {
+  const std::size_t channels = header.colourType == png::rgba        ? 4
+                               : header.colourType == png::rgb       ? 3
+                               : header.colourType == png::greyAlpha ? 2
+                                                                     : 1;
+  return (static_cast<std::size_t>(header.size.width) * channels * header.bitDepth + 7) / 8;
+}
+
+/// Deflate makes at most 1,032 bytes of one, so fewer compressed bytes can't be the whole picture.
+bool isTooShort(const PngHeader& header, std::size_t compressedBytes) {
+  const std::size_t needed = rowBytes(header) * static_cast<std::size_t>(header.size.height);
+  return compressedBytes < needed / 1032;
+}
+
+/// The usual screenshot: 8-bit samples of RGB or RGBA, from top to bottom.
+bool isPlain(const PngHeader& header, const Contents& contents) {
+  return header.bitDepth == 8 && !header.interlaced && !contents.transparentColour &&
+         (header.colourType == png::rgb || header.colourType == png::rgba);
+}
+
+/// Inflates the pixels' parts, joined, to exactly this size.
+bool inflate(const Contents& contents, std::uint8_t* out, std::size_t size) {
+  std::span<const std::uint8_t> compressed = contents.pixels.front();
+  std::shared_ptr<std::uint8_t> joined;
+  if (contents.pixels.size() > 1) {
+    joined = allocatePixels(contents.compressedBytes);
+    if (!joined) return false;
+    std::uint8_t* end = joined.get();
+    for (const auto& part : contents.pixels)
+      end = std::ranges::copy(part, end).out;
+    compressed = {joined.get(), contents.compressedBytes};
+  }
+  libdeflate_decompressor* decompressor = libdeflate_alloc_decompressor();
+  if (decompressor == nullptr) return false;
+  const libdeflate_result result = libdeflate_zlib_decompress(
+      decompressor, compressed.data(), compressed.size(), out, size, nullptr);
+  libdeflate_free_decompressor(decompressor);
+  return result == LIBDEFLATE_SUCCESS;
+}
+
+/// Nothing when the pixels are not just as they should be.
+std::optional<Bitmap> decodePlain(const PngHeader& header, const Contents& contents) {
+  const auto width = static_cast<std::size_t>(header.size.width);
+  const auto height = static_cast<std::size_t>(header.size.height);
+  const bool hasAlpha = header.colourType == png::rgba;
+  const std::size_t filteredBytesPerRow = rowBytes(header) + 1;
+  const auto raw = allocatePixels(filteredBytesPerRow * height);
+  if (!raw || !inflate(contents, raw.get(), filteredBytesPerRow * height)) return std::nullopt;
+
+  // RGBA rows stay where they are; RGB rows grow into a second buffer.
+  std::shared_ptr<std::uint8_t> owner = raw;
+  std::uint8_t* out = raw.get() + 1;
+  std::size_t bytesPerRow = filteredBytesPerRow;
+  if (!hasAlpha) {
+    bytesPerRow = 4 * width;
+    owner = allocatePixels(bytesPerRow * height);
+    if (!owner) return std::nullopt;
+    out = owner.get();
+  }
+  const std::optional<bool> opaque = unfilter({.rows = raw.get(),
+                                               .bytesPerRow = filteredBytesPerRow,
+                                               .width = width,
+                                               .height = height,
+                                               .bytesPerPixel = hasAlpha ? 4 : 3},
+                                              out, bytesPerRow);
+  if (!opaque) return std::nullopt;
+  return Bitmap{.size = header.size,
+                .bytesPerRow = bytesPerRow,
+                .pixels = out,
+                .opaque = *opaque,
+                .owner = std::move(owner)};
+}
+
+} // namespace
+
+bool isPng(std::span<const std::uint8_t> bytes) {
+  return bytes.size() >= std::size(png::signature) &&
+         std::ranges::equal(bytes.first(std::size(png::signature)), png::signature);
+}
+
+Result<PngHeader> readPngHeader(std::span<const std::uint8_t> bytes) {
+  if (bytes.size() < pngHeaderBytes || !isPng(bytes)) return refused("the file ends in its header");
+  const std::uint8_t* fields = bytes.data() + 16;
+  if (readBigEndian32(bytes.data() + 8) != 13 || readBigEndian32(bytes.data() + 12) != png::IHDR ||
+      readBigEndian32(bytes.data() + 29) != libdeflate_crc32(0, bytes.data() + 12, 17)) {
+    return refused("the header is damaged");
+  }
+  const std::int64_t width = readBigEndian32(fields);
+  const std::int64_t height = readBigEndian32(fields + 4);
+  if (!withinBounds(width, height)) return refused(boundsComplaint(width, height));
+  return PngHeader{.size = {static_cast<std::int32_t>(width), static_cast<std::int32_t>(height)},
+                   .bitDepth = fields[8],
+                   .colourType = fields[9],
+                   .interlaced = fields[12] != 0};
+}
+
+Result<DecodedPicture> decodePng(std::span<const std::uint8_t> bytes) {
+  const Result<PngHeader> header = readPngHeader(bytes);
+  if (!header) return header.failure();
+  const Contents contents = readContents(bytes);
+  if (contents.pixels.empty() || isTooShort(*header, contents.compressedBytes)) {
+    return refused("the file is incomplete");
+  }
+  if (isPlain(*header, contents)) {
+    if (auto bitmap = decodePlain(*header, contents)) {
+      return DecodedPicture{*std::move(bitmap), contents.profile};
+    }
+  }
+  // Every other kind, and files that are not quite as they should be.
+  Result<Bitmap> bitmap = decodeWithLibpng(bytes, header->size);
+  if (!bitmap) return bitmap.failure();
+  return DecodedPicture{*std::move(bitmap), contents.profile};
+}
+
+} // namespace vitrelle::host
