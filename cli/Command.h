@@ -1,6 +1,7 @@
 // What the commands share: their surroundings, their exit statuses and the way they complain.
 #pragma once
 
+#include "cli/Options.h"
 #include "core/platform/Platform.h"
 
 #include <CLI/CLI.hpp>
@@ -21,7 +22,8 @@ enum class Exit : int {
 /// The surroundings of the one command that runs. main.cpp fills it in; a command's callback reads
 /// it after all options are parsed and leaves its exit status in it.
 struct CommandContext {
-  /// Made at the first call, from the options.
+  const Options& options;
+  /// Made at the first call, from the options and the environment.
   std::function<const Platform&()> platform;
   /// Delivers what the platform watches; returns when the user interrupts the program.
   std::function<void()> runLoop;

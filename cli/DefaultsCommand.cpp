@@ -174,7 +174,7 @@ constexpr std::array<ValueType, 6> valueTypes{{
 
 // The commands.
 
-struct Options {
+struct DefaultsArguments {
   bool standard = false;
   bool json = false;
   std::string key;
@@ -188,7 +188,7 @@ Exit failed(const Failure& failure) {
   return Exit::failed;
 }
 
-Exit readOne(const Platform& platform, const Options& options) {
+Exit readOne(const Platform& platform, const DefaultsArguments& options) {
   const auto value = platform.defaults.value(options.suite(), options.key);
   if (!value) return failed(value.failure());
   if (!*value) return failed({options.key, "it has no value"});
@@ -204,7 +204,7 @@ Exit readOne(const Platform& platform, const Options& options) {
   return Exit::done;
 }
 
-Exit readAll(const Platform& platform, const Options& options) {
+Exit readAll(const Platform& platform, const DefaultsArguments& options) {
   const auto keys = platform.defaults.keys(options.suite());
   if (!keys) return failed(keys.failure());
   Json all = Json::object();
@@ -225,7 +225,7 @@ Exit readAll(const Platform& platform, const Options& options) {
   return exit;
 }
 
-void printChange(const Options& options, const std::string& key,
+void printChange(const DefaultsArguments& options, const std::string& key,
                  const std::optional<StoreValue>& value) {
   if (options.json) {
     Json line = {{"key", key}};
@@ -236,7 +236,8 @@ void printChange(const Options& options, const std::string& key,
   }
 }
 
-Exit watch(const CommandContext& context, const Platform& platform, const Options& options) {
+Exit watch(const CommandContext& context, const Platform& platform,
+           const DefaultsArguments& options) {
   Subscription subscription;
   const Suite suite = options.suite();
   const auto print = [&](const std::string& key) {
@@ -275,7 +276,7 @@ StoreValue typedValue(const std::string& typeName, const std::string& text) {
   return *value;
 }
 
-void addTypedOptions(CLI::App& write, const std::shared_ptr<Options>& options) {
+void addTypedOptions(CLI::App& write, const std::shared_ptr<DefaultsArguments>& options) {
   // Words such as -int begin like a short option with its argument attached, and are taken as such.
   // It takes two arguments, so the value may look like an option too.
   using RestAndValue = std::pair<std::string, std::string>;
@@ -294,7 +295,7 @@ void addTypedOptions(CLI::App& write, const std::shared_ptr<Options>& options) {
 } // namespace
 
 void addDefaultsCommand(CLI::App& program, CommandContext& context) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<DefaultsArguments>();
   CLI::App* defaults = program.add_subcommand("defaults", "Read, write and watch the group store");
   defaults->fallthrough()->require_subcommand(1);
   defaults->add_flag("--standard", options->standard,

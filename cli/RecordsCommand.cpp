@@ -15,7 +15,7 @@ namespace vitrelle::cli {
 
 namespace {
 
-struct Options {
+struct RecordsArguments {
   std::string family;
   bool json = false;
 };
@@ -72,7 +72,7 @@ Exit run(const Platform& platform, const Family<Record>& family, bool json) {
 } // namespace
 
 void addRecordsCommand(CLI::App& program, CommandContext& context) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<RecordsArguments>();
   CLI::App* command =
       program.add_subcommand("records", "Print the widget styles of a family as they are stored");
   std::vector<std::string> names;

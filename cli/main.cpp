@@ -1,3 +1,66 @@
-int main() {
-  return 0;
+// The command line: puts the platform together and runs one command over it.
+
+#include "cli/Command.h"
+#include "cli/Options.h"
+#include "host/Host.h"
+#include "host/desktop/PollLoop.h"
+
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+using namespace vitrelle;
+using namespace vitrelle::cli;
+
+host::HostOptions hostOptions(const Options& options) {
+  return {
+      .home = options.home ? host::HomeFolder(*options.home) : host::HomeFolder::ofUser(),
+      .phone = {.identifier = options.phoneIdentifier, .os = options.os, .zoomed = options.zoomed},
+      .verbose = options.verbose};
+}
+
+int complainOfUsage(const CLI::App& program, const CLI::ParseError& error) {
+  if (error.get_exit_code() == 0) return program.exit(error); // a call for help
+  std::fprintf(stderr, "vitrelle: %s\n", error.what());
+  std::fprintf(stderr, "Try 'vitrelle --help'.\n");
+  return static_cast<int>(Exit::usage);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  CLI::App program("Cuts home-screen screenshots into the slices that widgets show.", "vitrelle");
+  program.require_subcommand(1);
+  program.set_version_flag("--version", VITRELLE_VERSION);
+  Options options;
+  addOptions(program, options);
+
+  // The loop outlives the platform, which may still watch something when it goes.
+  host::PollLoop loop;
+  std::optional<Platform> platform;
+  CommandContext context{.options = options,
+                         .platform = [&]() -> const Platform& {
+                           if (!platform) {
+                             readEnvironment(options);
+                             platform = makePlatform(hostOptions(options), loop.operations());
+                           }
+                           return *platform;
+                         },
+                         .runLoop = [&] { loop.run(); }};
+  addCutCommand(program, context);
+  addPaletteCommand(program, context);
+  addPhonesCommand(program, context);
+  addPhoneCommand(program, context);
+  addDefaultsCommand(program, context);
+  addRecordsCommand(program, context);
+  for (CLI::App* command : program.get_subcommands({}))
+    command->fallthrough();
+
+  try {
+    program.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return complainOfUsage(program, error);
+  }
+  return static_cast<int>(context.exit);
 }

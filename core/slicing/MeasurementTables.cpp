@@ -123,9 +123,12 @@ constexpr DeviceMeasurements zoomedRows[] = {
 
 std::span<const DeviceMeasurements> measurementRows(MeasurementTable table) {
   switch (table) {
-  case MeasurementTable::iOS18: return iOS18Rows;
-  case MeasurementTable::classic: return classicRows;
-  case MeasurementTable::zoomed: return zoomedRows;
+  case MeasurementTable::iOS18:
+    return iOS18Rows;
+  case MeasurementTable::classic:
+    return classicRows;
+  case MeasurementTable::zoomed:
+    return zoomedRows;
   }
   return {};
 }

@@ -1,0 +1,140 @@
+#include "cli/CutBatch.h"
+
+#include "cli/CutStyle.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cstdio>
+#include <filesystem>
+#include <map>
+#include <string_view>
+#include <system_error>
+
+#include <unistd.h>
+
+namespace vitrelle::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::array<std::string_view, 5> extensions = {".png", ".jpg", ".jpeg", ".heic", ".heif"};
+
+/// By the pairs' names.
+using Pairs = std::map<std::string, Screenshots>;
+
+bool isPicture(const fs::path& path) {
+  std::string extension = path.extension().string();
+  std::ranges::transform(extension, extension.begin(),
+                         [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return std::ranges::count(extensions, extension) != 0;
+}
+
+Result<Pairs> findPairs(const std::string& folder) {
+  Pairs pairs;
+  std::error_code error;
+  fs::directory_iterator entry(folder, error);
+  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    const fs::path& path = entry->path();
+    const std::string stem = path.stem().string();
+    if (!isPicture(path)) continue;
+    for (const auto& [ending, slot] : {std::pair(std::string_view("-light"), &Screenshots::light),
+                                       std::pair(std::string_view("-dark"), &Screenshots::dark)}) {
+      if (stem.size() <= ending.size() || !stem.ends_with(ending)) continue;
+      auto& place = pairs[stem.substr(0, stem.size() - ending.size())].*slot;
+      // Of one name in several formats, the first by name, whatever the folder's own order.
+      if (!place || path.string() < *place) place = path.string();
+    }
+  }
+  if (error) return Failure{folder, error.message()};
+  if (pairs.empty()) {
+    return Failure{folder, "no pictures named NAME-light and NAME-dark lie there"};
+  }
+  return pairs;
+}
+
+/// A line that counts on while a person watches.
+class Progress final {
+ public:
+  explicit Progress(std::size_t count) : count_(count), shown_(isatty(STDERR_FILENO) == 1) {}
+  ~Progress() { clear(); }
+  Progress(const Progress&) = delete;
+  Progress& operator=(const Progress&) = delete;
+
+  void show(std::size_t done, const std::string& name) const {
+    if (!shown_) return;
+    constexpr std::size_t width = 24;
+    const std::size_t filled = width * done / count_;
+    std::fprintf(stderr, "\r\x1b[K[%s%s] %zu of %zu  %s", std::string(filled, '#').c_str(),
+                 std::string(width - filled, '.').c_str(), done, count_, name.c_str());
+    std::fflush(stderr);
+  }
+  void clear() const {
+    if (shown_) std::fprintf(stderr, "\r\x1b[K");
+  }
+
+ private:
+  std::size_t count_;
+  bool shown_;
+};
+
+/// The same platform with another folder in the place of the group's.
+Platform intoFolder(const Platform& platform, const std::string& folder) {
+  Platform other = platform;
+  other.files.groupContainer = [folder] { return std::optional(folder); };
+  other.shared = SharedInstances();
+  return other;
+}
+
+} // namespace
+
+Exit cutBatch(const CommandContext& context, const std::string& from, const std::string& into,
+              bool json) {
+  const auto pairs = findPairs(from);
+  if (!pairs) {
+    complain(pairs.failure());
+    return Exit::failed;
+  }
+  const Platform platform = intoFolder(context.platform(), into);
+  const Progress progress(pairs->size());
+  auto list = nlohmann::ordered_json::array();
+  std::int64_t style = 0;
+  bool complete = true;
+  for (const auto& [name, screenshots] : *pairs) {
+    progress.show(static_cast<std::size_t>(style), name);
+    const std::int64_t number = style++;
+    if (!screenshots.light || !screenshots.dark) {
+      progress.clear();
+      complain({name, screenshots.light ? "it has no dark picture" : "it has no light picture"});
+      complete = false;
+      continue;
+    }
+    const auto cut = cutStyle(platform, number, screenshots);
+    progress.clear();
+    if (!cut) {
+      complain(cut.failure());
+      complete = false;
+      continue;
+    }
+    complete = complainOf(*cut) && complete;
+    if (json) {
+      list.push_back({{"style", number},
+                      {"name", name},
+                      {"files", cut->files.size()},
+                      {"bytes", totalBytes(*cut)}});
+    } else {
+      std::printf("%3lld  %s  %zu files  %zu bytes\n", static_cast<long long>(number), name.c_str(),
+                  cut->files.size(), totalBytes(*cut));
+      std::fflush(stdout);
+    }
+  }
+  if (json)
+    std::printf("%s\n",
+                list.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace).c_str());
+  return complete ? Exit::done : Exit::failed;
+}
+
+} // namespace vitrelle::cli

@@ -1,0 +1,98 @@
+#include "cli/CutStyle.h"
+
+#include "cli/Command.h"
+#include "core/slicing/WallpaperInterface.h"
+
+#include <cmath>
+#include <iterator>
+#include <utility>
+
+namespace vitrelle::cli {
+
+namespace {
+
+constexpr std::size_t filesPerScreenshot = 12;
+
+struct Screenshot {
+  std::string path;
+  InterfaceStyle style;
+  Image image;
+};
+
+std::string times(std::int64_t width, std::int64_t height) {
+  return std::to_string(width) + "x" + std::to_string(height);
+}
+
+Result<std::vector<Screenshot>> load(const Platform& platform, const Screenshots& paths) {
+  std::vector<Screenshot> screenshots;
+  std::vector<Image> images;
+  for (const auto& [path, style] :
+       {std::pair(paths.light, lightStyle), std::pair(paths.dark, darkStyle)}) {
+    if (!path) continue;
+    Result<Image> image = platform.images.load(*path);
+    if (!image) return image.failure();
+    images.push_back(*image);
+    screenshots.push_back({*path, style, *std::move(image)});
+  }
+  const Status decoded = platform.images.decode(images);
+  if (!decoded) return decoded.failure();
+  return screenshots;
+}
+
+std::optional<Failure> sizeRemark(const Platform& platform, const Screenshot& screenshot) {
+  const PointSize bounds = platform.device.screenBounds();
+  const double scale = platform.device.screenScale();
+  const PixelSize expected{static_cast<std::int32_t>(std::lround(bounds.width * scale)),
+                           static_cast<std::int32_t>(std::lround(bounds.height * scale))};
+  const PixelSize size = screenshot.image.size();
+  if (size == expected) return std::nullopt;
+  return Failure{screenshot.path, "its " + times(size.width, size.height) + " pixels are not the " +
+                                      times(expected.width, expected.height) +
+                                      " of this phone's screenshots; the slots may be off"};
+}
+
+} // namespace
+
+Result<CutStyle> cutStyle(const Platform& platform, std::int64_t style,
+                          const Screenshots& screenshots) {
+  const auto loaded = load(platform, screenshots);
+  if (!loaded) return loaded.failure();
+  CutStyle cut;
+  const auto wallpaper = WallpaperInterface::shared(platform);
+  for (const Screenshot& screenshot : *loaded) {
+    if (auto remark = sizeRemark(platform, screenshot)) cut.remarks.push_back(*std::move(remark));
+    std::vector<StoredSlice> files = wallpaper->setImage(screenshot.image, screenshot.style, style);
+    if (files.size() < filesPerScreenshot) {
+      cut.missing.push_back(
+          {screenshot.path,
+           "it is too small: " + std::to_string(filesPerScreenshot - files.size()) +
+               " of the eleven slots lie outside of it"});
+    }
+    std::move(files.begin(), files.end(), std::back_inserter(cut.files));
+  }
+  return cut;
+}
+
+bool complainOf(const CutStyle& cut) {
+  bool complete = cut.missing.empty();
+  for (const Failure& remark : cut.remarks)
+    complain(remark);
+  for (const Failure& missing : cut.missing)
+    complain(missing);
+  for (const StoredSlice& file : cut.files) {
+    if (file.bytes) continue;
+    complain(file.bytes.failure());
+    complete = false;
+  }
+  return complete;
+}
+
+std::size_t totalBytes(const CutStyle& cut) {
+  std::size_t total = 0;
+  for (const StoredSlice& file : cut.files) {
+    if (file.bytes) total += *file.bytes;
+  }
+  return total;
+}
+
+} // namespace vitrelle::cli

@@ -1,0 +1,166 @@
+#include "cli/Options.h"
+
+#include "core/slicing/DeviceNames.h"
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <cstdlib>
+
+namespace vitrelle::cli {
+
+namespace {
+
+std::optional<std::string> environment(const char* name) {
+  const char* value = std::getenv(name);
+  if (value == nullptr || *value == '\0') return std::nullopt;
+  return value;
+}
+
+bool sameInAnyCase(std::string_view left, std::string_view right) {
+  return std::ranges::equal(left, right, [](unsigned char a, unsigned char b) {
+    return std::tolower(a) == std::tolower(b);
+  });
+}
+
+/// Letters, digits, a comma, digits: "iPhone99,1".
+bool looksLikeIdentifier(std::string_view text) {
+  const auto isLetter = [](unsigned char c) { return std::isalpha(c) != 0; };
+  const auto isDigit = [](unsigned char c) { return std::isdigit(c) != 0; };
+  const auto letters = std::ranges::find_if_not(text, isLetter);
+  const auto comma = std::find_if_not(letters, text.end(), isDigit);
+  return letters != text.begin() && comma != letters && comma != text.end() && *comma == ',' &&
+         comma + 1 != text.end() && std::all_of(comma + 1, text.end(), isDigit);
+}
+
+std::string takePhone(const std::string& text) {
+  const auto identifier = phoneIdentifier(text);
+  if (!identifier) {
+    throw CLI::ValidationError("--phone",
+                               "there is no phone '" + text + "'; 'vitrelle phones' lists them");
+  }
+  return *identifier;
+}
+
+OsVersion takeOs(const std::string& text) {
+  const auto version = parseOsVersion(text);
+  if (!version) throw CLI::ValidationError("--os", "'" + text + "' is no version such as 18.0");
+  return *version;
+}
+
+bool takeBool(const char* name, const std::string& text) {
+  for (const char* yes : {"1", "true", "yes"}) {
+    if (sameInAnyCase(text, yes)) return true;
+  }
+  for (const char* no : {"0", "false", "no"}) {
+    if (sameInAnyCase(text, no)) return false;
+  }
+  throw CLI::ValidationError(name, "'" + text + "' is neither true nor false");
+}
+
+Appearance takeAppearance(const std::string& text) {
+  if (text == "light") return Appearance::light;
+  if (text == "dark") return Appearance::dark;
+  throw CLI::ValidationError("--appearance", "'" + text + "' is neither light nor dark");
+}
+
+} // namespace
+
+void addOptions(CLI::App& program, Options& options) {
+  constexpr const char* group = "Options of every command";
+  program
+      .add_option_function<std::string>(
+          "--home", [&](const std::string& text) { options.home = text; },
+          "The folder of all that is kept ($VITRELLE_HOME)")
+      ->type_name("DIR")
+      ->group(group);
+  program
+      .add_option_function<std::string>(
+          "--phone",
+          [&](const std::string& text) {
+            options.phoneIdentifier = takePhone(text);
+            options.phoneTold = true;
+          },
+          "The phone, by name or machine identifier ($VITRELLE_PHONE)")
+      ->type_name("PHONE")
+      ->group(group);
+  program
+      .add_option_function<std::string>(
+          "--os",
+          [&](const std::string& text) {
+            options.os = takeOs(text);
+            options.phoneTold = true;
+          },
+          "The version of its operating system ($VITRELLE_OS)")
+      ->type_name("VERSION")
+      ->group(group);
+  const auto zoom = [&](const char* name, bool zoomed, const char* description) {
+    return program
+        .add_flag_callback(
+            name,
+            [&options, zoomed] {
+              options.zoomed = zoomed;
+              options.phoneTold = true;
+            },
+            description)
+        ->group(group);
+  };
+  CLI::Option* zoomed = zoom("--zoomed", true, "Its display is zoomed ($VITRELLE_ZOOMED)");
+  zoom("--standard", false, "Its display is not zoomed")->excludes(zoomed);
+  program
+      .add_option_function<std::string>(
+          "--appearance",
+          [&](const std::string& text) { options.appearance = takeAppearance(text); },
+          "light or dark ($VITRELLE_APPEARANCE)")
+      ->type_name("NAME")
+      ->group(group);
+  program.add_flag("--verbose", options.verbose, "Show the debug console on stderr")->group(group);
+}
+
+void readEnvironment(Options& options) {
+  if (const auto text = environment("VITRELLE_PHONE"); text && !options.phoneIdentifier) {
+    options.phoneIdentifier = takePhone(*text);
+  }
+  if (const auto text = environment("VITRELLE_OS"); text && !options.os) {
+    options.os = takeOs(*text);
+  }
+  if (const auto text = environment("VITRELLE_ZOOMED"); text && !options.zoomed) {
+    options.zoomed = takeBool("VITRELLE_ZOOMED", *text);
+  }
+  if (const auto text = environment("VITRELLE_APPEARANCE"); text && !options.appearance) {
+    options.appearance = takeAppearance(*text);
+  }
+  // The host reads VITRELLE_HOME.
+}
+
+std::optional<std::string> phoneIdentifier(const std::string& nameOrIdentifier) {
+  for (const DeviceNameRow& row : deviceNameRows()) {
+    if (row.identifier == nameOrIdentifier || sameInAnyCase(row.name, nameOrIdentifier)) {
+      return std::string(row.identifier);
+    }
+  }
+  if (looksLikeIdentifier(nameOrIdentifier)) return nameOrIdentifier;
+  return std::nullopt;
+}
+
+std::optional<OsVersion> parseOsVersion(const std::string& text) {
+  OsVersion version;
+  const char* next = text.data();
+  const char* const end = next + text.size();
+  for (std::int64_t* number : {&version.major, &version.minor, &version.patch}) {
+    const auto [behind, error] = std::from_chars(next, end, *number);
+    if (error != std::errc() || *number < 0 || *number > 99'999'999) return std::nullopt;
+    if (behind == end) return version;
+    if (*behind != '.') return std::nullopt;
+    next = behind + 1;
+  }
+  return std::nullopt;
+}
+
+std::string describe(const OsVersion& version) {
+  std::string text = std::to_string(version.major) + "." + std::to_string(version.minor);
+  if (version.patch != 0) text += "." + std::to_string(version.patch);
+  return text;
+}
+
+} // namespace vitrelle::cli
