@@ -17,36 +17,90 @@ namespace {
 
 constexpr std::size_t endOfBlock = 256;
 constexpr std::size_t firstLengthSymbol = 257;
-constexpr std::size_t symbolCount = 286;
+constexpr std::size_t longestLengthSymbol = 285;
+constexpr std::size_t shortestMatch = 3;
 constexpr std::size_t longestMatch = 258;
 /// Shorter runs cost more as a match than as literals of a good code.
 constexpr std::size_t shortestRun = 12;
+/// Repeats are looked for by this many bytes.
+constexpr std::size_t shortestRepeat = 6;
+/// A repeat ends where a run of this length begins: the run is shorter to tell.
+constexpr std::size_t runThatEndsRepeats = 32;
+/// Of a match's two symbols, without the distance's extra bits.
+constexpr std::size_t typicalMatchBits = 12;
 /// Four codes and the 7 bits that a flush may leave fit 64 bits.
 constexpr int longestCode = 14;
 
-struct LengthSymbol {
-  std::uint16_t symbol = 0;
+/// A match length's or distance's symbol, with the bits that tell it from the symbol's others.
+struct Symbol {
+  std::uint16_t number = 0;
   std::uint8_t extraBits = 0;
   std::uint16_t base = 0;
 };
 
 /// Of each match length from 3 to 258.
-constexpr std::array<LengthSymbol, longestMatch + 1> makeLengthSymbols() {
-  std::array<LengthSymbol, longestMatch + 1> table{};
-  std::size_t length = 3;
-  for (std::size_t symbol = firstLengthSymbol; symbol < symbolCount - 1; ++symbol) {
-    const std::size_t step = symbol - firstLengthSymbol;
+constexpr std::array<Symbol, longestMatch + 1> makeLengthSymbols() {
+  std::array<Symbol, longestMatch + 1> table{};
+  std::size_t length = shortestMatch;
+  for (std::size_t number = firstLengthSymbol; number < longestLengthSymbol; ++number) {
+    const std::size_t step = number - firstLengthSymbol;
     const std::size_t extra = step < 8 ? 0 : step / 4 - 1;
     const std::size_t base = length;
     for (; length < base + (std::size_t{1} << extra) && length < longestMatch; ++length) {
-      table[length] = {static_cast<std::uint16_t>(symbol), static_cast<std::uint8_t>(extra),
+      table[length] = {static_cast<std::uint16_t>(number), static_cast<std::uint8_t>(extra),
                        static_cast<std::uint16_t>(base)};
     }
   }
-  table[longestMatch] = {symbolCount - 1, 0, longestMatch};
+  table[longestMatch] = {longestLengthSymbol, 0, longestMatch};
   return table;
 }
 constexpr auto lengthSymbols = makeLengthSymbols();
+
+/// Beyond the first four, each power of two of distances has two symbols.
+constexpr Symbol distanceSymbol(std::uint32_t distance) {
+  const std::uint32_t index = distance - 1;
+  if (index < 4)
+    return {static_cast<std::uint16_t>(index), 0, static_cast<std::uint16_t>(distance)};
+  const int extra = std::bit_width(index) - 2;
+  const std::uint32_t upper = index >> extra; // 2 or 3
+  return {static_cast<std::uint16_t>(2 * static_cast<std::uint32_t>(extra) + upper),
+          static_cast<std::uint8_t>(extra), static_cast<std::uint16_t>((upper << extra) + 1)};
+}
+
+/// Calls back with the length of each match that a longer one is told as, and with the bytes left
+/// over at its end, which are too few for a match.
+template <class OnMatch>
+std::size_t splitMatch(std::size_t length, OnMatch onMatch) {
+  for (; length >= longestMatch; length -= longestMatch)
+    onMatch(longestMatch);
+  if (length < shortestMatch) return length;
+  onMatch(length);
+  return 0;
+}
+
+std::uint64_t load64(const std::uint8_t* bytes) {
+  std::uint64_t word = 0;
+  std::memcpy(&word, bytes, 8);
+  return word;
+}
+
+constexpr unsigned hashBits = 14;
+std::size_t hashOfRepeat(std::uint64_t word) {
+  return (word << (64 - 8 * shortestRepeat)) * 0x9E3779B97F4A7C15 >> (64 - hashBits);
+}
+
+/// How many bytes are the same, up to `most`. Both are followed by at least 8 more.
+std::size_t sameBytes(const std::uint8_t* left, const std::uint8_t* right, std::size_t most) {
+  std::size_t same = 0;
+  while (same + 8 <= most) {
+    const std::uint64_t difference = load64(left + same) ^ load64(right + same);
+    if (difference != 0) return same + static_cast<std::size_t>(std::countr_zero(difference)) / 8;
+    same += 8;
+  }
+  while (same < most && left[same] == right[same])
+    ++same;
+  return same;
+}
 
 /// Bit i tells whether bytes[i] equals the byte before it, for 64 bytes.
 std::uint64_t repeats(const std::uint8_t* bytes) {
@@ -93,15 +147,21 @@ void LiteralDeflate::start(std::uint8_t* out) {
   out_ = out;
   bits_ = 0;
   bitCount_ = 0;
+  position_ = 0;
+  lastSeen_.clear();
 }
 
-void LiteralDeflate::block(std::span<const std::uint8_t> bytes, bool last) {
+void LiteralDeflate::block(std::span<const std::uint8_t> bytes, bool last, std::size_t history) {
   std::uint8_t* const start = out_;
   const std::uint64_t bitsBefore = bits_;
   const unsigned bitCountBefore = bitCount_;
 
   findRuns(bytes);
   makeCodes(bytes);
+  if (worthSearching(bytes.size())) {
+    findRepeats(bytes, history);
+    makeCodes(bytes);
+  }
   writeHeader(last);
   writeSymbols(bytes);
 
@@ -115,10 +175,11 @@ void LiteralDeflate::block(std::span<const std::uint8_t> bytes, bool last) {
     put(0, 8 - bitCount_);
     flush();
   }
+  position_ += static_cast<std::uint32_t>(bytes.size());
 }
 
 void LiteralDeflate::findRuns(std::span<const std::uint8_t> bytes) {
-  runs_.clear();
+  matches_.clear();
   const std::size_t size = bytes.size();
   // A run of 12 has 6 repeats in a row in one of the 64-byte windows that it touches.
   for (std::size_t position = 1; position + 64 <= size;) {
@@ -132,7 +193,10 @@ void LiteralDeflate::findRuns(std::span<const std::uint8_t> bytes) {
       while (start > 1 && bytes[start - 1] == bytes[start - 2])
         --start;
       const std::size_t end = runEnd(bytes, start);
-      if (end - start >= shortestRun) runs_.push_back({start, end - start});
+      if (end - start >= shortestRun) {
+        matches_.push_back(
+            {static_cast<std::uint32_t>(start), static_cast<std::uint32_t>(end - start), 1});
+      }
       if (end >= next) {
         next = end;
         break;
@@ -143,23 +207,95 @@ void LiteralDeflate::findRuns(std::span<const std::uint8_t> bytes) {
   }
 }
 
-void LiteralDeflate::makeCodes(std::span<const std::uint8_t> bytes) {
-  std::array<std::uint32_t, symbolCount> counts{};
-  std::size_t runBytes = 0;
-  for (const Run& run : runs_) {
-    runBytes += run.length;
-    const std::size_t rest = run.length % longestMatch;
-    counts[symbolCount - 1] += static_cast<std::uint32_t>(run.length / longestMatch);
-    if (rest >= 3) {
-      ++counts[lengthSymbols[rest].symbol];
-    } else {
-      counts[bytes[run.start]] += static_cast<std::uint32_t>(rest);
+/// Runs leave little of flat art and text, but that little is edges, dear as literals and often
+/// the same. What they leave of smooth gradients is cheap, and in photographs nothing repeats.
+bool LiteralDeflate::worthSearching(std::size_t bytes) const {
+  constexpr std::uint64_t dearLiteralBits = 3;
+  return literals_ <= bytes / 2 && literalBits_ > dearLiteralBits * literals_;
+}
+
+/// What these bytes cost as literals of the present code, counted no further than `most`.
+std::size_t LiteralDeflate::bitsAsLiterals(std::span<const std::uint8_t> bytes,
+                                           std::size_t most) const {
+  std::size_t bits = 0;
+  for (std::size_t i = 0; i < bytes.size() && bits <= most; ++i) {
+    const std::uint8_t length = literalLengths_[bytes[i]];
+    bits += length == 0 ? longestCode : length;
+  }
+  return bits;
+}
+
+void LiteralDeflate::findRepeats(std::span<const std::uint8_t> bytes, std::size_t history) {
+  lastSeen_.resize(std::size_t{1} << hashBits);
+  std::swap(runs_, matches_);
+  matches_.clear();
+  auto run = runs_.begin();
+  const std::size_t size = bytes.size();
+  std::size_t position = 0;
+  const auto skipCoveredRuns = [&] {
+    for (; run != runs_.end() && run->start < position; ++run) {
+      const std::uint32_t end = run->start + run->length;
+      if (end < position + shortestRun) continue; // what is left of it is too short
+      run->start = static_cast<std::uint32_t>(position);
+      run->length = end - run->start;
+      return;
     }
+  };
+  while (position + 16 <= size) {
+    if (run != runs_.end() && run->start == position) {
+      matches_.push_back(*run);
+      position += run->length;
+      ++run;
+      continue;
+    }
+    const std::uint8_t* const here = bytes.data() + position;
+    const std::uint64_t word = load64(here);
+    const std::uint32_t inStream = position_ + static_cast<std::uint32_t>(position);
+    std::uint32_t& seen = lastSeen_[hashOfRepeat(word)];
+    const std::uint32_t distance = inStream + 1 - seen;
+    const bool reachable = seen != 0 && distance <= std::min(window, position + history);
+    seen = inStream + 1;
+    if (reachable && ((load64(here - distance) ^ word) << (64 - 8 * shortestRepeat)) == 0) {
+      const bool longRun = run != runs_.end() && run->length >= runThatEndsRepeats;
+      const std::size_t most = longRun ? run->start - position : size - 8 - position;
+      const std::size_t length = sameBytes(here, here - distance, most);
+      const std::size_t cost = typicalMatchBits + distanceSymbol(distance).extraBits;
+      if (length >= shortestMatch && bitsAsLiterals(bytes.subspan(position, length), cost) > cost) {
+        matches_.push_back(
+            {static_cast<std::uint32_t>(position), static_cast<std::uint32_t>(length), distance});
+        // What the match covers can be repeated too.
+        const std::size_t end = position + length;
+        for (++position; position < end; ++position) {
+          lastSeen_[hashOfRepeat(load64(bytes.data() + position))] =
+              position_ + static_cast<std::uint32_t>(position) + 1;
+        }
+        skipCoveredRuns();
+        continue;
+      }
+    }
+    ++position;
+  }
+  skipCoveredRuns();
+  matches_.insert(matches_.end(), run, runs_.end());
+}
+
+void LiteralDeflate::makeCodes(std::span<const std::uint8_t> bytes) {
+  std::array<std::uint32_t, literalSymbols> counts{};
+  std::array<std::uint32_t, distanceSymbols> distanceCounts{};
+  literals_ = bytes.size();
+  for (const Match& match : matches_) {
+    literals_ -= match.length;
+    std::uint32_t& distance = distanceCounts[distanceSymbol(match.distance).number];
+    const std::size_t left = splitMatch(match.length, [&](std::size_t length) {
+      ++counts[lengthSymbols[length].number];
+      ++distance;
+    });
+    for (std::size_t i = 0; i < left; ++i)
+      ++counts[bytes[match.start + match.length - 1 - i]];
   }
 
   // Many literals are told well enough by every fourth; few are counted.
-  const std::size_t literals = bytes.size() - runBytes;
-  const std::size_t step = literals > blockBytes / 8 ? 4 : 1;
+  const std::size_t step = literals_ > blockBytes / 8 ? 4 : 1;
   std::array<std::array<std::uint32_t, 256>, 4> tallies{}; // apart, so that equal bytes don't wait
   std::size_t position = 0;
   const auto tally = [&](std::size_t end) {
@@ -170,9 +306,9 @@ void LiteralDeflate::makeCodes(std::span<const std::uint8_t> bytes) {
     for (; position < end; position += step)
       ++tallies[0][bytes[position]];
   };
-  for (const Run& run : runs_) {
-    tally(run.start);
-    position = run.start + run.length;
+  for (const Match& match : matches_) {
+    tally(match.start);
+    position = match.start + match.length;
   }
   tally(bytes.size());
   for (std::size_t byte = 0; byte < 256; ++byte) {
@@ -182,24 +318,37 @@ void LiteralDeflate::makeCodes(std::span<const std::uint8_t> bytes) {
     if (step > 1 && counts[byte] == 0) counts[byte] = 1; // it may stand between the samples
   }
   counts[endOfBlock] = 1;
+  // A code has two symbols at least.
+  distanceCounts[0] += 1;
+  distanceCounts[1] += 1;
 
-  lengths_.resize(symbolCount);
-  huffmanLengths(counts, longestCode, lengths_);
-  std::array<std::uint16_t, symbolCount> codes{};
-  canonicalCodes(lengths_, codes);
-  codes_.resize(symbolCount);
-  for (std::size_t symbol = 0; symbol < symbolCount; ++symbol) {
-    codes_[symbol] = {codes[symbol], lengths_[symbol]};
+  const auto makeCode = [](const auto& symbolCounts, auto& lengths, auto& codes) {
+    huffmanLengths(symbolCounts, longestCode, lengths);
+    std::array<std::uint16_t, literalSymbols> bits{};
+    canonicalCodes(lengths, bits);
+    for (std::size_t i = 0; i < lengths.size(); ++i)
+      codes[i] = {bits[i], lengths[i]};
+  };
+  makeCode(counts, literalLengths_, literalCodes_);
+  makeCode(distanceCounts, distanceLengths_, distanceCodes_);
+  literalBits_ = 0;
+  for (std::size_t byte = 0; byte < 256; ++byte) {
+    literalBits_ += std::uint64_t{counts[byte]} * literalLengths_[byte];
   }
 }
 
 void LiteralDeflate::writeHeader(bool last) {
-  // The lengths of the literal codes and of the one distance code, 1, which takes one bit.
-  std::vector<std::uint8_t> lengths = lengths_;
-  while (lengths.back() == 0)
-    lengths.pop_back();
-  const std::size_t literalCodes = lengths.size();
-  lengths.push_back(1);
+  // The lengths of both codes, one after the other, without the zeros at their ends.
+  const auto usedLengths = [](const auto& lengths) {
+    std::size_t count = lengths.size();
+    while (lengths[count - 1] == 0)
+      --count;
+    return std::span(lengths).first(count);
+  };
+  const auto literalPart = usedLengths(literalLengths_);
+  const auto distancePart = usedLengths(distanceLengths_);
+  std::vector<std::uint8_t> lengths(literalPart.begin(), literalPart.end());
+  lengths.insert(lengths.end(), distancePart.begin(), distancePart.end());
 
   struct Item {
     std::uint8_t symbol, extra, extraBits;
@@ -245,8 +394,8 @@ void LiteralDeflate::writeHeader(bool last) {
 
   put(last ? 1 : 0, 1);
   put(2, 2); // dynamic codes
-  put(literalCodes - 257, 5);
-  put(0, 5); // one distance code
+  put(literalPart.size() - 257, 5);
+  put(distancePart.size() - 1, 5);
   put(orderCount - 4, 4);
   flush();
   for (std::size_t i = 0; i < orderCount; ++i) {
@@ -262,19 +411,19 @@ void LiteralDeflate::writeHeader(bool last) {
 
 void LiteralDeflate::writeSymbols(std::span<const std::uint8_t> bytes) {
   std::size_t position = 0;
-  for (const Run& run : runs_) {
-    writeLiterals(bytes.data() + position, run.start - position);
-    writeRun(bytes[run.start], run.length);
-    position = run.start + run.length;
+  for (const Match& match : matches_) {
+    writeLiterals(bytes.data() + position, match.start - position);
+    writeMatch(bytes, match);
+    position = match.start + match.length;
   }
   writeLiterals(bytes.data() + position, bytes.size() - position);
-  put(codes_[endOfBlock].bits, codes_[endOfBlock].length);
+  put(literalCodes_[endOfBlock].bits, literalCodes_[endOfBlock].length);
   flush();
 }
 
 void LiteralDeflate::writeLiterals(const std::uint8_t* bytes, std::size_t count) {
   // The state in locals: the compiler must assume that a store of bytes changes the members.
-  const Code* const codes = codes_.data();
+  const Code* const codes = literalCodes_.data();
   std::uint8_t* out = out_;
   std::uint64_t bits = bits_;
   unsigned bitCount = bitCount_;
@@ -308,22 +457,18 @@ void LiteralDeflate::writeLiterals(const std::uint8_t* bytes, std::size_t count)
   bitCount_ = bitCount;
 }
 
-void LiteralDeflate::writeRun(std::uint8_t byte, std::size_t length) {
-  constexpr unsigned distanceBits = 1; // the one distance code is the bit 0
-  const Code longest = codes_[symbolCount - 1];
-  for (; length >= longestMatch; length -= longestMatch) {
-    put(longest.bits, longest.length + distanceBits);
+void LiteralDeflate::writeMatch(std::span<const std::uint8_t> bytes, const Match& match) {
+  const Symbol distance = distanceSymbol(match.distance);
+  const Code distanceCode = distanceCodes_[distance.number];
+  const std::size_t left = splitMatch(match.length, [&](std::size_t length) {
+    const Symbol& symbol = lengthSymbols[length];
+    put(literalCodes_[symbol.number].bits, literalCodes_[symbol.number].length);
+    put(length - symbol.base, symbol.extraBits);
+    put(distanceCode.bits, distanceCode.length);
+    put(match.distance - distance.base, distance.extraBits); // 53 bits at most, with 7 before
     flush();
-  }
-  if (length < 3) {
-    for (; length > 0; --length)
-      put(codes_[byte].bits, codes_[byte].length);
-  } else {
-    const LengthSymbol& symbol = lengthSymbols[length];
-    put(codes_[symbol.symbol].bits, codes_[symbol.symbol].length);
-    put(length - symbol.base, symbol.extraBits + distanceBits);
-  }
-  flush();
+  });
+  writeLiterals(bytes.data() + match.start + match.length - left, left);
 }
 
 void LiteralDeflate::writeStored(std::span<const std::uint8_t> bytes, bool last) {

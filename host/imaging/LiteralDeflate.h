@@ -1,8 +1,9 @@
-// A deflate made for filtered pictures. After a PNG filter there is little left for a search of
-// earlier strings to find, so it knows literals and runs of one byte only, and spends its time on
-// good prefix codes.
+// A deflate made for filtered pictures. After a PNG filter there is mostly little left for a search
+// of earlier strings to find, so it first takes runs of one byte and good prefix codes, which is
+// fast; only where runs leave few bytes over, in flat art and text, does it search for repeats.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -16,6 +17,8 @@ class LiteralDeflate final {
   /// The best size of a block: long enough to pay for its codes, short enough to stay in the cache
   /// and for the codes to fit.
   static constexpr std::size_t blockBytes = std::size_t{192} << 10;
+  /// How far back a repeat may reach.
+  static constexpr std::size_t window = std::size_t{32} << 10;
 
   /// Bytes that a stream of this many bytes in this many blocks can take, with the room that the
   /// writer needs while it works.
@@ -23,37 +26,53 @@ class LiteralDeflate final {
 
   /// Starts a stream at `out`, which has room for `bound`.
   void start(std::uint8_t* out);
-  void block(std::span<const std::uint8_t> bytes, bool last);
+  /// `history` bytes of the stream's earlier blocks stand before `bytes` in memory, for repeats to
+  /// refer to.
+  void block(std::span<const std::uint8_t> bytes, bool last, std::size_t history = 0);
   /// The end of what was written; after the last block, the end of the stream.
   std::uint8_t* end() const { return out_; }
 
  private:
-  /// A byte that repeats the one before it, `length` times.
-  struct Run {
-    std::size_t start;
-    std::size_t length;
+  /// Bytes from `start` in the block that repeat those `distance` before them.
+  struct Match {
+    std::uint32_t start;
+    std::uint32_t length;
+    std::uint32_t distance;
   };
   struct Code {
     std::uint16_t bits = 0;
     std::uint16_t length = 0;
   };
+  static constexpr std::size_t literalSymbols = 286;
+  static constexpr std::size_t distanceSymbols = 30;
 
   void findRuns(std::span<const std::uint8_t> bytes);
+  /// Replaces `matches_`, which holds runs, by runs and other repeats where those are shorter.
+  void findRepeats(std::span<const std::uint8_t> bytes, std::size_t history);
+  bool worthSearching(std::size_t bytes) const;
+  std::size_t bitsAsLiterals(std::span<const std::uint8_t> bytes, std::size_t most) const;
   void makeCodes(std::span<const std::uint8_t> bytes);
   void writeHeader(bool last);
   void writeSymbols(std::span<const std::uint8_t> bytes);
   void writeLiterals(const std::uint8_t* bytes, std::size_t count);
-  void writeRun(std::uint8_t byte, std::size_t length);
+  void writeMatch(std::span<const std::uint8_t> bytes, const Match& match);
   void writeStored(std::span<const std::uint8_t> bytes, bool last);
   void put(std::uint64_t bits, unsigned count);
   void flush();
 
   std::uint8_t* out_ = nullptr;
-  std::uint64_t bits_ = 0; ///< not yet written, the first lowest
-  unsigned bitCount_ = 0;  ///< below 8 after `flush`
-  std::vector<Run> runs_;
-  std::vector<std::uint8_t> lengths_;
-  std::vector<Code> codes_; ///< of literals 0 to 255, the end 256, run lengths from 257
+  std::uint64_t bits_ = 0;     ///< not yet written, the first lowest
+  unsigned bitCount_ = 0;      ///< below 8 after `flush`
+  std::uint32_t position_ = 0; ///< of the block in the stream
+  std::vector<Match> matches_;
+  std::vector<Match> runs_;
+  std::size_t literals_ = 0;            ///< bytes that `matches_` leave over
+  std::uint64_t literalBits_ = 0;       ///< what those cost, about, in the present code
+  std::vector<std::uint32_t> lastSeen_; ///< by hash, position in the stream plus 1
+  std::array<std::uint8_t, literalSymbols> literalLengths_{};
+  std::array<std::uint8_t, distanceSymbols> distanceLengths_{};
+  std::array<Code, literalSymbols> literalCodes_{};
+  std::array<Code, distanceSymbols> distanceCodes_{};
 };
 
 } // namespace vitrelle::host

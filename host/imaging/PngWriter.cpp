@@ -15,10 +15,6 @@ namespace vitrelle::host {
 
 namespace {
 
-/// Below this share of the filtered bytes a picture is made of repeats, and a search for them may
-/// find more than runs.
-constexpr double repeatsWorthSearching = 0.08;
-
 struct Compressor {
   explicit Compressor(int level) : handle(libdeflate_alloc_compressor(level)) {}
   ~Compressor() { libdeflate_free_compressor(handle); }
@@ -133,46 +129,29 @@ std::uint8_t* PngWriter::compress(const Bitmap& bitmap, const Layout& layout, st
   std::uint8_t* const deflated = putBytes(out, zlibHeader);
   deflate_.start(deflated);
 
+  // The block that is filled stands behind the end of the one before, for repeats to reach into.
   const std::size_t stride = layout.rowBytes + 1;
-  block_.resize(layout.rowsPerBlock * stride);
+  constexpr std::size_t window = LiteralDeflate::window;
+  const std::size_t fullBlock = layout.rowsPerBlock * stride;
+  blocks_.resize(window + fullBlock);
+  std::uint8_t* const block = blocks_.data() + window;
   PngRowFilter filter(layout.rowBytes, layout.bytesPerPixel);
   std::uint32_t checksum = 1;
   std::size_t waiting = 0;
+  std::size_t history = 0;
   for (std::int32_t y = 0; y < bitmap.size.height; ++y) {
-    filter.filter(bitmap.row(y), block_.data() + waiting);
+    filter.filter(bitmap.row(y), block + waiting);
     waiting += stride;
     const bool last = y + 1 == bitmap.size.height;
-    if (!last && waiting < block_.size()) continue;
-    checksum = libdeflate_adler32(checksum, block_.data(), waiting);
-    deflate_.block({block_.data(), waiting}, last);
+    if (!last && waiting < fullBlock) continue;
+    checksum = libdeflate_adler32(checksum, block, waiting);
+    deflate_.block({block, waiting}, last, history);
+    history = std::min(window, history + waiting);
+    std::memmove(block - history, block + waiting - history, history);
     waiting = 0;
   }
   writeBigEndian32(deflate_.end(), checksum);
-  std::uint8_t* end = deflate_.end() + 4;
-
-  const auto size = static_cast<std::size_t>(end - out);
-  if (static_cast<double>(size) <
-      repeatsWorthSearching * static_cast<double>(layout.filteredBytes)) {
-    if (std::uint8_t* shorter = compressRepeats(bitmap, layout, size, out)) end = shorter;
-  }
-  return end;
-}
-
-std::uint8_t* PngWriter::compressRepeats(const Bitmap& bitmap, const Layout& layout,
-                                         std::size_t limit, std::uint8_t* out) {
-  const std::size_t stride = layout.rowBytes + 1;
-  const std::shared_ptr<std::uint8_t> filtered = allocatePixels(layout.filteredBytes);
-  const Compressor compressor(2);
-  std::vector<std::uint8_t> shorter(limit);
-  if (!filtered || compressor.handle == nullptr) return nullptr;
-  PngRowFilter filter(layout.rowBytes, layout.bytesPerPixel);
-  for (std::int32_t y = 0; y < bitmap.size.height; ++y) {
-    filter.filter(bitmap.row(y), filtered.get() + static_cast<std::size_t>(y) * stride);
-  }
-  const std::size_t size = libdeflate_zlib_compress(compressor.handle, filtered.get(),
-                                                    layout.filteredBytes, shorter.data(), limit);
-  if (size == 0) return nullptr; // it did not fit the limit
-  return putBytes(out, {shorter.data(), size});
+  return deflate_.end() + 4;
 }
 
 bool isOpaque(const Bitmap& bitmap) {

@@ -23,12 +23,9 @@ class PngWriter final {
 
   /// The zlib stream of the filtered rows, written at `out`; gives its end.
   std::uint8_t* compress(const Bitmap& bitmap, const Layout& layout, std::uint8_t* out);
-  /// The same by a search for repeated strings, when that is shorter than `limit`; else null.
-  std::uint8_t* compressRepeats(const Bitmap& bitmap, const Layout& layout, std::size_t limit,
-                                std::uint8_t* out);
 
   LiteralDeflate deflate_;
-  std::vector<std::uint8_t> block_; ///< filtered rows that wait to be compressed
+  std::vector<std::uint8_t> blocks_; ///< filtered rows that wait to be compressed, and some before
   std::shared_ptr<std::uint8_t> file_;
   std::size_t fileCapacity_ = 0;
 };
