@@ -1,6 +1,7 @@
 #include "host/imaging/PngReader.h"
 
 #include "host/imaging/BigEndian.h"
+#include "host/imaging/Inflate.h"
 #include "host/imaging/LibpngReader.h"
 #include "host/imaging/PictureBounds.h"
 #include "host/imaging/PixelBuffer.h"
@@ -9,9 +10,12 @@
 #include "host/imaging/PngUnfilter.h"
 
 #include <algorithm>
+#include <atomic>
 #include <memory>
 #include <optional>
 #include <string>
+#include <system_error>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -71,24 +75,55 @@ bool isPlain(const PngHeader& header, const Contents& contents) {
          (header.colourType == png::rgb || header.colourType == png::rgba);
 }
 
-/// Inflates the pixels' parts, joined, to exactly this size.
-bool inflate(const Contents& contents, std::uint8_t* out, std::size_t size) {
-  std::span<const std::uint8_t> compressed = contents.pixels.front();
-  std::shared_ptr<std::uint8_t> joined;
-  if (contents.pixels.size() > 1) {
-    joined = allocatePixels(contents.compressedBytes);
-    if (!joined) return false;
-    std::uint8_t* end = joined.get();
-    for (const auto& part : contents.pixels)
-      end = std::ranges::copy(part, end).out;
-    compressed = {joined.get(), contents.compressedBytes};
+/// The pixels' parts as one; `memory` holds them if they had to be joined. Empty without memory.
+std::span<const std::uint8_t> joined(const Contents& contents,
+                                     std::shared_ptr<std::uint8_t>& memory) {
+  if (contents.pixels.size() == 1) return contents.pixels.front();
+  memory = allocatePixels(contents.compressedBytes);
+  if (!memory) return {};
+  std::uint8_t* end = memory.get();
+  for (const auto& part : contents.pixels)
+    end = std::ranges::copy(part, end).out;
+  return {memory.get(), contents.compressedBytes};
+}
+
+/// Inflates into the rows while another thread unfilters those that are complete.
+bool inflateAndUnfilter(std::span<const std::uint8_t> compressed, std::uint8_t* rows,
+                        const FilteredRows& layout, PngUnfilter& unfilter) {
+  constexpr std::size_t stillRead = std::size_t{32} << 10;
+  constexpr std::size_t failed = ~std::size_t{0};
+  const std::size_t size = layout.bytesPerRow * layout.height;
+  std::atomic<std::size_t> rowsReady{0};
+  bool unfiltered = true;
+  const auto follow = [&] {
+    std::size_t done = 0;
+    while (unfiltered && done < layout.height) {
+      rowsReady.wait(done);
+      done = rowsReady.load();
+      unfiltered = done != failed && unfilter.advance(done);
+    }
+  };
+  const auto tell = [&](std::size_t ready) {
+    rowsReady.store(ready);
+    rowsReady.notify_one();
+  };
+
+  std::jthread follower;
+  try {
+    follower = std::jthread(follow);
+  } catch (const std::system_error&) {
+    // The system has no more threads; this one unfilters when it is done.
   }
-  libdeflate_decompressor* decompressor = libdeflate_alloc_decompressor();
-  if (decompressor == nullptr) return false;
-  const libdeflate_result result = libdeflate_zlib_decompress(
-      decompressor, compressed.data(), compressed.size(), out, size, nullptr);
-  libdeflate_free_decompressor(decompressor);
-  return result == LIBDEFLATE_SUCCESS;
+  const bool inflated = inflateZlib(compressed, rows, size, [&](std::size_t bytes) {
+    if (bytes > stillRead) tell((bytes - stillRead) / layout.bytesPerRow);
+  });
+  tell(inflated ? layout.height : failed);
+  if (follower.joinable()) {
+    follower.join();
+  } else {
+    follow();
+  }
+  return unfiltered;
 }
 
 /// Nothing when the pixels are not just as they should be.
@@ -98,7 +133,7 @@ std::optional<Bitmap> decodePlain(const PngHeader& header, const Contents& conte
   const bool hasAlpha = header.colourType == png::rgba;
   const std::size_t filteredBytesPerRow = rowBytes(header) + 1;
   const auto raw = allocatePixels(filteredBytesPerRow * height);
-  if (!raw || !inflate(contents, raw.get(), filteredBytesPerRow * height)) return std::nullopt;
+  if (!raw) return std::nullopt;
 
   // RGBA rows stay where they are; RGB rows grow into a second buffer.
   std::shared_ptr<std::uint8_t> owner = raw;
@@ -110,17 +145,20 @@ std::optional<Bitmap> decodePlain(const PngHeader& header, const Contents& conte
     if (!owner) return std::nullopt;
     out = owner.get();
   }
-  const std::optional<bool> opaque = unfilter({.rows = raw.get(),
-                                               .bytesPerRow = filteredBytesPerRow,
-                                               .width = width,
-                                               .height = height,
-                                               .bytesPerPixel = hasAlpha ? 4 : 3},
-                                              out, bytesPerRow);
-  if (!opaque) return std::nullopt;
+  const FilteredRows layout{.rows = raw.get(),
+                            .bytesPerRow = filteredBytesPerRow,
+                            .width = width,
+                            .height = height,
+                            .bytesPerPixel = hasAlpha ? 4 : 3};
+  PngUnfilter unfilter(layout, out, bytesPerRow);
+  std::shared_ptr<std::uint8_t> memory;
+  if (!inflateAndUnfilter(joined(contents, memory), raw.get(), layout, unfilter)) {
+    return std::nullopt;
+  }
   return Bitmap{.size = header.size,
                 .bytesPerRow = bytesPerRow,
                 .pixels = out,
-                .opaque = *opaque,
+                .opaque = unfilter.isOpaque(),
                 .owner = std::move(owner)};
 }
 
