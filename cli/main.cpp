@@ -6,6 +6,7 @@
 #include "host/desktop/PollLoop.h"
 
 #include <cstdio>
+#include <exception>
 #include <optional>
 
 namespace {
@@ -27,9 +28,7 @@ int complainOfUsage(const CLI::App& program, const CLI::ParseError& error) {
   return static_cast<int>(Exit::usage);
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
   CLI::App program("Cuts home-screen screenshots into the slices that widgets show.", "vitrelle");
   program.require_subcommand(1);
   program.set_version_flag("--version", VITRELLE_VERSION);
@@ -63,4 +62,15 @@ int main(int argc, char** argv) {
     return complainOfUsage(program, error);
   }
   return static_cast<int>(context.exit);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return run(argc, argv);
+  } catch (const std::exception& error) { // such as a lack of memory
+    std::fprintf(stderr, "vitrelle: the program can't go on: %s\n", error.what());
+    return static_cast<int>(Exit::failed);
+  }
 }

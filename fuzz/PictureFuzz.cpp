@@ -1,6 +1,6 @@
-// Any bytes as a picture file: refused, or decoded to a picture that survives being written.
+// Any bytes as a picture file: refused, or decoded to a picture that survives being written. HEIC
+// is left out, which another library decodes in a process of its own.
 
-#include "host/imaging/HeifReader.h"
 #include "host/imaging/JpegReader.h"
 #include "host/imaging/PngReader.h"
 #include "host/imaging/PngWriter.h"
@@ -57,6 +57,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::span<const std::uint8_t> bytes(data, size);
   if (isPng(bytes)) check(bytes, pngSize, decodePng);
   if (isJpeg(bytes)) check(bytes, readJpegSize, decodeJpeg);
-  if (isHeif(bytes)) check(bytes, readHeifSize, decodeHeif);
   return 0;
 }

@@ -1,6 +1,7 @@
 #include "host/imaging/HeifReader.h"
 
 #include "host/imaging/IccProfile.h"
+#include "host/imaging/IsolatedDecoder.h"
 #include "host/imaging/PictureBounds.h"
 
 #include <algorithm>
@@ -163,24 +164,16 @@ ColourProfile readProfile(const Opened& opened) {
   return profile;
 }
 
-} // namespace
-
-bool isHeif(std::span<const std::uint8_t> bytes) {
-  constexpr std::size_t brandAt = 8;
-  constexpr std::array<std::string_view, 8> brands = {"heic", "heix", "heim", "heis",
-                                                      "mif1", "msf1", "hevc", "avif"};
-  if (bytes.size() < brandAt + 4) return false;
-  const std::string_view text(reinterpret_cast<const char*>(bytes.data()), brandAt + 4);
-  return text.substr(4, 4) == "ftyp" && std::ranges::count(brands, text.substr(brandAt)) != 0;
-}
-
-Result<PixelSize> readHeifSize(std::span<const std::uint8_t> bytes) {
+/// The picture without its pixels.
+Result<DecodedPicture> readSize(std::span<const std::uint8_t> bytes) {
   const Result<Opened> opened = open(bytes);
   if (!opened) return opened.failure();
-  return opened->size;
+  DecodedPicture picture;
+  picture.bitmap.size = opened->size;
+  return picture;
 }
 
-Result<DecodedPicture> decodeHeif(std::span<const std::uint8_t> bytes) {
+Result<DecodedPicture> decode(std::span<const std::uint8_t> bytes) {
   const Result<Opened> opened = open(bytes);
   if (!opened) return opened.failure();
   const Library& heif = *opened->heif;
@@ -210,6 +203,27 @@ Result<DecodedPicture> decodeHeif(std::span<const std::uint8_t> bytes) {
                                    .opaque = false,
                                    .owner = image},
                         .profile = readProfile(*opened)};
+}
+
+} // namespace
+
+bool isHeif(std::span<const std::uint8_t> bytes) {
+  constexpr std::size_t brandAt = 8;
+  constexpr std::array<std::string_view, 8> brands = {"heic", "heix", "heim", "heis",
+                                                      "mif1", "msf1", "hevc", "avif"};
+  if (bytes.size() < brandAt + 4) return false;
+  const std::string_view text(reinterpret_cast<const char*>(bytes.data()), brandAt + 4);
+  return text.substr(4, 4) == "ftyp" && std::ranges::count(brands, text.substr(brandAt)) != 0;
+}
+
+Result<PixelSize> readHeifSize(std::span<const std::uint8_t> bytes) {
+  const auto picture = decodeIsolated("HEIC", [&] { return readSize(bytes); });
+  if (!picture) return picture.failure();
+  return picture->bitmap.size;
+}
+
+Result<DecodedPicture> decodeHeif(std::span<const std::uint8_t> bytes) {
+  return decodeIsolated("HEIC", [&] { return decode(bytes); });
 }
 
 } // namespace vitrelle::host

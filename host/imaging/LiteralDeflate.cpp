@@ -61,7 +61,7 @@ constexpr Symbol distanceSymbol(std::uint32_t distance) {
   const std::uint32_t index = distance - 1;
   if (index < 4)
     return {static_cast<std::uint16_t>(index), 0, static_cast<std::uint16_t>(distance)};
-  const int extra = std::bit_width(index) - 2;
+  const int extra = static_cast<int>(std::bit_width(index)) - 2;
   const std::uint32_t upper = index >> extra; // 2 or 3
   return {static_cast<std::uint16_t>(2 * static_cast<std::uint32_t>(extra) + upper),
           static_cast<std::uint8_t>(extra), static_cast<std::uint16_t>((upper << extra) + 1)};

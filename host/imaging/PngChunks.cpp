@@ -66,6 +66,9 @@ std::optional<PngChunk> PngChunks::next() {
 }
 
 bool isIntact(const PngChunk& chunk) {
+#ifdef FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION
+  return true;
+#endif
   // The type stands before the data and is covered too.
   return libdeflate_crc32(0, chunk.data.data() - 4, chunk.data.size() + 4) == chunk.checksum;
 }

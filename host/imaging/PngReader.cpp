@@ -171,11 +171,12 @@ bool isPng(std::span<const std::uint8_t> bytes) {
 
 Result<PngHeader> readPngHeader(std::span<const std::uint8_t> bytes) {
   if (bytes.size() < pngHeaderBytes || !isPng(bytes)) return refused("the file ends in its header");
-  const std::uint8_t* fields = bytes.data() + 16;
-  if (readBigEndian32(bytes.data() + 8) != 13 || readBigEndian32(bytes.data() + 12) != png::IHDR ||
-      readBigEndian32(bytes.data() + 29) != libdeflate_crc32(0, bytes.data() + 12, 17)) {
+  // A chunk of 13 bytes by the name of IHDR.
+  const auto header = PngChunks(bytes.first(pngHeaderBytes)).next();
+  if (!header || header->type != png::IHDR || header->data.size() != 13 || !isIntact(*header)) {
     return refused("the header is damaged");
   }
+  const std::uint8_t* fields = header->data.data();
   const std::int64_t width = readBigEndian32(fields);
   const std::int64_t height = readBigEndian32(fields + 4);
   if (!withinBounds(width, height)) return refused(boundsComplaint(width, height));
