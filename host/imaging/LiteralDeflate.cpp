@@ -1,5 +1,6 @@
 #include "host/imaging/LiteralDeflate.h"
 
+#include "host/imaging/DeflateSymbols.h"
 #include "host/imaging/HuffmanCode.h"
 
 #include <algorithm>
@@ -7,65 +8,12 @@
 #include <bit>
 #include <cstring>
 
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
-
 namespace vitrelle::host {
 
 namespace {
 
-constexpr std::size_t endOfBlock = 256;
-constexpr std::size_t firstLengthSymbol = 257;
-constexpr std::size_t longestLengthSymbol = 285;
-constexpr std::size_t shortestMatch = 3;
-constexpr std::size_t longestMatch = 258;
-/// Shorter runs cost more as a match than as literals of a good code.
-constexpr std::size_t shortestRun = 12;
-/// Repeats are looked for by this many bytes.
-constexpr std::size_t shortestRepeat = 6;
-/// A repeat ends where a run of this length begins: the run is shorter to tell.
-constexpr std::size_t runThatEndsRepeats = 32;
-/// Of a match's two symbols, without the distance's extra bits.
-constexpr std::size_t typicalMatchBits = 12;
 /// Four codes and the 7 bits that a flush may leave fit 64 bits.
 constexpr int longestCode = 14;
-
-/// A match length's or distance's symbol, with the bits that tell it from the symbol's others.
-struct Symbol {
-  std::uint16_t number = 0;
-  std::uint8_t extraBits = 0;
-  std::uint16_t base = 0;
-};
-
-/// Of each match length from 3 to 258.
-constexpr std::array<Symbol, longestMatch + 1> makeLengthSymbols() {
-  std::array<Symbol, longestMatch + 1> table{};
-  std::size_t length = shortestMatch;
-  for (std::size_t number = firstLengthSymbol; number < longestLengthSymbol; ++number) {
-    const std::size_t step = number - firstLengthSymbol;
-    const std::size_t extra = step < 8 ? 0 : step / 4 - 1;
-    const std::size_t base = length;
-    for (; length < base + (std::size_t{1} << extra) && length < longestMatch; ++length) {
-      table[length] = {static_cast<std::uint16_t>(number), static_cast<std::uint8_t>(extra),
-                       static_cast<std::uint16_t>(base)};
-    }
-  }
-  table[longestMatch] = {longestLengthSymbol, 0, longestMatch};
-  return table;
-}
-constexpr auto lengthSymbols = makeLengthSymbols();
-
-/// Beyond the first four, each power of two of distances has two symbols.
-constexpr Symbol distanceSymbol(std::uint32_t distance) {
-  const std::uint32_t index = distance - 1;
-  if (index < 4)
-    return {static_cast<std::uint16_t>(index), 0, static_cast<std::uint16_t>(distance)};
-  const int extra = static_cast<int>(std::bit_width(index)) - 2;
-  const std::uint32_t upper = index >> extra; // 2 or 3
-  return {static_cast<std::uint16_t>(2 * static_cast<std::uint32_t>(extra) + upper),
-          static_cast<std::uint8_t>(extra), static_cast<std::uint16_t>((upper << extra) + 1)};
-}
 
 /// Calls back with the length of each match that a longer one is told as, and with the bytes left
 /// over at its end, which are too few for a match.
@@ -76,63 +24,6 @@ std::size_t splitMatch(std::size_t length, OnMatch onMatch) {
   if (length < shortestMatch) return length;
   onMatch(length);
   return 0;
-}
-
-std::uint64_t load64(const std::uint8_t* bytes) {
-  std::uint64_t word = 0;
-  std::memcpy(&word, bytes, 8);
-  return word;
-}
-
-constexpr unsigned hashBits = 14;
-std::size_t hashOfRepeat(std::uint64_t word) {
-  return (word << (64 - 8 * shortestRepeat)) * 0x9E3779B97F4A7C15 >> (64 - hashBits);
-}
-
-/// How many bytes are the same, up to `most`. Both are followed by at least 8 more.
-std::size_t sameBytes(const std::uint8_t* left, const std::uint8_t* right, std::size_t most) {
-  std::size_t same = 0;
-  while (same + 8 <= most) {
-    const std::uint64_t difference = load64(left + same) ^ load64(right + same);
-    if (difference != 0) return same + static_cast<std::size_t>(std::countr_zero(difference)) / 8;
-    same += 8;
-  }
-  while (same < most && left[same] == right[same])
-    ++same;
-  return same;
-}
-
-/// Bit i tells whether bytes[i] equals the byte before it, for 64 bytes.
-std::uint64_t repeats(const std::uint8_t* bytes) {
-#if defined(__SSE2__)
-  std::uint64_t mask = 0;
-  for (unsigned part = 0; part < 4; ++part) {
-    const auto* at = reinterpret_cast<const __m128i*>(bytes + 16 * part);
-    const auto* before = reinterpret_cast<const __m128i*>(bytes + 16 * part - 1);
-    const __m128i equal = _mm_cmpeq_epi8(_mm_loadu_si128(at), _mm_loadu_si128(before));
-    mask |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm_movemask_epi8(equal)))
-            << (16 * part);
-  }
-  return mask;
-#else
-  std::uint64_t mask = 0;
-  for (unsigned i = 0; i < 64; ++i)
-    mask |= std::uint64_t{bytes[i] == *(bytes + i - 1)} << i;
-  return mask;
-#endif
-}
-
-std::size_t runEnd(std::span<const std::uint8_t> bytes, std::size_t position) {
-  const std::uint8_t byte = bytes[position];
-  while (position + 65 <= bytes.size()) {
-    const std::uint64_t mask = repeats(bytes.data() + position + 1);
-    if (~mask != 0) return position + 1 + static_cast<std::size_t>(std::countr_one(mask));
-    position += 64;
-  }
-  ++position;
-  while (position < bytes.size() && bytes[position] == byte)
-    ++position;
-  return position;
 }
 
 } // namespace
@@ -147,8 +38,7 @@ void LiteralDeflate::start(std::uint8_t* out) {
   out_ = out;
   bits_ = 0;
   bitCount_ = 0;
-  position_ = 0;
-  lastSeen_.clear();
+  finder_.startStream();
 }
 
 void LiteralDeflate::block(std::span<const std::uint8_t> bytes, bool last, std::size_t history) {
@@ -156,10 +46,11 @@ void LiteralDeflate::block(std::span<const std::uint8_t> bytes, bool last, std::
   const std::uint64_t bitsBefore = bits_;
   const unsigned bitCountBefore = bitCount_;
 
-  findRuns(bytes);
+  finder_.startBlock(bytes);
+  matches_ = finder_.findRuns();
   makeCodes(bytes);
   if (worthSearching(bytes.size())) {
-    findRepeats(bytes, history);
+    matches_ = finder_.findRepeats(history, literalLengths_);
     makeCodes(bytes);
   }
   writeHeader(last);
@@ -175,36 +66,6 @@ void LiteralDeflate::block(std::span<const std::uint8_t> bytes, bool last, std::
     put(0, 8 - bitCount_);
     flush();
   }
-  position_ += static_cast<std::uint32_t>(bytes.size());
-}
-
-void LiteralDeflate::findRuns(std::span<const std::uint8_t> bytes) {
-  matches_.clear();
-  const std::size_t size = bytes.size();
-  // A run of 12 has 6 repeats in a row in one of the 64-byte windows that it touches.
-  for (std::size_t position = 1; position + 64 <= size;) {
-    const std::uint64_t mask = repeats(bytes.data() + position);
-    std::uint64_t six = mask & mask >> 1;
-    six &= six >> 2;
-    six &= six >> 2; // bit i: repeats at i to i + 5
-    std::size_t next = position + 64;
-    while (six != 0) {
-      std::size_t start = position + static_cast<std::size_t>(std::countr_zero(six));
-      while (start > 1 && bytes[start - 1] == bytes[start - 2])
-        --start;
-      const std::size_t end = runEnd(bytes, start);
-      if (end - start >= shortestRun) {
-        matches_.push_back(
-            {static_cast<std::uint32_t>(start), static_cast<std::uint32_t>(end - start), 1});
-      }
-      if (end >= next) {
-        next = end;
-        break;
-      }
-      six &= ~std::uint64_t{0} << (end - position);
-    }
-    position = next;
-  }
 }
 
 /// Runs leave little of flat art and text, but that little is edges, dear as literals and often
@@ -214,74 +75,9 @@ bool LiteralDeflate::worthSearching(std::size_t bytes) const {
   return literals_ <= bytes / 2 && literalBits_ > dearLiteralBits * literals_;
 }
 
-/// What these bytes cost as literals of the present code, counted no further than `most`.
-std::size_t LiteralDeflate::bitsAsLiterals(std::span<const std::uint8_t> bytes,
-                                           std::size_t most) const {
-  std::size_t bits = 0;
-  for (std::size_t i = 0; i < bytes.size() && bits <= most; ++i) {
-    const std::uint8_t length = literalLengths_[bytes[i]];
-    bits += length == 0 ? longestCode : length;
-  }
-  return bits;
-}
-
-void LiteralDeflate::findRepeats(std::span<const std::uint8_t> bytes, std::size_t history) {
-  lastSeen_.resize(std::size_t{1} << hashBits);
-  std::swap(runs_, matches_);
-  matches_.clear();
-  auto run = runs_.begin();
-  const std::size_t size = bytes.size();
-  std::size_t position = 0;
-  const auto skipCoveredRuns = [&] {
-    for (; run != runs_.end() && run->start < position; ++run) {
-      const std::uint32_t end = run->start + run->length;
-      if (end < position + shortestRun) continue; // what is left of it is too short
-      run->start = static_cast<std::uint32_t>(position);
-      run->length = end - run->start;
-      return;
-    }
-  };
-  while (position + 16 <= size) {
-    if (run != runs_.end() && run->start == position) {
-      matches_.push_back(*run);
-      position += run->length;
-      ++run;
-      continue;
-    }
-    const std::uint8_t* const here = bytes.data() + position;
-    const std::uint64_t word = load64(here);
-    const std::uint32_t inStream = position_ + static_cast<std::uint32_t>(position);
-    std::uint32_t& seen = lastSeen_[hashOfRepeat(word)];
-    const std::uint32_t distance = inStream + 1 - seen;
-    const bool reachable = seen != 0 && distance <= std::min(window, position + history);
-    seen = inStream + 1;
-    if (reachable && ((load64(here - distance) ^ word) << (64 - 8 * shortestRepeat)) == 0) {
-      const bool longRun = run != runs_.end() && run->length >= runThatEndsRepeats;
-      const std::size_t most = longRun ? run->start - position : size - 8 - position;
-      const std::size_t length = sameBytes(here, here - distance, most);
-      const std::size_t cost = typicalMatchBits + distanceSymbol(distance).extraBits;
-      if (length >= shortestMatch && bitsAsLiterals(bytes.subspan(position, length), cost) > cost) {
-        matches_.push_back(
-            {static_cast<std::uint32_t>(position), static_cast<std::uint32_t>(length), distance});
-        // What the match covers can be repeated too.
-        const std::size_t end = position + length;
-        for (++position; position < end; ++position) {
-          lastSeen_[hashOfRepeat(load64(bytes.data() + position))] =
-              position_ + static_cast<std::uint32_t>(position) + 1;
-        }
-        skipCoveredRuns();
-        continue;
-      }
-    }
-    ++position;
-  }
-  skipCoveredRuns();
-  matches_.insert(matches_.end(), run, runs_.end());
-}
-
 void LiteralDeflate::makeCodes(std::span<const std::uint8_t> bytes) {
-  std::array<std::uint32_t, literalSymbols> counts{};
-  std::array<std::uint32_t, distanceSymbols> distanceCounts{};
+  std::array<std::uint32_t, literalSymbolCount> counts{};
+  std::array<std::uint32_t, distanceSymbolCount> distanceCounts{};
   literals_ = bytes.size();
   for (const Match& match : matches_) {
     literals_ -= match.length;
@@ -324,7 +120,7 @@ void LiteralDeflate::makeCodes(std::span<const std::uint8_t> bytes) {
 
   const auto makeCode = [](const auto& symbolCounts, auto& lengths, auto& codes) {
     huffmanLengths(symbolCounts, longestCode, lengths);
-    std::array<std::uint16_t, literalSymbols> bits{};
+    std::array<std::uint16_t, literalSymbolCount> bits{};
     canonicalCodes(lengths, bits);
     for (std::size_t i = 0; i < lengths.size(); ++i)
       codes[i] = {bits[i], lengths[i]};
@@ -458,10 +254,10 @@ void LiteralDeflate::writeLiterals(const std::uint8_t* bytes, std::size_t count)
 }
 
 void LiteralDeflate::writeMatch(std::span<const std::uint8_t> bytes, const Match& match) {
-  const Symbol distance = distanceSymbol(match.distance);
+  const DeflateSymbol distance = distanceSymbol(match.distance);
   const Code distanceCode = distanceCodes_[distance.number];
   const std::size_t left = splitMatch(match.length, [&](std::size_t length) {
-    const Symbol& symbol = lengthSymbols[length];
+    const DeflateSymbol& symbol = lengthSymbols[length];
     put(literalCodes_[symbol.number].bits, literalCodes_[symbol.number].length);
     put(length - symbol.base, symbol.extraBits);
     put(distanceCode.bits, distanceCode.length);

@@ -3,11 +3,13 @@
 // fast; only where runs leave few bytes over, in flat art and text, does it search for repeats.
 #pragma once
 
+#include "host/imaging/DeflateSymbols.h"
+#include "host/imaging/MatchFinder.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
-#include <vector>
 
 namespace vitrelle::host {
 
@@ -18,7 +20,7 @@ class LiteralDeflate final {
   /// and for the codes to fit.
   static constexpr std::size_t blockBytes = std::size_t{192} << 10;
   /// How far back a repeat may reach.
-  static constexpr std::size_t window = std::size_t{32} << 10;
+  static constexpr std::size_t window = MatchFinder::window;
 
   /// Bytes that a stream of this many bytes in this many blocks can take, with the room that the
   /// writer needs while it works.
@@ -33,24 +35,12 @@ class LiteralDeflate final {
   std::uint8_t* end() const { return out_; }
 
  private:
-  /// Bytes from `start` in the block that repeat those `distance` before them.
-  struct Match {
-    std::uint32_t start;
-    std::uint32_t length;
-    std::uint32_t distance;
-  };
   struct Code {
     std::uint16_t bits = 0;
     std::uint16_t length = 0;
   };
-  static constexpr std::size_t literalSymbols = 286;
-  static constexpr std::size_t distanceSymbols = 30;
 
-  void findRuns(std::span<const std::uint8_t> bytes);
-  /// Replaces `matches_`, which holds runs, by runs and other repeats where those are shorter.
-  void findRepeats(std::span<const std::uint8_t> bytes, std::size_t history);
   bool worthSearching(std::size_t bytes) const;
-  std::size_t bitsAsLiterals(std::span<const std::uint8_t> bytes, std::size_t most) const;
   void makeCodes(std::span<const std::uint8_t> bytes);
   void writeHeader(bool last);
   void writeSymbols(std::span<const std::uint8_t> bytes);
@@ -61,18 +51,16 @@ class LiteralDeflate final {
   void flush();
 
   std::uint8_t* out_ = nullptr;
-  std::uint64_t bits_ = 0;     ///< not yet written, the first lowest
-  unsigned bitCount_ = 0;      ///< below 8 after `flush`
-  std::uint32_t position_ = 0; ///< of the block in the stream
-  std::vector<Match> matches_;
-  std::vector<Match> runs_;
-  std::size_t literals_ = 0;            ///< bytes that `matches_` leave over
-  std::uint64_t literalBits_ = 0;       ///< what those cost, about, in the present code
-  std::vector<std::uint32_t> lastSeen_; ///< by hash, position in the stream plus 1
-  std::array<std::uint8_t, literalSymbols> literalLengths_{};
-  std::array<std::uint8_t, distanceSymbols> distanceLengths_{};
-  std::array<Code, literalSymbols> literalCodes_{};
-  std::array<Code, distanceSymbols> distanceCodes_{};
+  std::uint64_t bits_ = 0; ///< not yet written, the first lowest
+  unsigned bitCount_ = 0;  ///< below 8 after `flush`
+  MatchFinder finder_;
+  std::span<const Match> matches_; ///< the finder's
+  std::size_t literals_ = 0;       ///< bytes that `matches_` leave over
+  std::uint64_t literalBits_ = 0;  ///< what those cost, about, in the present code
+  std::array<std::uint8_t, literalSymbolCount> literalLengths_{};
+  std::array<std::uint8_t, distanceSymbolCount> distanceLengths_{};
+  std::array<Code, literalSymbolCount> literalCodes_{};
+  std::array<Code, distanceSymbolCount> distanceCodes_{};
 };
 
 } // namespace vitrelle::host
