@@ -20,15 +20,21 @@ std::string uniqueName() {
   return std::to_string(getpid()) + "-" + std::to_string(next++);
 }
 
-/// Opens a new file in the pending folder, which is made when it is not there.
-int openNew(const HomeFolder& home, std::string& path) {
+/// Where a name of our own is put before it; see the class.
+std::string waitingPrefix(const HomeFolder& home, const std::string& place) {
+  if (place.starts_with(home.path() + "/")) return home.pendingFolder() + "/";
+  return folderOf(place) + "/.vitrelle-";
+}
+
+/// Opens a new file, in a folder that is made when it is not there. Gives -1 and `errno`.
+int openNew(const std::string& prefix, std::string& path) {
   for (int attempt = 0; attempt < 100; ++attempt) {
-    path = home.pendingFolder() + "/" + uniqueName();
+    path = prefix + uniqueName();
     const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (file >= 0) return file;
     // Another process with our number may have left a file of that name.
     if (errno == EEXIST) continue;
-    if (errno != ENOENT || !makeFolder(home.pendingFolder())) break;
+    if (errno != ENOENT || !makeFolder(folderOf(prefix))) break;
   }
   return -1;
 }
@@ -45,25 +51,27 @@ bool writeAll(int file, std::span<const std::uint8_t> bytes) {
 
 } // namespace
 
-Result<PendingFile> PendingFile::write(const HomeFolder& home,
+Result<PendingFile> PendingFile::write(const HomeFolder& home, const std::string& place,
                                        std::span<const std::uint8_t> bytes) {
   std::string path;
-  const int file = openNew(home, path);
-  if (file < 0) return Failure{home.pendingFolder(), std::strerror(errno)};
-  PendingFile pending(path);
+  const int file = openNew(waitingPrefix(home, place), path);
+  if (file < 0) return Failure{place, std::strerror(errno)};
+  PendingFile pending(path, place);
   const bool written = writeAll(file, bytes) && fdatasync(file) == 0;
   const int error = errno;
   close(file);
-  if (!written) return Failure{home.pendingFolder(), std::strerror(error)};
+  if (!written) return Failure{place, std::strerror(error)};
   return pending;
 }
 
-PendingFile::PendingFile(PendingFile&& other) noexcept : path_(std::exchange(other.path_, "")) {}
+PendingFile::PendingFile(PendingFile&& other) noexcept
+    : path_(std::exchange(other.path_, "")), place_(std::move(other.place_)) {}
 
 PendingFile& PendingFile::operator=(PendingFile&& other) noexcept {
   if (this != &other) {
     discard();
     path_ = std::exchange(other.path_, "");
+    place_ = std::move(other.place_);
   }
   return *this;
 }
@@ -76,16 +84,22 @@ void PendingFile::discard() {
   if (!path_.empty()) unlink(path_.c_str());
 }
 
-Status PendingFile::moveTo(const std::string& path) {
-  int result = rename(path_.c_str(), path.c_str());
+Status PendingFile::moveIntoPlace() {
+  int result = rename(path_.c_str(), place_.c_str());
   if (result != 0 && errno == ENOENT) {
-    Status folder = makeFolder(path.substr(0, path.find_last_of('/')));
+    Status folder = makeFolder(folderOf(place_));
     if (!folder) return folder;
-    result = rename(path_.c_str(), path.c_str());
+    result = rename(path_.c_str(), place_.c_str());
   }
-  if (result != 0) return Failure{path, std::strerror(errno)};
+  if (result != 0) return Failure{place_, std::strerror(errno)};
   path_.clear();
   return success();
+}
+
+std::string folderOf(const std::string& path) {
+  const std::size_t slash = path.find_last_of('/');
+  if (slash == std::string::npos) return ".";
+  return slash == 0 ? "/" : path.substr(0, slash);
 }
 
 void syncFolder(const std::string& path) {
@@ -97,11 +111,11 @@ void syncFolder(const std::string& path) {
 
 Status replaceFile(const HomeFolder& home, const std::string& path,
                    std::span<const std::uint8_t> bytes) {
-  Result<PendingFile> pending = PendingFile::write(home, bytes);
+  Result<PendingFile> pending = PendingFile::write(home, path, bytes);
   if (!pending) return pending.failure();
   PendingFile file = *std::move(pending);
-  Status moved = file.moveTo(path);
-  if (moved) syncFolder(path.substr(0, path.find_last_of('/')));
+  Status moved = file.moveIntoPlace();
+  if (moved) syncFolder(folderOf(path));
   return moved;
 }
 

@@ -11,25 +11,32 @@
 
 namespace vitrelle::host {
 
-/// A file that is written, and durable, under a name of its own in the pending folder until it is
-/// put into place. Removed when that does not happen.
+/// A file that is written, and durable, under a name of its own until it is put into place: in the
+/// pending folder, or, where the place lies outside of the home, which may be on another file
+/// system, hidden beside it. Removed when it is not put into place.
 class [[nodiscard]] PendingFile final {
  public:
-  static Result<PendingFile> write(const HomeFolder& home, std::span<const std::uint8_t> bytes);
+  static Result<PendingFile> write(const HomeFolder& home, const std::string& place,
+                                   std::span<const std::uint8_t> bytes);
 
   PendingFile(PendingFile&& other) noexcept;
   PendingFile& operator=(PendingFile&& other) noexcept;
   ~PendingFile();
 
-  /// Renames it over whatever file has that path. Durable once `syncFolder` has run.
-  Status moveTo(const std::string& path);
+  /// Renames it over whatever file is there. Durable once `syncFolder` has run.
+  Status moveIntoPlace();
 
  private:
-  explicit PendingFile(std::string path) : path_(std::move(path)) {}
+  PendingFile(std::string path, std::string place)
+      : path_(std::move(path)), place_(std::move(place)) {}
   void discard();
 
   std::string path_; ///< empty once it is in place
+  std::string place_;
 };
+
+/// The folder of a path.
+std::string folderOf(const std::string& path);
 
 /// Makes the renames in a folder durable.
 void syncFolder(const std::string& path);

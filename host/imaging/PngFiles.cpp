@@ -25,13 +25,9 @@ Result<EncodedFile> encode(const HomeFolder& home, const PngFile& png, PngWriter
   if (!bitmap) return bitmap.failure();
   const std::span<const std::uint8_t> bytes = writer.encode(*bitmap, png.image.profile());
   if (bytes.empty()) return Failure{png.path, "not enough memory"};
-  Result<PendingFile> file = PendingFile::write(home, bytes);
+  Result<PendingFile> file = PendingFile::write(home, png.path, bytes);
   if (!file) return file.failure();
   return EncodedFile{*std::move(file), bytes.size()};
-}
-
-std::string folderOf(const std::string& path) {
-  return path.substr(0, path.find_last_of('/'));
 }
 
 /// Puts encoded files into place, each as soon as those before it are.
@@ -61,7 +57,7 @@ class InOrder final {
       return;
     }
     EncodedFile file = *std::move(encoded);
-    const Status moved = file.file.moveTo(files_[index].path);
+    const Status moved = file.file.moveIntoPlace();
     if (moved) folders_.insert(folderOf(files_[index].path));
     results_.push_back(moved ? Result<std::size_t>(file.bytes) : moved.failure());
   }

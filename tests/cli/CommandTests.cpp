@@ -1,0 +1,79 @@
+#include "tests/cli/Program.h"
+#include "tests/support/Fakes.h"
+
+#include <nlohmann/json.hpp>
+
+namespace vitrelle {
+namespace {
+
+using Json = nlohmann::json;
+using test::Outcome;
+
+class CommandTest : public test::ProgramTest {};
+
+TEST_F(CommandTest, phone_isToldByOptionThenEnvironmentThenSavedChoice) {
+  const auto current = [&](const std::vector<std::string>& options,
+                           const std::map<std::string, std::string>& environment = {}) {
+    std::vector<std::string> arguments = options;
+    arguments.insert(arguments.end(), {"phone", "--json"});
+    const Json phone = Json::parse(run(arguments, environment).output);
+    return phone["phone"].get<std::string>() + " " + phone["os"].get<std::string>() +
+           (phone["zoomed"] ? " zoomed" : "");
+  };
+  EXPECT_EQ(current({}), "iPhone 15 Pro 18.0");
+  ASSERT_EQ(run({"phone", "iphone 12 mini", "--os", "17.2.1", "--zoomed"}).status, 0);
+  EXPECT_EQ(current({}), "iPhone 12 Mini 17.2.1 zoomed");
+  const std::map<std::string, std::string> environment = {
+      {"VITRELLE_PHONE", "iPhone 14"}, {"VITRELLE_OS", "18"}, {"VITRELLE_ZOOMED", "false"}};
+  EXPECT_EQ(current({}, environment), "iPhone 14 18.0");
+  EXPECT_EQ(current({}), "iPhone 12 Mini 17.2.1 zoomed") << "the environment is not saved";
+  EXPECT_EQ(current({"--phone", "iPhone16,2"}, environment), "iPhone 15 Pro Max 18.0");
+  EXPECT_EQ(run({"phone", "No Phone"}).status, 2);
+  EXPECT_EQ(run({"phones"}, {{"VITRELLE_ZOOMED", "perhaps"}}).status, 2);
+}
+
+TEST_F(CommandTest, options_goBeforeOrAfterTheCommand) {
+  const std::string other = (folder / "other").string();
+  ASSERT_EQ(run({"--home", other, "defaults", "write", "selectedConfig", "-int", "4"}).status, 0);
+  EXPECT_EQ(run({"defaults", "read", "selectedConfig", "--home", other}).output, "4\n");
+  EXPECT_EQ(run({"defaults", "read", "selectedConfig"}).status, 1);
+}
+
+TEST_F(CommandTest, defaultsAndRecords_shareTheStore) {
+  const std::string json =
+      R"([{"id":0,"textConfigTag":0,"textWidgetText":"Hi","textWidgetFont":"","textWidgetSize":18,)"
+      R"("textWidgetShadow":true,"textWidgetTextColour":"FFFFFF","textLinkedConfig":13}])";
+  std::string hex;
+  for (const unsigned char byte : json) {
+    constexpr const char* digits = "0123456789abcdef";
+    hex += {digits[byte >> 4], digits[byte & 15]};
+  }
+  EXPECT_EQ(Json::parse(run({"records", "text", "--json"}).output), Json::array());
+  ASSERT_EQ(run({"defaults", "write", "savedTextWidgetData", "-data", hex}).status, 0);
+  EXPECT_EQ(Json::parse(run({"records", "text", "--json"}).output), Json::parse(json));
+  ASSERT_EQ(run({"defaults", "delete", "savedTextWidgetData"}).status, 0);
+  EXPECT_EQ(Json::parse(run({"records", "text", "--json"}).output), Json::array());
+  EXPECT_EQ(run({"records", "poetry"}).status, 2);
+}
+
+TEST_F(CommandTest, palette_listsTheColoursOfAPicture) {
+  const std::string path = writePicture("a.png", test::positionImage(64, 64));
+  const Outcome lines = run({"palette", path, "--colours", "2"});
+  EXPECT_EQ(lines.status, 0);
+  EXPECT_EQ(lines.output.size(), 3U * 7) << "two are asked for, three come: " << lines.output;
+  EXPECT_EQ(Json::parse(run({"palette", path, "--json"}).output)["colours"].size(), 5U);
+  EXPECT_EQ(run({"palette", path, "--colours", "1"}).status, 2);
+  EXPECT_EQ(run({"palette", (folder / "none.png").string()}).complaints,
+            "vitrelle: " + (folder / "none.png").string() + ": No such file or directory\n");
+}
+
+TEST_F(CommandTest, everyCommand_helps) {
+  for (const char* command : {"cut", "palette", "phones", "phone", "defaults", "records"}) {
+    const Outcome outcome = run({command, "--help"});
+    EXPECT_EQ(outcome.status, 0) << command;
+    EXPECT_NE(outcome.output, "") << command;
+  }
+}
+
+} // namespace
+} // namespace vitrelle

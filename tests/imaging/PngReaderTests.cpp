@@ -1,0 +1,147 @@
+#include "host/imaging/PngReader.h"
+
+#include "host/imaging/BigEndian.h"
+#include "host/imaging/PngFormat.h"
+#include "tests/imaging/LibpngPeer.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include <libdeflate.h>
+
+namespace vitrelle::host {
+namespace {
+
+using test::PngKind;
+
+std::string describe(std::uint32_t width, std::uint32_t height, const PngKind& kind) {
+  return std::to_string(width) + "x" + std::to_string(height) + " type " +
+         std::to_string(kind.colourType) + " depth " + std::to_string(kind.bitDepth) +
+         (kind.interlaced ? " interlaced" : "") + " filters " + std::to_string(kind.filters);
+}
+
+void expectSameAsLibpng(const Data& file, const std::string& what) {
+  PixelSize size;
+  const Data expected = test::readWithLibpng(file, size);
+  const auto picture = decodePng(file);
+  ASSERT_TRUE(picture) << what << ": " << picture.failure().why;
+  EXPECT_EQ(picture->bitmap.size, size) << what;
+  EXPECT_EQ(test::packedPixels(picture->bitmap), expected) << what;
+}
+
+TEST(PngReader, everyKindOfFile_hasLibpngsPixels) {
+  const std::pair<int, std::vector<int>> kinds[] = {{PNG_COLOR_TYPE_GRAY, {1, 2, 4, 8, 16}},
+                                                    {PNG_COLOR_TYPE_RGB, {8, 16}},
+                                                    {PNG_COLOR_TYPE_PALETTE, {1, 2, 4, 8}},
+                                                    {PNG_COLOR_TYPE_GRAY_ALPHA, {8, 16}},
+                                                    {PNG_COLOR_TYPE_RGBA, {8, 16}}};
+  for (const auto& [colourType, depths] : kinds) {
+    for (const int depth : depths) {
+      for (const bool interlaced : {false, true}) {
+        for (const auto& [width, height] : {std::pair(1U, 1U), {1U, 9U}, {9U, 1U}, {31U, 17U}}) {
+          const PngKind kind{depth, colourType, interlaced};
+          expectSameAsLibpng(test::writeWithLibpng(width, height, kind),
+                             describe(width, height, kind));
+        }
+      }
+    }
+  }
+}
+
+TEST(PngReader, everyFilter_isTakenOff) {
+  for (const int filters :
+       {PNG_FILTER_NONE, PNG_FILTER_SUB, PNG_FILTER_UP, PNG_FILTER_AVG, PNG_FILTER_PAETH,
+        PNG_ALL_FILTERS, PNG_FILTER_SUB | PNG_FILTER_PAETH, PNG_FILTER_UP | PNG_FILTER_AVG}) {
+    for (const int colourType : {PNG_COLOR_TYPE_RGB, PNG_COLOR_TYPE_RGBA}) {
+      for (const std::uint32_t height : {2U, 3U, 64U, 301U}) {
+        const PngKind kind{8, colourType, false, filters};
+        expectSameAsLibpng(test::writeWithLibpng(257, height, kind), describe(257, height, kind));
+      }
+    }
+  }
+}
+
+TEST(PngReader, transparentColour_becomesAlpha) {
+  for (const int colourType : {PNG_COLOR_TYPE_GRAY, PNG_COLOR_TYPE_RGB, PNG_COLOR_TYPE_PALETTE}) {
+    const Data file =
+        test::writeWithLibpng(40, 10, {8, colourType}, [](png_structp png, png_infop info) {
+          png_byte alpha[] = {0, 128};
+          png_color_16 colour{0, 3, 3, 3, 3};
+          png_set_tRNS(png, info, alpha, 2, &colour);
+        });
+    expectSameAsLibpng(file, "type " + std::to_string(colourType));
+  }
+}
+
+TEST(PngReader, colourChunks_areCarried) {
+  const Data file = test::writeWithLibpng(3, 3, {}, [](png_structp png, png_infop info) {
+    png_set_gAMA_fixed(png, info, 45455);
+    png_set_cHRM_fixed(png, info, 31270, 32900, 68000, 32000, 26500, 69000, 15000, 6000);
+  });
+  const auto picture = decodePng(file);
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(picture->profile.gamma, 45455U);
+  ASSERT_TRUE(picture->profile.chromaticities);
+  EXPECT_EQ((*picture->profile.chromaticities)[2], 68000U);
+}
+
+TEST(PngReader, orientationFlagAndTrailingBytes_changeNothing) {
+  Data file = test::writeWithLibpng(6, 4, {}, [](png_structp png, png_infop info) {
+    png_byte exif[] = {'I', 'I', 42, 0, 8, 0, 0, 0, 1, 0, 0x12, 1, 3,
+                       0,   1,   0,  0, 0, 6, 0, 0, 0, 0, 0,    0, 0};
+    png_set_eXIf_1(png, info, sizeof exif, exif);
+  });
+  file.insert(file.end(), 100, 0x55);
+  expectSameAsLibpng(file, "with orientation");
+  EXPECT_EQ(decodePng(file)->bitmap.size, (PixelSize{6, 4}));
+}
+
+TEST(PngReader, incompleteFile_isRefusedAtEveryLength) {
+  for (const int colourType : {PNG_COLOR_TYPE_RGBA, PNG_COLOR_TYPE_PALETTE}) {
+    const Data file = test::writeWithLibpng(60, 40, {8, colourType});
+    const std::size_t pixelsEnd = file.size() - 12 - 4; // before the checksum and IEND
+    for (std::size_t length = 0; length < pixelsEnd; length += 1 + length / 50) {
+      EXPECT_FALSE(decodePng(std::span(file).first(length))) << length << " of " << file.size();
+    }
+  }
+}
+
+TEST(PngReader, flippedBits_areRefusedOrHarmless) {
+  std::mt19937 random(1);
+  for (const int colourType : {PNG_COLOR_TYPE_RGB, PNG_COLOR_TYPE_RGBA, PNG_COLOR_TYPE_GRAY}) {
+    const Data file = test::writeWithLibpng(50, 30, {8, colourType});
+    const Data pixels = test::packedPixels(decodePng(file)->bitmap);
+    for (int round = 0; round < 2000; ++round) {
+      Data damaged = file;
+      damaged[random() % damaged.size()] ^= static_cast<std::uint8_t>(1U << random() % 8);
+      const auto picture = decodePng(damaged);
+      if (!picture) continue;
+      EXPECT_EQ(test::packedPixels(picture->bitmap), pixels) << "checksums cover every pixel";
+    }
+  }
+}
+
+TEST(PngReader, sizesThatLie_takeNoMemory) {
+  const auto withSize = [](std::uint32_t width, std::uint32_t height) {
+    Data file = test::writeWithLibpng(8, 8, {});
+    writeBigEndian32(&file[16], width);
+    writeBigEndian32(&file[20], height);
+    writeBigEndian32(&file[29], libdeflate_crc32(0, &file[12], 17));
+    return file;
+  };
+  const std::pair<std::pair<std::uint32_t, std::uint32_t>, const char*> cases[] = {
+      {{0, 8}, "the picture has no pixels"},         {{8, 0}, "the picture has no pixels"},
+      {{0x80000000, 8}, "the picture is too large"}, {{32769, 1}, "the picture is too large"},
+      {{32768, 32768}, "the picture is too large"},  {{8000, 8000}, "the file is incomplete"},
+  };
+  for (const auto& [size, why] : cases) {
+    const auto picture = decodePng(withSize(size.first, size.second));
+    ASSERT_FALSE(picture) << size.first << 'x' << size.second;
+    EXPECT_EQ(picture.failure().why, why) << size.first << 'x' << size.second;
+  }
+}
+
+} // namespace
+} // namespace vitrelle::host
