@@ -1,6 +1,8 @@
 #include "tests/imaging/LibpngPeer.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <memory>
 #include <random>
 #include <stdexcept>
@@ -50,10 +52,17 @@ Data writeWithLibpng(std::uint32_t width, std::uint32_t height, const PngKind& k
   for (std::size_t i = 0; i < pixels.size(); ++i) {
     pixels[i] = static_cast<std::uint8_t>(i / 7 + random() % 9);
   }
+  std::fill_n(pixels.begin(), std::min<std::size_t>(8, pixels.size()), 0);
   std::vector<png_bytep> rows(height);
   for (std::uint32_t y = 0; y < height; ++y)
     rows[y] = pixels.data() + y * rowBytes;
-  png_write_image(png, rows.data());
+  constexpr int each[] = {PNG_FILTER_NONE, PNG_FILTER_SUB, PNG_FILTER_UP, PNG_FILTER_AVG,
+                          PNG_FILTER_PAETH};
+  if (!kind.filterAtRandom) png_write_image(png, rows.data());
+  for (std::uint32_t y = 0; kind.filterAtRandom && y < height; ++y) {
+    png_set_filter(png, 0, each[random() % std::size(each)]);
+    png_write_row(png, rows[y]);
+  }
   png_write_end(png, info);
   png_destroy_write_struct(&png, &info);
   return file;

@@ -15,11 +15,12 @@ struct PngKind {
   int bitDepth = 8;
   int colourType = PNG_COLOR_TYPE_RGBA;
   bool interlaced = false;
-  int filters = PNG_ALL_FILTERS;
+  int filters = PNG_ALL_FILTERS; ///< those that libpng may choose from
+  bool filterAtRandom = false;   ///< another for each row, whatever suits it
 };
 
-/// A file of this kind filled with reproducible noise. `more` may add chunks before the header is
-/// written.
+/// A file of this kind filled with reproducible noise; the first pixel's samples are 0. `more` may
+/// add chunks before the header is written.
 Data writeWithLibpng(std::uint32_t width, std::uint32_t height, const PngKind& kind,
                      const std::function<void(png_structp, png_infop)>& more = {});
 

@@ -63,15 +63,41 @@ TEST(PngReader, everyFilter_isTakenOff) {
   }
 }
 
+TEST(PngReader, everyOrderOfFilters_isTakenOff) {
+  for (const int colourType : {PNG_COLOR_TYPE_RGB, PNG_COLOR_TYPE_RGBA}) {
+    for (const std::uint32_t width : {1U, 2U, 5U, 16U, 61U, 1179U}) {
+      const PngKind kind{.colourType = colourType, .filterAtRandom = true};
+      expectSameAsLibpng(test::writeWithLibpng(width, 800, kind), describe(width, 800, kind));
+    }
+  }
+}
+
+TEST(PngReader, pixelsInManySmallChunks_areJoined) {
+  for (const std::size_t chunk : {6U, 7U, 64U, 1000U}) {
+    const auto split = [&](png_structp png, png_infop) {
+      png_set_compression_buffer_size(png, chunk);
+    };
+    for (const int colourType : {PNG_COLOR_TYPE_RGB, PNG_COLOR_TYPE_PALETTE}) {
+      expectSameAsLibpng(test::writeWithLibpng(90, 33, {8, colourType}, split),
+                         std::to_string(chunk) + " bytes, type " + std::to_string(colourType));
+    }
+  }
+}
+
 TEST(PngReader, transparentColour_becomesAlpha) {
-  for (const int colourType : {PNG_COLOR_TYPE_GRAY, PNG_COLOR_TYPE_RGB, PNG_COLOR_TYPE_PALETTE}) {
-    const Data file =
-        test::writeWithLibpng(40, 10, {8, colourType}, [](png_structp png, png_infop info) {
-          png_byte alpha[] = {0, 128};
-          png_color_16 colour{0, 3, 3, 3, 3};
-          png_set_tRNS(png, info, alpha, 2, &colour);
-        });
-    expectSameAsLibpng(file, "type " + std::to_string(colourType));
+  const PngKind kinds[] = {{1, PNG_COLOR_TYPE_GRAY},    {4, PNG_COLOR_TYPE_GRAY},
+                           {8, PNG_COLOR_TYPE_GRAY},    {16, PNG_COLOR_TYPE_GRAY},
+                           {8, PNG_COLOR_TYPE_RGB},     {8, PNG_COLOR_TYPE_RGB, true},
+                           {16, PNG_COLOR_TYPE_RGB},    {1, PNG_COLOR_TYPE_PALETTE},
+                           {8, PNG_COLOR_TYPE_PALETTE}, {8, PNG_COLOR_TYPE_PALETTE, true}};
+  for (const PngKind& kind : kinds) {
+    const Data file = test::writeWithLibpng(40, 10, kind, [](png_structp png, png_infop info) {
+      const png_byte alpha[] = {0, 128};
+      const png_color_16 colour{};
+      png_set_tRNS(png, info, alpha, 2, &colour);
+    });
+    expectSameAsLibpng(file, describe(40, 10, kind));
+    EXPECT_EQ(decodePng(file).value().bitmap.row(0)[3], 0) << describe(40, 10, kind);
   }
 }
 

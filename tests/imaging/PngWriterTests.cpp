@@ -1,5 +1,6 @@
 #include "host/imaging/PngWriter.h"
 
+#include "host/imaging/BigEndian.h"
 #include "host/imaging/PngReader.h"
 #include "tests/imaging/LibpngPeer.h"
 
@@ -9,6 +10,10 @@
 #include <array>
 #include <functional>
 #include <random>
+#include <span>
+#include <string_view>
+
+#include <libdeflate.h>
 
 namespace vitrelle::host {
 namespace {
@@ -118,6 +123,40 @@ Data iccOf(const char* colourSpace) {
   std::copy_n(colourSpace, 4, icc.begin() + 16);
   std::copy_n("acsp", 4, icc.begin() + 36);
   return icc;
+}
+
+/// What stands in the chunk of this name, which is sound and precedes the pixels.
+Data chunkNamed(std::string_view name, std::span<const std::uint8_t> file) {
+  const auto type = std::ranges::search(file, name);
+  EXPECT_LT(type.begin(), std::ranges::search(file, std::string_view("IDAT")).begin()) << name;
+  if (type.empty()) return {};
+  const std::uint8_t* start = &*type.begin();
+  const std::size_t length = readBigEndian32(start - 4);
+  EXPECT_EQ(libdeflate_crc32(0, start, length + 4), readBigEndian32(start + 4 + length)) << name;
+  return {start + 4, start + 4 + length};
+}
+
+TEST(PngWriter, colourChunks_areLaidOutAsReadersExpect) {
+  ColourProfile profile;
+  profile.icc = iccOf("RGB ");
+  profile.cicp = {12, 13, 0, 1};
+  profile.gamma = 45455;
+  profile.srgbIntent = std::uint8_t{2};
+  PngWriter writer;
+  const auto file = writer.encode(paint({4, 4}, noise()), profile);
+  EXPECT_EQ(chunkNamed("cICP", file), (Data{12, 13, 0, 1}));
+  EXPECT_EQ(chunkNamed("gAMA", file), (Data{0, 0, 0xB1, 0x8F}));
+  const Data chunk = chunkNamed("iCCP", file);
+  const auto name = static_cast<std::size_t>(std::ranges::find(chunk, 0) - chunk.begin());
+  ASSERT_TRUE(name >= 1 && name <= 79 && name + 2 < chunk.size());
+  EXPECT_EQ(chunk[name + 1], 0) << "the only method of compression";
+  Data icc(profile.icc.size());
+  libdeflate_decompressor* inflate = libdeflate_alloc_decompressor();
+  EXPECT_EQ(libdeflate_zlib_decompress(inflate, &chunk[name + 2], chunk.size() - name - 2,
+                                       icc.data(), icc.size(), nullptr),
+            LIBDEFLATE_SUCCESS);
+  libdeflate_free_decompressor(inflate);
+  EXPECT_EQ(icc, profile.icc);
 }
 
 TEST(PngWriter, profile_isCarriedIntoTheFile) {

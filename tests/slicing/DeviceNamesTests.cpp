@@ -1,28 +1,36 @@
 #include "core/slicing/DeviceNames.h"
 
 #include "tests/support/Fakes.h"
+#include "tests/support/Fingerprint.h"
 #include "tests/support/UnimplementedPlatform.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <set>
+#include <string>
 
 namespace vitrelle {
 namespace {
 
 TEST(DeviceNames, table_has121IdentifiersOf73Names) {
-  std::set<std::string_view> identifiers;
+  std::map<std::string_view, std::string_view> rows;
   std::set<std::string_view> names;
   for (const DeviceNameRow& row : deviceNameRows()) {
-    EXPECT_TRUE(identifiers.insert(row.identifier).second) << row.identifier << " stands twice";
+    EXPECT_TRUE(rows.emplace(row.identifier, row.name).second) << row.identifier << " stands twice";
     names.insert(row.name);
   }
-  EXPECT_EQ(identifiers.size(), 121U);
+  EXPECT_EQ(rows.size(), 121U);
   EXPECT_EQ(names.size(), 73U);
   EXPECT_EQ(std::ranges::count_if(names,
                                   [](std::string_view name) { return name.starts_with("iPhone"); }),
             43);
+  std::string text;
+  for (const auto& [identifier, name] : rows)
+    text.append(identifier).append("|").append(name).append("\n");
+  // Reckoned from the list of devices, not from this table.
+  EXPECT_EQ(test::fingerprint(text), 0x3b42d51772115374);
 }
 
 TEST(DeviceNames, modelName_mapsKnownOnesAndPassesOthersThrough) {

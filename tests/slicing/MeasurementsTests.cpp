@@ -4,6 +4,7 @@
 #include "core/slicing/WidgetLocation.h"
 #include "host/phone/PhoneModels.h"
 #include "tests/support/Fakes.h"
+#include "tests/support/Fingerprint.h"
 #include "tests/support/UnimplementedPlatform.h"
 
 #include <gtest/gtest.h>
@@ -17,20 +18,18 @@ namespace {
 constexpr MeasurementTable tables[] = {MeasurementTable::iOS18, MeasurementTable::classic,
                                        MeasurementTable::zoomed};
 
-/// FNV-1a over "name|size|top|left|horizontal|vertical" and a line break for each row.
+/// Over "name|size|top|left|horizontal|vertical" and a line break for each row.
 std::uint64_t fingerprint(std::span<const DeviceMeasurements> rows) {
-  std::uint64_t hash = 0xcbf29ce484222325;
+  std::string text;
   for (const auto& [device, m] : rows) {
-    std::string line(device);
+    text += device;
     for (const std::int64_t number :
          {m.widgetSize, m.topSpacing, m.leftSpacing, m.horizontalSpacing, m.verticalSpacing}) {
-      line += "|" + std::to_string(number);
+      text += "|" + std::to_string(number);
     }
-    for (const char byte : line + "\n") {
-      hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3;
-    }
+    text += "\n";
   }
-  return hash;
+  return test::fingerprint(text);
 }
 
 std::set<std::string_view> devices(MeasurementTable table) {
