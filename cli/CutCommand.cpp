@@ -7,10 +7,12 @@
 
 #include <nlohmann/json.hpp>
 
+#include <charconv>
 #include <chrono>
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <system_error>
 
 namespace vitrelle::cli {
 
@@ -102,6 +104,15 @@ Exit cutOne(const CommandContext& context, const CutArguments& arguments) {
   return complete && drawn ? Exit::done : Exit::failed;
 }
 
+/// Empty for a number that a style may have.
+std::string whyNoStyle(const std::string& text) {
+  std::int64_t number = -1;
+  const char* const end = text.data() + text.size();
+  const auto [behind, error] = std::from_chars(text.data(), end, number);
+  if (error == std::errc() && behind == end && number >= 0) return "";
+  return "'" + text + "' is no style's number, which is 0 or above";
+}
+
 /// What the options' own checks can't say.
 void checkUsage(const CutArguments& arguments, bool hasStyle) {
   const bool hasScreenshot = arguments.screenshots.light || arguments.screenshots.dark;
@@ -140,7 +151,7 @@ void addCutCommand(CLI::App& program, CommandContext& context) {
   CLI::Option* style =
       command->add_option("--style", arguments->style, "The style's number, from 0")
           ->type_name("N")
-          ->check(CLI::NonNegativeNumber);
+          ->check(CLI::Validator(whyNoStyle, ""));
   const auto addScreenshot = [&](const char* name, std::optional<std::string>& path,
                                  const char* description) {
     command

@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <exception>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -23,8 +25,11 @@ host::HostOptions hostOptions(const Options& options) {
 
 int complainOfUsage(const CLI::App& program, const CLI::ParseError& error) {
   if (error.get_exit_code() == 0) return program.exit(error); // a call for help
-  std::fprintf(stderr, "vitrelle: %s\n", error.what());
-  std::fprintf(stderr, "Try 'vitrelle --help'.\n");
+  // The parser misses a command before it looks at what stands in its place.
+  const std::vector<std::string> unknown = program.remaining();
+  const bool noCommand = program.get_subcommands().empty() && !unknown.empty();
+  const std::string why = noCommand ? "there is no '" + unknown.front() + "'" : error.what();
+  std::fprintf(stderr, "vitrelle: %s (see 'vitrelle --help')\n", why.c_str());
   return static_cast<int>(Exit::usage);
 }
 

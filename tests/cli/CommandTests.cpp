@@ -44,7 +44,8 @@ TEST_F(CommandTest, defaultsAndRecords_shareTheStore) {
       R"([{"id":0,"textConfigTag":0,"textWidgetText":"Hi","textWidgetFont":"","textWidgetSize":18,)"
       R"("textWidgetShadow":true,"textWidgetTextColour":"FFFFFF","textLinkedConfig":13}])";
   std::string hex;
-  for (const unsigned char byte : json) {
+  for (const char character : json) {
+    const auto byte = static_cast<unsigned char>(character);
     constexpr const char* digits = "0123456789abcdef";
     hex += {digits[byte >> 4], digits[byte & 15]};
   }

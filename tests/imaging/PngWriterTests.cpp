@@ -127,10 +127,13 @@ Data iccOf(const char* colourSpace) {
 
 /// What stands in the chunk of this name, which is sound and precedes the pixels.
 Data chunkNamed(std::string_view name, std::span<const std::uint8_t> file) {
-  const auto type = std::ranges::search(file, name);
-  EXPECT_LT(type.begin(), std::ranges::search(file, std::string_view("IDAT")).begin()) << name;
-  if (type.empty()) return {};
-  const std::uint8_t* start = &*type.begin();
+  const auto find = [&](std::string_view type) {
+    return std::search(file.begin(), file.end(), type.begin(), type.end());
+  };
+  const auto type = find(name);
+  EXPECT_LT(type, find("IDAT")) << name;
+  if (type == file.end()) return {};
+  const std::uint8_t* start = &*type;
   const std::size_t length = readBigEndian32(start - 4);
   EXPECT_EQ(libdeflate_crc32(0, start, length + 4), readBigEndian32(start + 4 + length)) << name;
   return {start + 4, start + 4 + length};
