@@ -3,6 +3,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <fstream>
+
 namespace vitrelle {
 namespace {
 
@@ -30,6 +32,15 @@ TEST_F(CommandTest, phone_isToldByOptionThenEnvironmentThenSavedChoice) {
   EXPECT_EQ(current({"--phone", "iPhone16,2"}, environment), "iPhone 15 Pro Max 18.0");
   EXPECT_EQ(run({"phone", "No Phone"}).status, 2);
   EXPECT_EQ(run({"phones"}, {{"VITRELLE_ZOOMED", "perhaps"}}).status, 2);
+}
+
+TEST_F(CommandTest, garbledPhoneFile_standsForThePhoneOfToday) {
+  ASSERT_EQ(run({"phone", "iPhone 14", "--os", "17.2", "--zoomed"}).status, 0);
+  for (const char* text : {"", "identifier=\nos=seventeen\nzoomed=2", "\0\xFF\n=\n"}) {
+    std::ofstream(home() + "/phone") << text;
+    EXPECT_EQ(run({"phone"}).output, "iPhone 15 Pro (iPhone16,1), OS 18.0, standard display\n")
+        << text;
+  }
 }
 
 TEST_F(CommandTest, options_goBeforeOrAfterTheCommand) {

@@ -21,6 +21,31 @@ using test::Outcome;
 
 using PixelCount = std::pair<std::int32_t, std::int32_t>;
 
+/// Stems and rectangles of the twelve files, in order, from the measurements that `cut` tells.
+std::vector<std::pair<const char*, PixelRect>> slices(PixelCount whole, const Json& measurements) {
+  const auto number = [&](const char* key) { return measurements[key].get<std::int64_t>(); };
+  const std::int64_t size = number("widgetSize");
+  const std::int64_t wide = size + number("horizontalSpacing");
+  const std::int64_t high = size + number("verticalSpacing");
+  const std::int64_t left = number("leftSpacing");
+  const std::int64_t right = left + number("horizontalSpacing");
+  const std::int64_t top = number("topSpacing");
+  const std::int64_t middle = top + number("verticalSpacing");
+  const std::int64_t bottom = middle + number("verticalSpacing");
+  return {{"original", {0, 0, whole.first, whole.second}},
+          {"topLeftSmall", {left, top, size, size}},
+          {"topRightSmall", {right, top, size, size}},
+          {"midLeftSmall", {left, middle, size, size}},
+          {"midRightSmall", {right, middle, size, size}},
+          {"bottomLeftSmall", {left, bottom, size, size}},
+          {"bottomRightSmall", {right, bottom, size, size}},
+          {"topMedium", {left, top, wide, size}},
+          {"midMedium", {left, middle, wide, size}},
+          {"bottomMedium", {left, bottom, wide, size}},
+          {"topLarge", {left, top, wide, high}},
+          {"bottomLarge", {left, middle, wide, high}}};
+}
+
 class CutCommandTest : public test::ProgramTest {
  protected:
   std::set<std::string> names() const {
@@ -55,6 +80,9 @@ TEST_F(CutCommandTest, everyPhoneInEverySituation_getsThePixelsOfItsSlots) {
         arguments.insert(arguments.end(), {"--light", "none.png"});
         const Outcome outcome = run(arguments);
         EXPECT_EQ(outcome.status, 3) << what;
+        EXPECT_EQ(outcome.output, "") << what;
+        EXPECT_TRUE(outcome.complaints.starts_with("vitrelle: " + phone["name"].get<std::string>()))
+            << what << outcome.complaints;
         continue;
       }
       const PixelCount pixels(size["width"], size["height"]);
@@ -73,38 +101,38 @@ TEST_F(CutCommandTest, everyPhoneInEverySituation_getsThePixelsOfItsSlots) {
       // The same numbers give the same slices: once for each is enough.
       if (!seen.insert(result["measurements"].dump()).second) continue;
 
-      const Json& m = result["measurements"];
-      const auto number = [&](const char* key) { return m[key].get<std::int64_t>(); };
-      const std::int64_t left = number("leftSpacing");
-      const std::int64_t right = left + number("horizontalSpacing");
-      const std::int64_t rows[] = {number("topSpacing"),
-                                   number("topSpacing") + number("verticalSpacing"),
-                                   number("topSpacing") + 2 * number("verticalSpacing")};
-      const std::tuple<const char*, std::int64_t, std::int64_t> slices[] = {
-          {"original", 0, 0},
-          {"topLeftSmall", left, rows[0]},
-          {"topRightSmall", right, rows[0]},
-          {"midLeftSmall", left, rows[1]},
-          {"midRightSmall", right, rows[1]},
-          {"bottomLeftSmall", left, rows[2]},
-          {"bottomRightSmall", right, rows[2]},
-          {"topMedium", left, rows[0]},
-          {"midMedium", left, rows[1]},
-          {"bottomMedium", left, rows[2]},
-          {"topLarge", left, rows[0]},
-          {"bottomLarge", left, rows[1]}};
       std::size_t index = 0;
-      for (const auto& [stem, x, y] : slices) {
+      for (const auto& [stem, rectangle] : slices(pixels, result["measurements"])) {
         const Json& file = result["files"][index++];
         const std::string name = std::string("3") + stem + "Dark.png";
         EXPECT_EQ(file["name"], name) << what;
-        const Image slice = readPicture(groupFolder() / name);
-        EXPECT_EQ(slice.size(), (PixelSize{file["width"], file["height"]})) << what;
-        EXPECT_TRUE(test::isPartAt(slice, screenshot, x, y)) << what << ' ' << stem;
+        EXPECT_EQ(file["width"], rectangle.width) << what << ' ' << name;
+        EXPECT_EQ(file["height"], rectangle.height) << what << ' ' << name;
+        EXPECT_EQ(file["bytes"], fs::file_size(groupFolder() / name)) << what << ' ' << name;
+        EXPECT_TRUE(test::isPart(readPicture(groupFolder() / name), screenshot, rectangle))
+            << what << ' ' << name;
       }
     }
   }
   EXPECT_GT(seen.size(), 30U);
+}
+
+TEST_F(CutCommandTest, debugConsole_andJsonDoNotMix) {
+  const std::string good = writePicture("good.png", test::positionImage(1179, 2556));
+  const Outcome outcome = run({"--verbose", "cut", "--style", "12", "--dark", good, "--json"});
+  EXPECT_EQ(Json::parse(outcome.output)["files"].size(), 12U);
+  EXPECT_NE(outcome.complaints.find("Storing at 12original\n"), std::string::npos)
+      << outcome.complaints;
+}
+
+TEST_F(CutCommandTest, groupFolder_isForItsOwnerOnly) {
+  const std::string good = writePicture("good.png", test::positionImage(1179, 2556));
+  ASSERT_EQ(run({"cut", "--style", "0", "--light", good, "--dark", good}).status, 0);
+  EXPECT_EQ(fs::status(groupFolder()).permissions(), fs::perms(0700));
+  EXPECT_EQ(names().size(), 24U);
+  for (const std::string& name : names()) {
+    EXPECT_EQ(fs::status(groupFolder() / name).permissions(), fs::perms(0600)) << name;
+  }
 }
 
 TEST_F(CutCommandTest, badSecondScreenshot_leavesEverythingAsItWas) {
@@ -145,6 +173,7 @@ TEST_F(CutCommandTest, wrongUsage_isSaidInOneLineWithStatusTwo) {
       {"cut", "--style", "0", "--light", "x.png", "--os", "eighteen"},
       {"--zoomed", "--standard", "phones"},
       {"slice"},
+      {"cut", "--style", "99999999999999999999", "--light", "x.png"},
   };
   for (const auto& arguments : cases) {
     const Outcome outcome = run(arguments);
@@ -152,6 +181,7 @@ TEST_F(CutCommandTest, wrongUsage_isSaidInOneLineWithStatusTwo) {
     EXPECT_EQ(outcome.status, 2) << what;
     EXPECT_EQ(outcome.output, "") << what;
     EXPECT_TRUE(outcome.complaints.starts_with("vitrelle: ")) << what << outcome.complaints;
+    EXPECT_EQ(outcome.complaints.find('\n') + 1, outcome.complaints.size()) << outcome.complaints;
   }
 }
 
@@ -175,28 +205,37 @@ TEST_F(CutCommandTest, batch_numbersThePairsByName) {
 }
 
 TEST_F(CutCommandTest, killedAtAnyMoment_leavesEveryFileWhole) {
-  const Image first = test::positionImage(1179, 2556);
-  const Image second = *test::positionImage(1400, 2700).cropped({100, 77, 1179, 2556});
-  const std::string paths[] = {writePicture("first.png", first),
-                               writePicture("second.png", second)};
-  ASSERT_EQ(run({"cut", "--style", "0", "--light", paths[0]}).status, 0);
+  const Image pictures[] = {test::positionImage(1179, 2556),
+                            *test::positionImage(1400, 2700).cropped({100, 77, 1179, 2556})};
+  const std::string paths[] = {writePicture("first.png", pictures[0]),
+                               writePicture("second.png", pictures[1])};
+  const auto begin = std::chrono::steady_clock::now();
+  const Outcome undisturbed = run({"cut", "--style", "0", "--light", paths[0], "--json"});
+  const auto whole = std::chrono::steady_clock::now() - begin;
+  ASSERT_EQ(undisturbed.status, 0);
+  const auto twelve = slices({1179, 2556}, Json::parse(undisturbed.output)["measurements"]);
   const std::set<std::string> expected = names();
+  ASSERT_EQ(expected.size(), twelve.size());
+
   std::mt19937 random(11);
-  for (int round = 0; round < 60; ++round) {
+  int mixtures = 0;
+  for (int round = 1; round <= 60; ++round) {
     const pid_t child = start({"cut", "--style", "0", "--light", paths[round % 2]});
-    std::this_thread::sleep_for(std::chrono::microseconds(random() % 150'000));
+    std::this_thread::sleep_for(whole * (random() % 1000) / 1000);
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
-    ASSERT_EQ(names(), expected) << "no litter";
-    for (const std::string& name : {std::string("0original.png"), std::string("0bottomLarge.png"),
-                                    std::string("0midRightSmall.png")}) {
-      const Image slice = readPicture(groupFolder() / name);
-      const std::int64_t x = name == "0original.png" ? 0 : name == "0bottomLarge.png" ? 83 : 623;
-      const std::int64_t y = name == "0original.png" ? 0 : 828;
-      EXPECT_TRUE(test::isPartAt(slice, first, x, y) || test::isPartAt(slice, second, x, y))
-          << name << " in round " << round;
+    ASSERT_EQ(names(), expected) << "litter in round " << round;
+    int ofFirst = 0;
+    for (const auto& [stem, rectangle] : twelve) {
+      const Bitmap slice = readPicture(groupFolder() / (std::string("0") + stem + ".png"));
+      const bool first = test::isPart(slice, pictures[0], rectangle);
+      EXPECT_TRUE(first || test::isPart(slice, pictures[1], rectangle))
+          << stem << " in round " << round;
+      ofFirst += first ? 1 : 0;
     }
+    if (ofFirst % 12 != 0) ++mixtures;
   }
+  EXPECT_GT(mixtures, 0) << "no round ended between two files: they were all too early or late";
 }
 
 } // namespace

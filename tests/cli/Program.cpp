@@ -1,11 +1,13 @@
 #include "tests/cli/Program.h"
 
 #include "host/imaging/ImageFile.h"
+#include "tests/imaging/LibpngPeer.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
+#include <utility>
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -90,20 +92,26 @@ std::string ProgramTest::writePicture(const std::string& name, const Image& pict
   return path;
 }
 
-Image ProgramTest::readPicture(const fs::path& path) const {
-  return host::loadImageFile(path.string()).value();
+Bitmap ProgramTest::readPicture(const fs::path& path) const {
+  const std::string file = contents(path.string());
+  PixelSize size;
+  Data pixels =
+      readWithLibpng({reinterpret_cast<const std::uint8_t*>(file.data()), file.size()}, size);
+  return bitmapOf(size, std::move(pixels));
 }
 
-bool isPartAt(const Image& part, const Image& whole, std::int64_t x, std::int64_t y) {
-  const Bitmap small = part.bitmap().value();
+bool isPart(const Bitmap& part, const Image& whole, const PixelRect& rectangle) {
   const Bitmap large = whole.bitmap().value();
-  if (x + small.size.width > large.size.width || y + small.size.height > large.size.height) {
+  if (part.size.width != rectangle.width || part.size.height != rectangle.height ||
+      rectangle.x + rectangle.width > large.size.width ||
+      rectangle.y + rectangle.height > large.size.height) {
     return false;
   }
-  for (std::int32_t row = 0; row < small.size.height; ++row) {
-    const auto* expected = large.row(static_cast<std::int32_t>(y) + row) + 4 * x;
-    const auto* actual = small.row(row);
-    if (!std::equal(actual, actual + 4 * small.size.width, expected)) return false;
+  for (std::int32_t row = 0; row < part.size.height; ++row) {
+    const auto* expected =
+        large.row(static_cast<std::int32_t>(rectangle.y) + row) + 4 * rectangle.x;
+    const auto* actual = part.row(row);
+    if (!std::equal(actual, actual + 4 * part.size.width, expected)) return false;
   }
   return true;
 }

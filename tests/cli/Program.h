@@ -35,12 +35,13 @@ class ProgramTest : public testing::Test {
   std::filesystem::path groupFolder() const;
   /// Writes the picture as a PNG file in the test's folder; gives its path.
   std::string writePicture(const std::string& name, const Image& picture) const;
-  Image readPicture(const std::filesystem::path& path) const;
+  /// Read by libpng, as other programs would.
+  Bitmap readPicture(const std::filesystem::path& path) const;
 
   std::filesystem::path folder;
 };
 
-/// Whether the part of `whole` at x, y has the pixels of `part`.
-bool isPartAt(const Image& part, const Image& whole, std::int64_t x, std::int64_t y);
+/// Whether `part` is this rectangle of `whole`, pixel for pixel.
+bool isPart(const Bitmap& part, const Image& whole, const PixelRect& rectangle);
 
 } // namespace vitrelle::test
