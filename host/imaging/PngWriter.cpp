@@ -96,12 +96,12 @@ std::span<const std::uint8_t> PngWriter::encode(const Bitmap& bitmap,
   const Layout layout{.bytesPerPixel = bytesPerPixel,
                       .rowBytes = rowBytes,
                       .rowsPerBlock =
-                          std::max<std::size_t>(LiteralDeflate::blockBytes / (rowBytes + 1), 1),
+                          std::max<std::size_t>(PictureDeflate::blockBytes / (rowBytes + 1), 1),
                       .filteredBytes = (rowBytes + 1) * height};
   const Data icc = isRgbProfile(profile.icc) ? iccChunk(profile.icc) : Data();
 
   const std::size_t capacity =
-      LiteralDeflate::bound(layout.filteredBytes, height / layout.rowsPerBlock + 1,
+      PictureDeflate::bound(layout.filteredBytes, height / layout.rowsPerBlock + 1,
                             layout.rowsPerBlock * (rowBytes + 1)) +
       icc.size() + smallChunksBytes;
   if (capacity > fileCapacity_) {
@@ -131,7 +131,7 @@ std::uint8_t* PngWriter::compress(const Bitmap& bitmap, const Layout& layout, st
 
   // The block that is filled stands behind the end of the one before, for repeats to reach into.
   const std::size_t stride = layout.rowBytes + 1;
-  constexpr std::size_t window = LiteralDeflate::window;
+  constexpr std::size_t window = PictureDeflate::window;
   const std::size_t fullBlock = layout.rowsPerBlock * stride;
   blocks_.resize(window + fullBlock);
   std::uint8_t* const block = blocks_.data() + window;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/platform/Image.h"
-#include "host/imaging/LiteralDeflate.h"
+#include "host/imaging/PictureDeflate.h"
 
 #include <cstdint>
 #include <memory>
@@ -24,7 +24,7 @@ class PngWriter final {
   /// The zlib stream of the filtered rows, written at `out`; gives its end.
   std::uint8_t* compress(const Bitmap& bitmap, const Layout& layout, std::uint8_t* out);
 
-  LiteralDeflate deflate_;
+  PictureDeflate deflate_;
   std::vector<std::uint8_t> blocks_; ///< filtered rows that wait to be compressed, and some before
   std::shared_ptr<std::uint8_t> file_;
   std::size_t fileCapacity_ = 0;

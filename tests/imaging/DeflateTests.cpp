@@ -1,6 +1,6 @@
 #include "host/imaging/HuffmanCode.h"
 #include "host/imaging/Inflate.h"
-#include "host/imaging/LiteralDeflate.h"
+#include "host/imaging/PictureDeflate.h"
 #include "host/imaging/PixelBuffer.h"
 
 #include <gtest/gtest.h>
@@ -34,19 +34,19 @@ Bytes mixture(std::mt19937& random, std::size_t size) {
 }
 
 Bytes deflated(const Bytes& bytes, std::size_t blockSize) {
-  LiteralDeflate deflate;
-  Bytes out(LiteralDeflate::bound(bytes.size(), bytes.size() / blockSize + 1, blockSize));
+  PictureDeflate deflate;
+  Bytes out(PictureDeflate::bound(bytes.size(), bytes.size() / blockSize + 1, blockSize));
   deflate.start(out.data());
   for (std::size_t at = 0; at < bytes.size(); at += blockSize) {
     const std::size_t size = std::min(blockSize, bytes.size() - at);
     deflate.block(std::span(bytes).subspan(at, size), at + size == bytes.size(),
-                  std::min(at, LiteralDeflate::window));
+                  std::min(at, PictureDeflate::window));
   }
   out.resize(static_cast<std::size_t>(deflate.end() - out.data()));
   return out;
 }
 
-TEST(LiteralDeflate, everyStream_inflatesToWhatWentIn) {
+TEST(PictureDeflate, everyStream_inflatesToWhatWentIn) {
   std::mt19937 random(5);
   libdeflate_decompressor* inflate = libdeflate_alloc_decompressor();
   for (int round = 0; round < 300; ++round) {

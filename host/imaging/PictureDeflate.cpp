@@ -1,4 +1,4 @@
-#include "host/imaging/LiteralDeflate.h"
+#include "host/imaging/PictureDeflate.h"
 
 #include "host/imaging/DeflateSymbols.h"
 #include "host/imaging/HuffmanCode.h"
@@ -28,20 +28,20 @@ std::size_t splitMatch(std::size_t length, OnMatch onMatch) {
 
 } // namespace
 
-std::size_t LiteralDeflate::bound(std::size_t bytes, std::size_t blocks, std::size_t largestBlock) {
+std::size_t PictureDeflate::bound(std::size_t bytes, std::size_t blocks, std::size_t largestBlock) {
   // What is kept is never more than stored; while it works, a block may run to its longest codes.
   const std::size_t stored = bytes + 5 * (bytes / 65535 + 2 * blocks + 1);
   return stored + largestBlock * longestCode / 8 + 1024;
 }
 
-void LiteralDeflate::start(std::uint8_t* out) {
+void PictureDeflate::start(std::uint8_t* out) {
   out_ = out;
   bits_ = 0;
   bitCount_ = 0;
   finder_.startStream();
 }
 
-void LiteralDeflate::block(std::span<const std::uint8_t> bytes, bool last, std::size_t history) {
+void PictureDeflate::block(std::span<const std::uint8_t> bytes, bool last, std::size_t history) {
   std::uint8_t* const start = out_;
   const std::uint64_t bitsBefore = bits_;
   const unsigned bitCountBefore = bitCount_;
@@ -70,12 +70,12 @@ void LiteralDeflate::block(std::span<const std::uint8_t> bytes, bool last, std::
 
 /// Runs leave little of flat art and text, but that little is edges, dear as literals and often
 /// the same. What they leave of smooth gradients is cheap, and in photographs nothing repeats.
-bool LiteralDeflate::worthSearching(std::size_t bytes) const {
+bool PictureDeflate::worthSearching(std::size_t bytes) const {
   constexpr std::uint64_t dearLiteralBits = 3;
   return literals_ <= bytes / 2 && literalBits_ > dearLiteralBits * literals_;
 }
 
-void LiteralDeflate::makeCodes(std::span<const std::uint8_t> bytes) {
+void PictureDeflate::makeCodes(std::span<const std::uint8_t> bytes) {
   std::array<std::uint32_t, literalSymbolCount> counts{};
   std::array<std::uint32_t, distanceSymbolCount> distanceCounts{};
   literals_ = bytes.size();
@@ -133,7 +133,7 @@ void LiteralDeflate::makeCodes(std::span<const std::uint8_t> bytes) {
   }
 }
 
-void LiteralDeflate::writeHeader(bool last) {
+void PictureDeflate::writeHeader(bool last) {
   // The lengths of both codes, one after the other, without the zeros at their ends.
   const auto usedLengths = [](const auto& lengths) {
     std::size_t count = lengths.size();
@@ -205,7 +205,7 @@ void LiteralDeflate::writeHeader(bool last) {
   }
 }
 
-void LiteralDeflate::writeSymbols(std::span<const std::uint8_t> bytes) {
+void PictureDeflate::writeSymbols(std::span<const std::uint8_t> bytes) {
   std::size_t position = 0;
   for (const Match& match : matches_) {
     writeLiterals(bytes.data() + position, match.start - position);
@@ -217,7 +217,7 @@ void LiteralDeflate::writeSymbols(std::span<const std::uint8_t> bytes) {
   flush();
 }
 
-void LiteralDeflate::writeLiterals(const std::uint8_t* bytes, std::size_t count) {
+void PictureDeflate::writeLiterals(const std::uint8_t* bytes, std::size_t count) {
   // The state in locals: the compiler must assume that a store of bytes changes the members.
   const Code* const codes = literalCodes_.data();
   std::uint8_t* out = out_;
@@ -253,7 +253,7 @@ void LiteralDeflate::writeLiterals(const std::uint8_t* bytes, std::size_t count)
   bitCount_ = bitCount;
 }
 
-void LiteralDeflate::writeMatch(std::span<const std::uint8_t> bytes, const Match& match) {
+void PictureDeflate::writeMatch(std::span<const std::uint8_t> bytes, const Match& match) {
   const DeflateSymbol distance = distanceSymbol(match.distance);
   const Code distanceCode = distanceCodes_[distance.number];
   const std::size_t left = splitMatch(match.length, [&](std::size_t length) {
@@ -267,7 +267,7 @@ void LiteralDeflate::writeMatch(std::span<const std::uint8_t> bytes, const Match
   writeLiterals(bytes.data() + match.start + match.length - left, left);
 }
 
-void LiteralDeflate::writeStored(std::span<const std::uint8_t> bytes, bool last) {
+void PictureDeflate::writeStored(std::span<const std::uint8_t> bytes, bool last) {
   do {
     const auto part = bytes.first(std::min<std::size_t>(bytes.size(), 65535));
     bytes = bytes.subspan(part.size());
@@ -282,14 +282,14 @@ void LiteralDeflate::writeStored(std::span<const std::uint8_t> bytes, bool last)
   } while (!bytes.empty());
 }
 
-void LiteralDeflate::put(std::uint64_t bits, unsigned count) {
+void PictureDeflate::put(std::uint64_t bits, unsigned count) {
   bits_ |= bits << bitCount_;
   bitCount_ += count;
 }
 
 static_assert(std::endian::native == std::endian::little, "flush writes the lowest byte first");
 
-void LiteralDeflate::flush() {
+void PictureDeflate::flush() {
   std::memcpy(out_, &bits_, 8);
   out_ += bitCount_ >> 3;
   bits_ >>= bitCount_ & ~7U;

@@ -14,7 +14,7 @@
 namespace vitrelle::host {
 
 /// Writes one deflate stream (without the zlib wrapping), block by block. For one thread.
-class LiteralDeflate final {
+class PictureDeflate final {
  public:
   /// The best size of a block: long enough to pay for its codes, short enough to stay in the cache
   /// and for the codes to fit.
