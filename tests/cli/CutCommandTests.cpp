@@ -139,15 +139,22 @@ TEST_F(CutCommandTest, badSecondScreenshot_leavesEverythingAsItWas) {
   const std::string good = writePicture("good.png", test::positionImage(1179, 2556));
   ASSERT_EQ(run({"cut", "--style", "0", "--light", good}).status, 0);
   const auto before = fs::last_write_time(groupFolder() / "0original.png");
-  std::ofstream(folder / "bad.png") << "not a picture";
-  const Outcome outcome =
-      run({"cut", "--style", "0", "--light", good, "--dark", (folder / "bad.png").string()});
-  EXPECT_EQ(outcome.status, 1);
-  EXPECT_EQ(outcome.output, "");
-  EXPECT_EQ(outcome.complaints,
-            "vitrelle: " + (folder / "bad.png").string() + ": not a PNG, JPEG or HEIC picture\n");
-  EXPECT_EQ(fs::last_write_time(groupFolder() / "0original.png"), before);
-  EXPECT_EQ(names().size(), 12U);
+  const std::string text = (folder / "text.png").string();
+  std::ofstream(text) << "not a picture";
+  const std::string half = (folder / "half.png").string(); // its header is sound
+  fs::copy_file(good, half);
+  fs::resize_file(half, fs::file_size(good) / 2);
+  const std::pair<std::string, std::string> cases[] = {{text, "not a PNG, JPEG or HEIC picture"},
+                                                       {half, "the file is incomplete"}};
+  for (const auto& [bad, why] : cases) {
+    const Outcome outcome = run({"cut", "--style", "0", "--light", good, "--dark", bad});
+    EXPECT_EQ(outcome.status, 1) << bad;
+    EXPECT_EQ(outcome.output, "") << bad;
+    EXPECT_TRUE(outcome.complaints.starts_with("vitrelle: " + bad + ": " + why))
+        << outcome.complaints;
+    EXPECT_EQ(fs::last_write_time(groupFolder() / "0original.png"), before) << bad;
+    EXPECT_EQ(names().size(), 12U) << bad;
+  }
 }
 
 TEST_F(CutCommandTest, screenshotOfAnotherSize_isCutAndComplainedOf) {

@@ -29,6 +29,10 @@ void expectSameAsLibpng(const Data& file, const std::string& what) {
   ASSERT_TRUE(picture) << what << ": " << picture.failure().why;
   EXPECT_EQ(picture->bitmap.size, size) << what;
   EXPECT_EQ(test::packedPixels(picture->bitmap), expected) << what;
+  bool seeThrough = false;
+  for (std::size_t alpha = 3; alpha < expected.size(); alpha += 4)
+    seeThrough = seeThrough || expected[alpha] != 255;
+  EXPECT_FALSE(picture->bitmap.opaque && seeThrough) << what << " would lose its alpha";
 }
 
 TEST(PngReader, everyKindOfFile_hasLibpngsPixels) {
