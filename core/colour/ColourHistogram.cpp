@@ -2,10 +2,16 @@
 
 #include "core/platform/FatalError.h"
 
+#include <algorithm>
 #include <array>
+#include <atomic>
 #include <bit>
 #include <cstring>
+#include <functional>
+#include <future>
 #include <limits>
+#include <system_error>
+#include <thread>
 #include <utility>
 
 namespace vitrelle {
@@ -13,6 +19,10 @@ namespace {
 
 constexpr std::uint32_t smallestAlpha = 125;
 constexpr std::uint32_t nearWhiteLimit = 250;
+/// From so many pixels on, a second thread gains more than its start costs.
+constexpr std::size_t worthwhilePixels = 500'000;
+/// Rows that a thread takes at a time: few, so that a thread whose core is busy keeps nobody.
+constexpr std::size_t bandRows = 256;
 
 /// Where a pixel's samples lie among its four bytes.
 struct PixelLayout {
@@ -123,7 +133,7 @@ class Counter final {
 
  private:
   static constexpr std::size_t blockPixels = 32;
-  static constexpr std::size_t tableCount = 4;
+  static constexpr std::size_t tableCount = 2;
   using Table = std::array<std::uint32_t, CellFinder<layout>::skipped + 1>;
 
   static bool allAlike(const std::uint8_t* block) {
@@ -171,35 +181,64 @@ class Counter final {
   ColourHistogram histogram_ = ColourHistogram(histogramCells);
 };
 
-template <PixelLayout layout>
-ColourHistogram histogram(const std::uint8_t* pixels, std::size_t width, std::size_t height,
-                          std::size_t bytesPerRow, const Sampling& sampling) {
-  if (sampling.stride == 0) fatalError("a sampling stride of 0");
-  Counter<layout> counter(sampling.ignoreWhite);
-  if (sampling.stride < 0) return std::move(counter).histogram();
+struct Rows {
+  const std::uint8_t* pixels;
+  std::size_t width, height, bytesPerRow;
+};
 
+/// Of the bands of rows that nobody else has taken; the next free one is `nextBand`.
+template <PixelLayout layout>
+ColourHistogram histogramOfBands(const Rows& rows, const Sampling& sampling,
+                                 std::atomic<std::size_t>& nextBand) {
+  Counter<layout> counter(sampling.ignoreWhite);
   const auto stride = static_cast<std::size_t>(sampling.stride);
-  std::size_t column = 0; // of the next pixel to be taken, as if all rows were one
-  for (std::size_t y = 0; y < height; ++y) {
-    if (column < width) {
-      const std::size_t taken = (width - column - 1) / stride + 1;
-      counter.count(pixels + y * bytesPerRow + column * 4, taken, stride);
-      column += taken * stride; // below 2 to the 64th: the stride and the width are both below half
+  for (std::size_t y = nextBand++ * bandRows; y < rows.height; y = nextBand++ * bandRows) {
+    const std::size_t end = std::min(y + bandRows, rows.height);
+    // Of the next pixel to be taken, as if all rows were one.
+    std::size_t column = (stride - y * rows.width % stride) % stride;
+    for (; y < end; ++y) {
+      if (column < rows.width) {
+        const std::size_t taken = (rows.width - column - 1) / stride + 1;
+        counter.count(rows.pixels + y * rows.bytesPerRow + column * 4, taken, stride);
+        // Below 2 to the 64th: the stride and the width are both below half.
+        column += taken * stride;
+      }
+      column -= rows.width;
     }
-    column -= width;
   }
   return std::move(counter).histogram();
+}
+
+template <PixelLayout layout>
+ColourHistogram histogram(const Rows& rows, const Sampling& sampling) {
+  if (sampling.stride == 0) fatalError("a sampling stride of 0");
+  if (sampling.stride < 0) return ColourHistogram(histogramCells);
+  std::atomic<std::size_t> nextBand{0};
+  const auto count = [&] { return histogramOfBands<layout>(rows, sampling, nextBand); };
+  std::future<ColourHistogram> others;
+  const std::size_t taken = rows.width * rows.height / static_cast<std::size_t>(sampling.stride);
+  if (taken >= worthwhilePixels && std::thread::hardware_concurrency() > 1) {
+    try {
+      others = std::async(std::launch::async, count);
+    } catch (const std::system_error&) {
+      // The system has no more threads; this one counts all rows.
+    }
+  }
+  ColourHistogram counts = count();
+  if (others.valid()) std::ranges::transform(counts, others.get(), counts.begin(), std::plus());
+  return counts;
 }
 
 } // namespace
 
 ColourHistogram histogramOfPixels(std::span<const std::uint8_t> pixels, const Sampling& sampling) {
-  return histogram<layoutOfPixels>(pixels.data(), pixels.size() / 4, 1, pixels.size(), sampling);
+  return histogram<layoutOfPixels>({pixels.data(), pixels.size() / 4, 1, pixels.size()}, sampling);
 }
 
 ColourHistogram histogramOfBitmap(const Bitmap& bitmap, const Sampling& sampling) {
-  return histogram<layoutOfBitmap>(bitmap.pixels, static_cast<std::size_t>(bitmap.size.width),
-                                   static_cast<std::size_t>(bitmap.size.height), bitmap.bytesPerRow,
+  return histogram<layoutOfBitmap>({bitmap.pixels, static_cast<std::size_t>(bitmap.size.width),
+                                    static_cast<std::size_t>(bitmap.size.height),
+                                    bitmap.bytesPerRow},
                                    sampling);
 }
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace vitrelle {
 namespace {
 
@@ -50,6 +52,29 @@ TEST(ColorThief, viewIntoAnImage_countsItsOwnPixelsOnly) {
     EXPECT_EQ(ColorThief::palette(view, 12, quality, false),
               MMCQ::quantize(bytes, quality, false, 12)->paletteColors())
         << "quality " << quality;
+  }
+}
+
+TEST(ColorThief, manyRows_countAsOneLongRow) {
+  // So many that threads share them.
+  constexpr std::int32_t width = 1001;
+  constexpr std::int32_t height = 601;
+  std::vector<std::uint8_t> pixels(std::size_t{4} * width * height);
+  std::uint32_t state = 1;
+  for (std::uint8_t& sample : pixels)
+    sample = static_cast<std::uint8_t>((state = state * 1664525 + 1013904223) >> 24);
+  const Bitmap bitmap{.size = {width, height},
+                      .bytesPerRow = 4 * width,
+                      .pixels = pixels.data(),
+                      .opaque = false,
+                      .owner = nullptr};
+  std::vector<std::uint8_t> reversed = pixels;
+  for (std::size_t i = 0; i < reversed.size(); i += 4)
+    std::reverse(&reversed[i], &reversed[i] + 4);
+  for (const std::int64_t stride : {1, 7, 1000, 1001, 3000}) {
+    EXPECT_EQ(histogramOfBitmap(bitmap, {.stride = stride}),
+              histogramOfPixels(reversed, {.stride = stride}))
+        << stride;
   }
 }
 
