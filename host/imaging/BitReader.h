@@ -13,8 +13,13 @@ namespace vitrelle::host {
 /// The bits of the stream, the first lowest. Behind the end there are zeros.
 class BitReader final {
  public:
-  explicit BitReader(std::span<const std::uint8_t> bytes)
-      : next_(bytes.data()), end_(bytes.data() + bytes.size()) {}
+  explicit BitReader(std::span<const std::uint8_t> bytes, std::size_t position = 0)
+      : start_(bytes.data()), next_(bytes.data() + position / 8),
+        end_(bytes.data() + bytes.size()) {
+    if (position % 8 == 0) return;
+    refill();
+    skip(position % 8);
+  }
 
   /// At least 56 bits are then there.
   void refill() {
@@ -51,6 +56,11 @@ class BitReader final {
   /// Whether more was taken than the stream has.
   bool isExhausted() const { return borrowed_ > count_ / 8; }
 
+  /// Counts the bits taken since the stream began.
+  std::size_t position() const {
+    return (static_cast<std::size_t>(next_ - start_) + borrowed_) * 8 - count_;
+  }
+
   /// Gives the whole bytes that were not taken back, and goes on at a byte's border.
   std::span<const std::uint8_t> rest() {
     skip(count_ % 8);
@@ -64,6 +74,7 @@ class BitReader final {
  private:
   static_assert(std::endian::native == std::endian::little, "refill takes the lowest byte first");
 
+  const std::uint8_t* start_;
   const std::uint8_t* next_;
   const std::uint8_t* end_;
   std::uint64_t bits_ = 0;

@@ -112,6 +112,34 @@ TEST(Inflate, streamsOfAnotherCompressor_comeOutWhole) {
   }
 }
 
+TEST(Inflate, largeStreams_comeOutWholeOrAreRefused) {
+  // So large that their second half is inflated beside the first.
+  std::mt19937 random(6);
+  const Bytes bytes = mixture(random, 3'000'000);
+  Bytes back(bytes.size() + pixelBufferSlack);
+  for (const int level : {1, 6, 9}) {
+    Bytes stream = zlibStream(bytes, level);
+    ASSERT_GT(stream.size(), 1'000'000U);
+    std::size_t told = 0;
+    ASSERT_TRUE(inflateZlib(stream, back.data(), bytes.size(), [&](std::size_t ready) {
+      EXPECT_GE(ready, told);
+      told = ready;
+    })) << level;
+    EXPECT_EQ(told, bytes.size());
+    EXPECT_TRUE(std::equal(bytes.begin(), bytes.end(), back.begin())) << level;
+    EXPECT_FALSE(inflateZlib(stream, back.data(), bytes.size() - 1));
+    EXPECT_FALSE(inflateZlib(stream, back.data(), bytes.size() + 1));
+    EXPECT_FALSE(
+        inflateZlib(std::span(stream).first(stream.size() - 4), back.data(), bytes.size()));
+    for (int round = 0; round < 40; ++round) {
+      const std::size_t at = random() % stream.size();
+      stream[at] ^= 16;
+      EXPECT_FALSE(inflateZlib(stream, back.data(), bytes.size())) << at;
+      stream[at] ^= 16;
+    }
+  }
+}
+
 TEST(Inflate, damagedShortOrOtherSized_isRefused) {
   std::mt19937 random(4);
   const Bytes bytes = mixture(random, 5000);
