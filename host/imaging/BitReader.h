@@ -14,7 +14,8 @@ namespace vitrelle::host {
 class BitReader final {
  public:
   explicit BitReader(std::span<const std::uint8_t> bytes, std::size_t position = 0)
-      : start_(bytes.data()), next_(bytes.data() + position / 8),
+      : start_(bytes.data()),
+        next_(bytes.data() + position / 8),
         end_(bytes.data() + bytes.size()) {
     if (position % 8 == 0) return;
     refill();
