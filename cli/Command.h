@@ -30,15 +30,21 @@ struct CommandContext {
   Exit exit = Exit::done;
 };
 
+/// The name of the phone that is stood for.
+std::string phoneName(const Platform& platform);
+
 /// "vitrelle: what: why" on stderr.
 void complain(const Failure& failure);
 
 // One for each command, in a file of its own. Each adds its subcommand, whose callback runs it.
 void addCutCommand(CLI::App& program, CommandContext& context);
 void addDefaultsCommand(CLI::App& program, CommandContext& context);
+void addOpenCommand(CLI::App& program, CommandContext& context);
 void addPaletteCommand(CLI::App& program, CommandContext& context);
 void addPhoneCommand(CLI::App& program, CommandContext& context);
 void addPhonesCommand(CLI::App& program, CommandContext& context);
 void addRecordsCommand(CLI::App& program, CommandContext& context);
+void addShortcutCommand(CLI::App& program, CommandContext& context);
+void addStyleCommand(CLI::App& program, CommandContext& context);
 
 } // namespace vitrelle::cli

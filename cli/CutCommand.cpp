@@ -1,7 +1,6 @@
 #include "cli/Command.h"
 #include "cli/CutBatch.h"
 #include "cli/CutStyle.h"
-#include "core/slicing/DeviceNames.h"
 #include "core/slicing/Measurements.h"
 #include "core/slicing/SlotOverview.h"
 
@@ -28,11 +27,6 @@ struct CutArguments {
   std::string into;
   bool json = false;
 };
-
-/// The phone's name without the mark of a simulator.
-std::string phoneName(const Platform& platform) {
-  return modelName(platform.phoneBook.current().identifier, platform.device);
-}
 
 nlohmann::ordered_json describe(const WidgetMeasurements& measurements) {
   return {{"widgetSize", measurements.widgetSize},
@@ -131,13 +125,7 @@ void checkUsage(const CutArguments& arguments, bool hasStyle) {
 
 Exit run(const CommandContext& context, const CutArguments& arguments) {
   const Platform& platform = context.platform();
-  if (Measurements::current(platform).widgetSize == 0) {
-    const PhoneChoice phone = platform.phoneBook.current();
-    complain({phoneName(platform), "there are no measurements for it on OS " +
-                                       cli::describe(phone.os) +
-                                       (phone.zoomed ? " with a zoomed display" : "")});
-    return Exit::unmeasuredPhone;
-  }
+  if (!isMeasured(platform)) return Exit::unmeasuredPhone;
   if (arguments.batch.empty()) return cutOne(context, arguments);
   return cutBatch(context, arguments.batch, arguments.into, arguments.json);
 }

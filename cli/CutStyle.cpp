@@ -1,6 +1,7 @@
 #include "cli/CutStyle.h"
 
 #include "cli/Command.h"
+#include "core/slicing/Measurements.h"
 #include "core/slicing/WallpaperInterface.h"
 
 #include <cmath>
@@ -53,15 +54,22 @@ std::optional<Failure> sizeRemark(const Platform& platform, const Screenshot& sc
 
 } // namespace
 
-Result<CutStyle> cutStyle(const Platform& platform, std::int64_t style,
-                          const Screenshots& screenshots) {
+bool isMeasured(const Platform& platform) {
+  if (Measurements::current(platform).widgetSize != 0) return true;
+  const PhoneChoice phone = platform.phoneBook.current();
+  complain({phoneName(platform), "there are no measurements for it on OS " + describe(phone.os) +
+                                     (phone.zoomed ? " with a zoomed display" : "")});
+  return false;
+}
+
+Result<CutStyle> cutScreenshots(const Platform& platform, const Screenshots& screenshots,
+                                const StoreScreenshot& store) {
   const auto loaded = load(platform, screenshots);
   if (!loaded) return loaded.failure();
   CutStyle cut;
-  const auto wallpaper = WallpaperInterface::shared(platform);
   for (const Screenshot& screenshot : *loaded) {
     if (auto remark = sizeRemark(platform, screenshot)) cut.remarks.push_back(*std::move(remark));
-    std::vector<StoredSlice> files = wallpaper->setImage(screenshot.image, screenshot.style, style);
+    std::vector<StoredSlice> files = store(screenshot.image, screenshot.style);
     if (files.size() < filesPerScreenshot) {
       cut.missing.push_back(
           {screenshot.path,
@@ -71,6 +79,14 @@ Result<CutStyle> cutStyle(const Platform& platform, std::int64_t style,
     std::move(files.begin(), files.end(), std::back_inserter(cut.files));
   }
   return cut;
+}
+
+Result<CutStyle> cutStyle(const Platform& platform, std::int64_t style,
+                          const Screenshots& screenshots) {
+  const auto wallpaper = WallpaperInterface::shared(platform);
+  return cutScreenshots(platform, screenshots, [&](const Image& image, InterfaceStyle appearance) {
+    return wallpaper->setImage(image, appearance, style);
+  });
 }
 
 bool complainOf(const CutStyle& cut) {

@@ -5,6 +5,7 @@
 #include "core/slicing/ImageCropper.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,8 +25,18 @@ struct CutStyle {
   std::vector<Failure> remarks;
 };
 
-/// Cuts the given screenshots into the style. Both are read and decoded before a file is written,
-/// so that one that can't be used leaves everything as it was.
+/// Whether the phone has measurements; complains if not.
+bool isMeasured(const Platform& platform);
+
+/// Stores one screenshot for an appearance; gives what became of its files.
+using StoreScreenshot = std::function<std::vector<StoredSlice>(const Image&, InterfaceStyle)>;
+
+/// Reads and decodes the given screenshots, and then stores each, so that one that can't be used
+/// leaves everything as it was.
+Result<CutStyle> cutScreenshots(const Platform& platform, const Screenshots& screenshots,
+                                const StoreScreenshot& store);
+
+/// Cuts the given screenshots into the style.
 Result<CutStyle> cutStyle(const Platform& platform, std::int64_t style,
                           const Screenshots& screenshots);
 

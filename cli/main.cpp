@@ -58,8 +58,14 @@ int run(int argc, char** argv) {
   addPhoneCommand(program, context);
   addDefaultsCommand(program, context);
   addRecordsCommand(program, context);
-  for (CLI::App* command : program.get_subcommands({}))
+  addStyleCommand(program, context);
+  addShortcutCommand(program, context);
+  addOpenCommand(program, context);
+  for (CLI::App* command : program.get_subcommands({})) {
     command->fallthrough();
+    for (CLI::App* part : command->get_subcommands({}))
+      part->fallthrough();
+  }
 
   try {
     program.parse(argc, argv);

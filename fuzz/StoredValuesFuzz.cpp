@@ -90,7 +90,13 @@ Platform platformOf(Defaults defaults) {
           .phoneBook = {},
           .widgetCenter = {},
           .bundle = {},
-          .debugConsole = {}};
+          .debugConsole = {},
+          .mainQueue = {},
+          .notificationCentre = {},
+          .application = {},
+          .links = {},
+          .haptics = {},
+          .bannerKit = {}};
 }
 
 void readEverything(const GroupStore& store) {

@@ -1,27 +1,29 @@
 #include "host/Host.h"
 
+#include "host/desktop/AppInstance.h"
+#include "host/desktop/MainQueue.h"
+#include "host/desktop/Timelines.h"
 #include "host/imaging/ImageFile.h"
 #include "host/store/SqliteDefaults.h"
 
 #include <cstdio>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
 
 namespace vitrelle::host {
 
 namespace {
 
-/// Whoever draws widgets watches this file's time of change.
-void touchTimelines(const HomeFolder& home) {
-  int file = open(home.timelinesFile().c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-  if (file < 0 && makeFolder(home.path())) {
-    file = open(home.timelinesFile().c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-  }
-  if (file < 0) return;
-  futimens(file, nullptr);
-  close(file);
+/// One list of listeners for each platform.
+NotificationCentre makeNotificationCentre() {
+  const auto listeners = std::make_shared<Subscribers<const Notification&>>();
+  return {.post = [listeners](const Notification& note) { listeners->notify(note); },
+          .listen =
+              [listeners](std::function<void(const Notification&)> listener) {
+                return listeners->add(std::move(listener));
+              }};
 }
 
 DebugConsole makeDebugConsole(bool verbose) {
@@ -41,10 +43,19 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .images = makeImages(home),
       .device = makeDevice(phone),
       .phoneBook = makePhoneBook(home, phone),
-      .widgetCenter = {.reloadAllTimelines = [home] { touchTimelines(home); }},
-      .bundle = {.identifier =
-                     [] { return std::optional<std::string>("com.quillmeresoftware.vitrelle"); }},
-      .debugConsole = makeDebugConsole(options.verbose)};
+      .widgetCenter = makeWidgetCenter(home, loop),
+      .bundle = {
+          .identifier = [] { return std::optional<std::string>("com.quillmeresoftware.vitrelle"); },
+          .shortVersion = [] { return std::optional<std::string>(VITRELLE_VERSION); }},
+      .debugConsole = makeDebugConsole(options.verbose),
+      .mainQueue = makeMainQueue(loop),
+      .notificationCentre = makeNotificationCentre(),
+      // Programs with a window put their own in its place.
+      .application = {.suspend = [] {}},
+      .links = makeLinks(home),
+      // A desktop has nothing to be felt, and there is no advertising kit for it.
+      .haptics = {.success = [] {}, .error = [] {}, .lightImpact = [] {}},
+      .bannerKit = {.start = [] {}, .load = [](const BannerRequest&, const BannerDelegate&) {}}};
 }
 
 } // namespace vitrelle::host

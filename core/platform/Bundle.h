@@ -10,6 +10,8 @@ namespace vitrelle {
 struct Bundle {
   /// Reverse domain name of the application, such as "com.example.program".
   std::function<std::optional<std::string>()> identifier;
+  /// The version that users are told, "2.1".
+  std::function<std::optional<std::string>()> shortVersion;
 };
 
 } // namespace vitrelle

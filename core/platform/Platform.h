@@ -2,12 +2,18 @@
 // build it with designated initialisers; an operation left out is a compile error.
 #pragma once
 
+#include "core/platform/Application.h"
+#include "core/platform/BannerKit.h"
 #include "core/platform/Bundle.h"
 #include "core/platform/DebugConsole.h"
 #include "core/platform/Defaults.h"
 #include "core/platform/Device.h"
 #include "core/platform/Files.h"
+#include "core/platform/Haptics.h"
 #include "core/platform/Images.h"
+#include "core/platform/Links.h"
+#include "core/platform/MainQueue.h"
+#include "core/platform/NotificationCentre.h"
 #include "core/platform/PhoneBook.h"
 #include "core/platform/SharedInstances.h"
 #include "core/platform/WidgetCenter.h"
@@ -23,6 +29,12 @@ struct Platform {
   WidgetCenter widgetCenter;
   Bundle bundle;
   DebugConsole debugConsole;
+  MainQueue mainQueue;
+  NotificationCentre notificationCentre;
+  Application application;
+  Links links;
+  Haptics haptics;
+  BannerKit bannerKit;
 
   /// What is made once per platform, such as the device name.
   SharedInstances shared = {};

@@ -2,6 +2,7 @@
 
 #include "core/slicing/Measurements.h"
 
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -83,7 +84,10 @@ std::vector<ImageCropper::Slice> ImageCropper::cut(const Image& image, WidgetFam
 
 std::vector<StoredSlice> ImageCropper::write(const std::vector<Slice>& slices) const {
   const auto folder = platform_.files.groupContainer();
-  if (!folder || slices.empty()) return {};
+  // An empty image, which stands for "none picked", has no PNG form.
+  const bool empty = std::ranges::any_of(
+      slices, [](const Slice& slice) { return slice.image.size() == PixelSize{}; });
+  if (!folder || slices.empty() || empty) return {};
   std::vector<PngFile> files;
   files.reserve(slices.size());
   for (const Slice& slice : slices)

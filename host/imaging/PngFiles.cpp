@@ -23,6 +23,7 @@ struct EncodedFile {
 Result<EncodedFile> encode(const HomeFolder& home, const PngFile& png, PngWriter& writer) {
   const Result<Bitmap> bitmap = png.image.bitmap();
   if (!bitmap) return bitmap.failure();
+  if (bitmap->size == PixelSize{}) return Failure{png.path, "the image has no pixels"};
   const std::span<const std::uint8_t> bytes = writer.encode(*bitmap, png.image.profile());
   if (bytes.empty()) return Failure{png.path, "not enough memory"};
   Result<PendingFile> file = PendingFile::write(home, png.path, bytes);

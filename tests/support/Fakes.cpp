@@ -85,7 +85,9 @@ void FakeFolder::use(Platform& platform) {
     std::vector<Result<std::size_t>> results;
     for (const PngFile& file : files) {
       const std::string name = fileName(file.path);
-      if (!exists || refused.contains(name)) {
+      const Result<Bitmap> bitmap = file.image.bitmap();
+      const bool hasPixels = bitmap && bitmap->size.width > 0;
+      if (!exists || !hasPixels || refused.contains(name)) {
         results.emplace_back(Failure{file.path, "can't be written"});
         continue;
       }
@@ -119,6 +121,38 @@ void FakePhone::use(Platform& platform) {
 void FakeConsole::use(Platform& platform) {
   platform.debugConsole.print = [this](const std::string& line) { lines.push_back(line); };
   platform.widgetCenter.reloadAllTimelines = [this] { ++reloads; };
+}
+
+void FakeSurroundings::use(Platform& platform) {
+  platform.haptics = {.success = [this] { felt.emplace_back("success"); },
+                      .error = [this] { felt.emplace_back("error"); },
+                      .lightImpact = [this] { felt.emplace_back("light impact"); }};
+  platform.notificationCentre.post = [this](const Notification& note) { posted.push_back(note); };
+  platform.application.suspend = [this] { ++suspensions; };
+  platform.bundle.shortVersion = [this] { return version; };
+  platform.bannerKit = {.start = [this] { ++kitStarts; },
+                        .load =
+                            [this](const BannerRequest& request, BannerDelegate delegate) {
+                              banners.push_back(request);
+                              bannerDelegate = std::move(delegate);
+                            }};
+  platform.mainQueue.asyncAfter = [this](double seconds, std::function<void()> work) {
+    const std::uint64_t ticket = next_++;
+    waiting_.emplace(ticket, Waiting{now_ + seconds, std::move(work)});
+    return Subscription([this, ticket] { waiting_.erase(ticket); });
+  };
+}
+
+void FakeSurroundings::pass(double seconds) {
+  now_ += seconds;
+  for (auto next = waiting_.begin(); next != waiting_.end(); next = waiting_.begin()) {
+    next = std::find_if(next, waiting_.end(),
+                        [this](const auto& entry) { return entry.second.due <= now_; });
+    if (next == waiting_.end()) return;
+    const auto work = next->second.work;
+    waiting_.erase(next);
+    work();
+  }
 }
 
 Image positionImage(std::int32_t width, std::int32_t height, ColourProfile profile) {

@@ -5,6 +5,7 @@
 #include "core/platform/Platform.h"
 
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -59,6 +60,32 @@ class FakeConsole final {
   void use(Platform& platform);
   std::vector<std::string> lines;
   int reloads = 0;
+};
+
+/// What the application does around its screens: haptics by name, links that were passed on,
+/// suspensions, and a queue whose time is moved by hand.
+class FakeSurroundings final {
+ public:
+  void use(Platform& platform);
+  /// Runs what is due within so many seconds from now.
+  void pass(double seconds);
+
+  std::vector<std::string> felt;
+  std::vector<Notification> posted;
+  int suspensions = 0;
+  std::optional<std::string> version = "2.2";
+  std::vector<BannerRequest> banners;
+  BannerDelegate bannerDelegate;
+  int kitStarts = 0;
+
+ private:
+  struct Waiting {
+    double due;
+    std::function<void()> work;
+  };
+  double now_ = 0;
+  std::uint64_t next_ = 0;
+  std::map<std::uint64_t, Waiting> waiting_;
 };
 
 /// An opaque picture whose pixel at x, y is {x mod 256, y mod 256, x / 256 * 16 + y / 256, 255}, so

@@ -54,9 +54,21 @@ Platform unimplementedPlatform() {
       .phoneBook = {.models = Unimplemented{"phoneBook.models"},
                     .current = Unimplemented{"phoneBook.current"},
                     .save = Unimplemented{"phoneBook.save"}},
-      .widgetCenter = {.reloadAllTimelines = Unimplemented{"widgetCenter.reloadAllTimelines"}},
-      .bundle = {.identifier = Unimplemented{"bundle.identifier"}},
+      .widgetCenter = {.reloadAllTimelines = Unimplemented{"widgetCenter.reloadAllTimelines"},
+                       .watchReloads = Unimplemented{"widgetCenter.watchReloads"}},
+      .bundle = {.identifier = Unimplemented{"bundle.identifier"},
+                 .shortVersion = Unimplemented{"bundle.shortVersion"}},
       .debugConsole = {.print = Unimplemented{"debugConsole.print"}},
+      .mainQueue = {.asyncAfter = Unimplemented{"mainQueue.asyncAfter"}},
+      .notificationCentre = {.post = Unimplemented{"notificationCentre.post"},
+                             .listen = Unimplemented{"notificationCentre.listen"}},
+      .application = {.suspend = Unimplemented{"application.suspend"}},
+      .links = {.send = Unimplemented{"links.send"}},
+      .haptics = {.success = Unimplemented{"haptics.success"},
+                  .error = Unimplemented{"haptics.error"},
+                  .lightImpact = Unimplemented{"haptics.lightImpact"}},
+      .bannerKit = {.start = Unimplemented{"bannerKit.start"},
+                    .load = Unimplemented{"bannerKit.load"}},
   };
 }
 

@@ -1,0 +1,150 @@
+#include "core/app/ModernContentView.h"
+
+#include "core/platform/FatalError.h"
+#include "core/slicing/DeviceNames.h"
+#include "core/slicing/ImageCropper.h"
+#include "core/slicing/ImageLoader.h"
+#include "core/slicing/Measurements.h"
+#include "core/store/Keys.h"
+
+#include <string>
+
+namespace vitrelle {
+
+namespace {
+
+/// The slices of a move are written beside the launch, and are all there by then.
+constexpr double secondsUntilMoved = 2.0;
+/// A version without this character is of the first generation, which ended with 1.9.
+constexpr char mark[] = "2";
+
+} // namespace
+
+ModernContentView::ModernContentView(const Platform& platform)
+    : platform_(platform),
+      lastUsedAppVersion_(platform, keys::lastUsedAppVersion),
+      configAmounts_(platform, keys::amountOfConfigs),
+      selectedConfig_(platform, keys::selectedConfig) {
+  const auto redraw = [this](const std::optional<std::int64_t>&) { changed(); };
+  bindings_.push_back(configAmounts_.onChange(redraw));
+  bindings_.push_back(selectedConfig_.onChange(redraw));
+}
+
+void ModernContentView::appear() {
+  if (!configAmounts_.get()) resetCounts();
+  platform_.debugConsole.print(std::to_string(amountOfConfigs()));
+  platform_.debugConsole.print(deviceName(platform_));
+  if (Measurements::current(platform_).widgetSize == 0) {
+    platform_.haptics.error();
+    activeAlert_ = ActiveAlert::incompatible;
+  } else {
+    decideKindOfRun();
+  }
+  platform_.widgetCenter.reloadAllTimelines();
+  changed();
+}
+
+void ModernContentView::decideKindOfRun() {
+  const auto stored = lastUsedAppVersion_.get();
+  if (!stored) {
+    showOnboarding_ = true;
+    lastUsedAppVersion_.set(currentVersion());
+    resetCounts();
+    return;
+  }
+  if (*stored == currentVersion()) return;
+  platform_.debugConsole.print("was previously running " + *stored);
+  if (stored->find(mark) != std::string::npos) {
+    activePopover_ = ActivePopoverContent::whatsNew;
+    popoverIsPresented_ = true;
+    return;
+  }
+  showUpdateFromOne_ = true;
+  lastUsedAppVersion_.set(currentVersion());
+  resetCounts();
+  moveLegacyImages();
+  listAfterMove_ = platform_.mainQueue.asyncAfter(secondsUntilMoved, [this] { reloadConfigs(); });
+}
+
+std::string ModernContentView::currentVersion() const {
+  const auto version = platform_.bundle.shortVersion();
+  if (!version) fatalError("the bundle has no CFBundleShortVersionString");
+  platform_.debugConsole.print(*version);
+  return *version;
+}
+
+void ModernContentView::resetCounts() const {
+  configAmounts_.set(0);
+  selectedConfig_.set(0);
+}
+
+/// A copy in truth: the first generation's files stay.
+void ModernContentView::moveLegacyImages() const {
+  const auto amount = configAmounts_.get();
+  const ImageLoader loader(platform_);
+  const auto light = loader.loadLegacy("original", lightStyle);
+  const auto dark = loader.loadLegacy("original", darkStyle);
+  if (!light || !dark) return;
+  platform_.debugConsole.print("Got Legacy Light and Dark");
+  const ImageCropper cropper(platform_);
+  cropper.store(*light, lightStyle, 0);
+  cropper.store(*dark, darkStyle, 0);
+  platform_.debugConsole.print("Moved to new location");
+  if (!amount) fatalError("amountOfConfigs is missing");
+  configAmounts_.set(checkedAdd(*amount, 1));
+}
+
+void ModernContentView::reloadConfigs() {
+  vitrelleConfigs_.clear();
+  const ImageLoader loader(platform_);
+  const std::int64_t amount = amountOfConfigs();
+  for (std::int64_t number = 0; number < amount; ++number) {
+    const auto light = loader.loadSlice("original", lightStyle, number);
+    const auto dark = loader.loadSlice("original", darkStyle, number);
+    if (light && dark) vitrelleConfigs_.push_back({number, *light, *dark});
+  }
+  changed();
+}
+
+void ModernContentView::selectConfig(std::int64_t number) {
+  if (isSelected(number)) {
+    platform_.haptics.error();
+    return;
+  }
+  selectedConfig_.set(number);
+  platform_.haptics.success();
+  platform_.widgetCenter.reloadAllTimelines();
+}
+
+bool ModernContentView::openWidgetCentre() {
+  if (amountOfConfigs() >= 1) return true;
+  showingAlert_ = true;
+  changed();
+  return false;
+}
+
+void ModernContentView::dismissAlert() {
+  showingAlert_ = false;
+  changed();
+}
+
+void ModernContentView::dismissOnboarding() {
+  showOnboarding_ = false;
+  changed();
+}
+
+void ModernContentView::dismissUpdateFromOne() {
+  showUpdateFromOne_ = false;
+  changed();
+}
+
+std::int64_t ModernContentView::pageCount() const {
+  const std::int64_t amount = amountOfConfigs();
+  return amount == maximumStyles ? amount : checkedAdd(amount, 1);
+}
+
+double ModernContentView::pageWidth() const {
+  return platform_.device.screenBounds().width / 1.5;
+}
+
+} // namespace vitrelle

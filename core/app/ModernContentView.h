@@ -1,0 +1,88 @@
+// The root screen: decides at launch what kind of run this is, lists the wallpaper styles as cards
+// and leads to all the rest.
+#pragma once
+
+#include "core/app/ScrollingHStackModifier.h"
+#include "core/app/VitrelleConfigData.h"
+#include "core/platform/Platform.h"
+#include "core/platform/Screen.h"
+#include "core/slicing/ActiveSheet.h"
+#include "core/slicing/WidgetLocation.h"
+#include "core/store/StoredValue.h"
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace vitrelle {
+
+class ModernContentView final : public Screen {
+ public:
+  explicit ModernContentView(const Platform& platform);
+
+  static constexpr std::string_view title = "Vitrelle";
+  static constexpr std::string_view createTitle = "Create a new Vitrelle Style";
+  static constexpr std::string_view editTitle = "Edit";
+  static constexpr std::string_view alertTitle = "Cannot open Widget Centre";
+  static constexpr std::string_view alertMessage = "Please Create a Vitrelle Style";
+  /// The most styles that can be made.
+  static constexpr std::int64_t maximumStyles = 12;
+  static constexpr double pageSpacing = 21; ///< points
+
+  /// The root appears: one pass of the launch decision. A missing version of the application is a
+  /// fatal error where it is needed.
+  void appear();
+  /// The pager appears, which the system may do before or after.
+  void contentAppear() { reloadConfigs(); }
+
+  /// Lists the styles whose two screenshots are both there. Loads, but decodes no picture.
+  void reloadConfigs();
+  /// A tap on a card's tick.
+  void selectConfig(std::int64_t number);
+  /// A tap on the button of the Widget Centre: whether it opens; if not, the alert is up.
+  bool openWidgetCentre();
+
+  void dismissAlert();
+  void dismissOnboarding();
+  void dismissUpdateFromOne();
+
+  const std::vector<VitrelleConfigData>& vitrelleConfigs() const { return vitrelleConfigs_; }
+  /// Whether the card is of the style in use. Without a stored choice none is.
+  bool isSelected(std::int64_t number) const { return selectedConfig_.get() == number; }
+  std::int64_t amountOfConfigs() const { return configAmounts_.getOrDefault(); }
+  bool showsCards() const { return amountOfConfigs() != 0; }
+  bool showsCreateCard() const { return amountOfConfigs() < maximumStyles; }
+  /// Pages of the pager, which may be more than there are cards: a style without its files counts.
+  std::int64_t pageCount() const;
+  double pageWidth() const; ///< points
+
+  bool showUpdateFromOne() const { return showUpdateFromOne_; }
+  bool showOnboarding() const { return showOnboarding_; }
+  bool showingAlert() const { return showingAlert_; }
+  /// Set at launch; nothing presents them.
+  const std::optional<ActiveAlert>& activeAlert() const { return activeAlert_; }
+  const std::optional<ActivePopoverContent>& activePopover() const { return activePopover_; }
+  bool popoverIsPresented() const { return popoverIsPresented_; }
+
+ private:
+  void decideKindOfRun();
+  std::string currentVersion() const;
+  void resetCounts() const;
+  void moveLegacyImages() const;
+
+  const Platform& platform_;
+  StoredValue<std::string> lastUsedAppVersion_;
+  StoredValue<std::int64_t> configAmounts_;
+  StoredValue<std::int64_t> selectedConfig_;
+  std::vector<VitrelleConfigData> vitrelleConfigs_;
+  std::optional<ActiveAlert> activeAlert_;
+  std::optional<ActivePopoverContent> activePopover_;
+  bool popoverIsPresented_ = false;
+  bool showUpdateFromOne_ = false;
+  bool showOnboarding_ = false;
+  bool showingAlert_ = false;
+  Subscription listAfterMove_;
+  std::vector<Subscription> bindings_; ///< last, for they call this screen
+};
+
+} // namespace vitrelle

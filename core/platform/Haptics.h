@@ -1,0 +1,14 @@
+// Feedback that is felt instead of seen.
+#pragma once
+
+#include <functional>
+
+namespace vitrelle {
+
+struct Haptics {
+  std::function<void()> success;
+  std::function<void()> error;
+  std::function<void()> lightImpact;
+};
+
+} // namespace vitrelle

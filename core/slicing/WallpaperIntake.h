@@ -1,0 +1,96 @@
+// The two screens on which a wallpaper style gets its light and its dark screenshot: one makes a
+// new style, the other changes an existing one.
+#pragma once
+
+#include "core/platform/Platform.h"
+#include "core/platform/Screen.h"
+#include "core/slicing/ActiveSheet.h"
+#include "core/slicing/ImageCropper.h"
+#include "core/store/StoredValue.h"
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace vitrelle {
+
+/// One half of the screen, as shown.
+struct WallpaperCell {
+  InterfaceStyle style = lightStyle;
+  std::string_view title;          ///< "Light Mode"
+  std::string_view symbol;         ///< in the place of a picture
+  std::optional<Image> screenshot; ///< the stored one
+};
+
+/// What both screens share: the two cells, the picker, and the storing of what was picked.
+class WallpaperIntake : public Screen {
+ public:
+  static constexpr std::string_view title = "Customise Vitrelle Style";
+  static constexpr std::string_view back = "Back";
+  static constexpr std::string_view hint = "Tap to Change";
+  static constexpr std::string_view noImage = "No Image Set";
+
+  /// The style whose screenshots these are.
+  virtual std::int64_t styleNumber() const = 0;
+  /// Read anew from the files at each call, light first.
+  std::vector<WallpaperCell> cells() const;
+
+  /// A press that ended so many points from the screen's left edge: the left half takes a light
+  /// screenshot, the right half a dark one. Opens the picker.
+  virtual void tap(double x);
+  /// The same for one appearance, as by keys or a dropped file.
+  void choose(InterfaceStyle style);
+
+  /// What the picker gave; nothing when it was cancelled. Closes the picker, and a screenshot is
+  /// cut and stored before this returns. What became of the files, for hosts that tell of failures.
+  std::vector<StoredSlice> pick(const std::optional<Image>& original);
+
+  const std::optional<ActiveSheet>& activeSheet() const { return activeSheet_; }
+  const std::optional<InterfaceStyle>& interfaceStyle() const { return interfaceStyle_; }
+
+ protected:
+  explicit WallpaperIntake(const Platform& platform) : platform_(platform) {}
+  virtual ~WallpaperIntake() = default;
+  const Platform& platform() const { return platform_; }
+
+ private:
+  std::vector<StoredSlice> pickerClosed();
+
+  const Platform& platform_;
+  std::optional<Image> imageBuffer_;             ///< none stands for an empty image
+  std::optional<InterfaceStyle> interfaceStyle_; ///< of the cell that was tapped
+  std::optional<ActiveSheet> activeSheet_;
+};
+
+/// Makes a new style. It counts from the first tap, so that a picked screenshot has its number, and
+/// is taken back if the screen is left before both screenshots are there; the files stay.
+class ModernNewLightDark final : public WallpaperIntake {
+ public:
+  explicit ModernNewLightDark(const Platform& platform);
+
+  /// A missing count of styles is a fatal error, here and at a tap.
+  void appear();
+  void tap(double x) override;
+  void disappear();
+
+  std::int64_t styleNumber() const override;
+  /// The count of styles with the new one.
+  std::int64_t maxConfigAmount() const { return maxConfigAmount_; }
+
+ private:
+  StoredValue<std::int64_t> configAmount_;
+  std::int64_t maxConfigAmount_ = 0;
+};
+
+class ModernChangeLightDark final : public WallpaperIntake {
+ public:
+  ModernChangeLightDark(const Platform& platform, std::int64_t numberOfConfig)
+      : WallpaperIntake(platform), numberOfConfig_(numberOfConfig) {}
+
+  std::int64_t styleNumber() const override { return numberOfConfig_; }
+
+ private:
+  std::int64_t numberOfConfig_;
+};
+
+} // namespace vitrelle
