@@ -96,7 +96,8 @@ Platform platformOf(Defaults defaults) {
           .application = {},
           .links = {},
           .haptics = {},
-          .bannerKit = {}};
+          .bannerKit = {},
+          .symbols = {}};
 }
 
 void readEverything(const GroupStore& store) {

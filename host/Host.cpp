@@ -5,6 +5,7 @@
 #include "host/desktop/Timelines.h"
 #include "host/imaging/ImageFile.h"
 #include "host/store/SqliteDefaults.h"
+#include "host/symbols/Symbols.h"
 
 #include <cstdio>
 #include <memory>
@@ -55,7 +56,8 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .links = makeLinks(home),
       // A desktop has nothing to be felt, and there is no advertising kit for it.
       .haptics = {.success = [] {}, .error = [] {}, .lightImpact = [] {}},
-      .bannerKit = {.start = [] {}, .load = [](const BannerRequest&, const BannerDelegate&) {}}};
+      .bannerKit = {.start = [] {}, .load = [](const BannerRequest&, const BannerDelegate&) {}},
+      .symbols = makeSymbols()};
 }
 
 } // namespace vitrelle::host

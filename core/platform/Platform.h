@@ -16,6 +16,7 @@
 #include "core/platform/NotificationCentre.h"
 #include "core/platform/PhoneBook.h"
 #include "core/platform/SharedInstances.h"
+#include "core/platform/Symbols.h"
 #include "core/platform/WidgetCenter.h"
 
 namespace vitrelle {
@@ -35,6 +36,7 @@ struct Platform {
   Links links;
   Haptics haptics;
   BannerKit bannerKit;
+  Symbols symbols;
 
   /// What is made once per platform, such as the device name.
   SharedInstances shared = {};

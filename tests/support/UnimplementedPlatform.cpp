@@ -69,6 +69,8 @@ Platform unimplementedPlatform() {
                   .lightImpact = Unimplemented{"haptics.lightImpact"}},
       .bannerKit = {.start = Unimplemented{"bannerKit.start"},
                     .load = Unimplemented{"bannerKit.load"}},
+      .symbols = {.outline = Unimplemented{"symbols.outline"},
+                  .match = Unimplemented{"symbols.match"}},
   };
 }
 

@@ -1,0 +1,38 @@
+// An outline of straight lines and cubic curves, as symbols and glyphs are handed to whoever draws.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+namespace vitrelle {
+
+struct PathPoint {
+  double x = 0;
+  double y = 0;
+
+  bool operator==(const PathPoint&) const = default;
+};
+
+enum class PathCommand : unsigned char { Move, Line, Cubic, Close };
+
+/// How many of a path's points a command uses up; the last of them is where the pen then stands.
+constexpr std::size_t pointCount(PathCommand command) {
+  switch (command) {
+  case PathCommand::Move:
+  case PathCommand::Line: return 1;
+  case PathCommand::Cubic: return 3;
+  case PathCommand::Close: return 0;
+  }
+  return 0;
+}
+
+struct Path {
+  std::vector<PathCommand> commands;
+  std::vector<PathPoint> points;
+
+  bool operator==(const Path&) const = default;
+};
+
+enum class FillRule { NonZero, EvenOdd };
+
+} // namespace vitrelle

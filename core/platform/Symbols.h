@@ -1,0 +1,34 @@
+// The outlines of the system's symbols by name. The system's own symbol font does not ship, so a
+// host finds the nearest picture it has, and says how near it is.
+#pragma once
+
+#include "core/platform/Path.h"
+
+#include <functional>
+#include <string>
+
+namespace vitrelle {
+
+/// To be filled in one colour. It lies within its box; y points down.
+struct SymbolOutline {
+  Path path;
+  FillRule rule = FillRule::NonZero;
+  double width = 16;
+  double height = 16;
+};
+
+/// From the nearest to the farthest.
+enum class SymbolMatch {
+  Alias,       ///< one picture stands for the name
+  Composition, ///< put together, such as a glyph knocked out of a disc
+  Stripped,    ///< the picture of the name without its badge, slash, fill or enclosing shape
+  Fallback,    ///< nothing known: a square with the first letter
+};
+
+struct Symbols {
+  /// Any name has an outline.
+  std::function<SymbolOutline(const std::string& name)> outline;
+  std::function<SymbolMatch(const std::string& name)> match;
+};
+
+} // namespace vitrelle
