@@ -1,0 +1,79 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="PZTitle">
+        <source></source>
+        <translation>Perspektivzoom</translation>
+    </message>
+    <message id="PZSub">
+        <source></source>
+        <translation>Ausgeschaltet läuft das Hintergrundbild hinter deinen Widgets weiter.</translation>
+    </message>
+    <message id="AboutPZ">
+        <source></source>
+        <translation>Was er bewirkt</translation>
+    </message>
+    <message id="AboutPZD">
+        <source></source>
+        <translation>Mit dem Perspektivzoom zeichnet das Telefon das Hintergrundbild etwas größer und verschiebt es, wenn du es neigst. Ein Widget zeigt einen festen Ausschnitt davon, und beide passen nicht mehr zueinander. Öffne die Einstellungen, wähle das Hintergrundbild und schalte den Effekt in der Vorschau aus: Dann passt jeder Ausschnitt an seinen Platz.</translation>
+    </message>
+    <message id="app.close">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="app.comingSoon">
+        <source></source>
+        <translation>Diese Seite gehört noch nicht zu dieser Version.</translation>
+    </message>
+    <message id="app.help">
+        <source></source>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="app.info">
+        <source></source>
+        <translation>Über Vitrelle</translation>
+    </message>
+    <message id="app.widgetCentre">
+        <source></source>
+        <translation>Widget-Zentrale</translation>
+    </message>
+    <message id="app.menu.choose">
+        <source></source>
+        <translation>Bildschirmfoto auswählen …</translation>
+    </message>
+    <message id="app.menu.paste">
+        <source></source>
+        <translation>Einfügen</translation>
+    </message>
+    <message id="app.page">
+        <source></source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message id="app.picker.pictures">
+        <source></source>
+        <translation>Bilder</translation>
+    </message>
+    <message id="app.picker.title">
+        <source></source>
+        <translation>Bildschirmfoto auswählen</translation>
+    </message>
+    <message id="app.select">
+        <source></source>
+        <translation>Stil %1 verwenden</translation>
+    </message>
+    <message id="app.selected">
+        <source></source>
+        <translation>Stil %1, in Gebrauch</translation>
+    </message>
+    <message id="app.store.readOnly">
+        <source></source>
+        <translation>Vitrelle kann hier nicht speichern. %1</translation>
+    </message>
+    <message id="app.unreadable">
+        <source></source>
+        <translation>Dieses Bild lässt sich nicht verwenden. %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,79 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="PZTitle">
+        <source></source>
+        <translation>Perspective Zoom</translation>
+    </message>
+    <message id="PZSub">
+        <source></source>
+        <translation>Switch it off, and the wallpaper goes on behind your widgets.</translation>
+    </message>
+    <message id="AboutPZ">
+        <source></source>
+        <translation>What it does</translation>
+    </message>
+    <message id="AboutPZD">
+        <source></source>
+        <translation>With perspective zoom the phone draws the wallpaper a little larger and moves it when you tilt the phone. A widget shows a still slice of it, so the two no longer line up. Open the settings, choose the wallpaper, and switch the effect off in its preview: every slice then fits its place.</translation>
+    </message>
+    <message id="app.close">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="app.comingSoon">
+        <source></source>
+        <translation>This page is not part of this version yet.</translation>
+    </message>
+    <message id="app.help">
+        <source></source>
+        <translation>Help</translation>
+    </message>
+    <message id="app.info">
+        <source></source>
+        <translation>About Vitrelle</translation>
+    </message>
+    <message id="app.widgetCentre">
+        <source></source>
+        <translation>Widget Centre</translation>
+    </message>
+    <message id="app.menu.choose">
+        <source></source>
+        <translation>Choose a Screenshot…</translation>
+    </message>
+    <message id="app.menu.paste">
+        <source></source>
+        <translation>Paste</translation>
+    </message>
+    <message id="app.page">
+        <source></source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message id="app.picker.pictures">
+        <source></source>
+        <translation>Pictures</translation>
+    </message>
+    <message id="app.picker.title">
+        <source></source>
+        <translation>Choose a Screenshot</translation>
+    </message>
+    <message id="app.select">
+        <source></source>
+        <translation>Use style %1</translation>
+    </message>
+    <message id="app.selected">
+        <source></source>
+        <translation>Style %1, in use</translation>
+    </message>
+    <message id="app.store.readOnly">
+        <source></source>
+        <translation>Vitrelle can’t save here. %1</translation>
+    </message>
+    <message id="app.unreadable">
+        <source></source>
+        <translation>This picture can’t be used. %1</translation>
+    </message>
+</context>
+</TS>
