@@ -73,9 +73,14 @@ Exit makeNew(const Platform& platform, const Screenshots& screenshots) {
     complain({"style new", "there are twelve styles already, and no more can be made"});
     return Exit::failed;
   }
-  if (!amount) { // as at the application's first start
+  // As the application's first start would, which else would begin to count at 0 again.
+  if (!amount) {
     store.set(keys::amountOfConfigs, std::int64_t{0});
     store.set(keys::selectedConfig, std::int64_t{0});
+  }
+  if (const auto version = platform.bundle.shortVersion();
+      version && !store.value(keys::lastUsedAppVersion)) {
+    store.set(keys::lastUsedAppVersion, *version);
   }
   if (!store.value(keys::amountOfConfigs)) {
     complain({"style new", "the store can't be written"});

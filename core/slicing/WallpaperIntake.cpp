@@ -20,13 +20,18 @@ std::int64_t required(const StoredValue<std::int64_t>& amount) {
 
 } // namespace
 
+std::vector<WallpaperCell> WallpaperIntake::cellWords() {
+  return {{lightStyle, "Light Mode", "sun.max.fill", std::nullopt},
+          {darkStyle, "Dark Mode", "moon.fill", std::nullopt}};
+}
+
 std::vector<WallpaperCell> WallpaperIntake::cells() const {
-  const ImageLoader loader(platform_);
-  const auto screenshot = [&](InterfaceStyle style) {
-    return loader.loadSlice(rawValue(WidgetLocationImageNames::fullImage), style, styleNumber());
-  };
-  return {{lightStyle, "Light Mode", "sun.max.fill", screenshot(lightStyle)},
-          {darkStyle, "Dark Mode", "moon.fill", screenshot(darkStyle)}};
+  std::vector<WallpaperCell> cells = cellWords();
+  for (WallpaperCell& cell : cells) {
+    cell.screenshot = ImageLoader(platform_).loadSlice(
+        rawValue(WidgetLocationImageNames::fullImage), cell.style, styleNumber());
+  }
+  return cells;
 }
 
 void WallpaperIntake::tap(double x) {

@@ -30,6 +30,10 @@ class WallpaperIntake : public Screen {
   static constexpr std::string_view hint = "Tap to Change";
   static constexpr std::string_view noImage = "No Image Set";
 
+  virtual ~WallpaperIntake() = default;
+
+  /// The two halves without their pictures, light first.
+  static std::vector<WallpaperCell> cellWords();
   /// The style whose screenshots these are.
   virtual std::int64_t styleNumber() const = 0;
   /// Read anew from the files at each call, light first.
@@ -50,7 +54,6 @@ class WallpaperIntake : public Screen {
 
  protected:
   explicit WallpaperIntake(const Platform& platform) : platform_(platform) {}
-  virtual ~WallpaperIntake() = default;
   const Platform& platform() const { return platform_; }
 
  private:

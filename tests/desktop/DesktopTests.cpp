@@ -17,11 +17,6 @@ namespace fs = std::filesystem;
 
 class DesktopTest : public testing::Test {
  protected:
-  DesktopTest() {
-    // So long that no socket could be bound by its path.
-    std::string pattern = (fs::temp_directory_path() / "desktop-XXXXXX").string();
-    folder = mkdtemp(pattern.data());
-  }
   ~DesktopTest() override { fs::remove_all(folder); }
 
   /// Ends the loop when it takes too long, which fails the test.
@@ -33,7 +28,13 @@ class DesktopTest : public testing::Test {
     loop.run();
   }
 
-  fs::path folder;
+  static fs::path makeTemporary() {
+    std::string pattern = (fs::temp_directory_path() / "desktop-XXXXXX").string();
+    return mkdtemp(pattern.data());
+  }
+
+  const fs::path folder = makeTemporary();
+  // So long that no socket could be bound by its path.
   HomeFolder home{(folder / std::string(150, 'h')).string()};
   PollLoop loop;
 };

@@ -1,0 +1,91 @@
+#include "tests/ui/UiTest.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMimeData>
+
+namespace vitrelle {
+namespace {
+
+class IntakePageTest : public test::UiTest {
+ protected:
+  IntakePageTest() {
+    QImage picture(1179, 2556, QImage::Format_RGB32);
+    picture.fill(Qt::darkCyan);
+    QGuiApplication::clipboard()->setImage(picture);
+  }
+  void paste(const char* cell) {
+    driver->find(cell)->forceActiveFocus();
+    driver->key(Qt::Key_V, Qt::ControlModifier);
+  }
+};
+
+TEST_F(IntakePageTest, newStyle_isPastedListedAndChanged) {
+  setNumber("amountOfConfigs", 0);
+  open();
+  driver->click("createCard");
+  ASSERT_TRUE(driver->isShown("intakePage"));
+  paste("lightCell");
+  EXPECT_EQ(number("amountOfConfigs"), 1);
+  EXPECT_EQ(folder.written.size(), 12U);
+  paste("darkCell");
+  EXPECT_EQ(folder.written.size(), 24U);
+  EXPECT_TRUE(folder.images.contains("0originalDark.png"));
+  driver->click("back");
+  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("intakePage"); }));
+  EXPECT_EQ(number("amountOfConfigs"), 1);
+  ASSERT_TRUE(driver->isShown("tick0"));
+
+  driver->click("edit0");
+  ASSERT_TRUE(driver->isShown("intakePage"));
+  paste("darkCell");
+  EXPECT_EQ(folder.written.size(), 36U);
+  EXPECT_EQ(folder.written.back(), "0bottomLargeDark.png");
+}
+
+TEST_F(IntakePageTest, halfAStyle_isTakenBackOnLeaving) {
+  setNumber("amountOfConfigs", 0);
+  open();
+  driver->click("createCard");
+  paste("lightCell");
+  EXPECT_EQ(number("amountOfConfigs"), 1);
+  driver->key(Qt::Key_Escape);
+  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("intakePage"); }));
+  EXPECT_EQ(number("amountOfConfigs"), 0);
+  EXPECT_FALSE(driver->isShown("tick0"));
+}
+
+TEST_F(IntakePageTest, whatIsNoPicture_isToldAndChangesNothing) {
+  setNumber("amountOfConfigs", 1);
+  addStyle(0);
+  open({.appearance = ui::Appearance::dark,
+        .screen = QStringLiteral("ModernChangeLightDark"),
+        .framed = false,
+        .animated = false});
+  auto* data = new QMimeData;
+  data->setUrls({QUrl::fromLocalFile(QStringLiteral("/group/nothing.png"))});
+  QGuiApplication::clipboard()->setMimeData(data);
+  paste("lightCell");
+  EXPECT_TRUE(driver->isShown("notice"));
+  EXPECT_TRUE(folder.written.empty());
+  driver->click("notice");
+  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("notice"); }));
+}
+
+TEST_F(IntakePageTest, rightClick_opensAMenu) {
+  setNumber("amountOfConfigs", 1);
+  open({.appearance = ui::Appearance::dark,
+        .screen = QStringLiteral("ModernChangeLightDark"),
+        .framed = false,
+        .animated = false});
+  driver->click("darkCell", Qt::RightButton);
+  ASSERT_TRUE(driver->isShown("pasteEntry"));
+  driver->click("pasteEntry");
+  EXPECT_FALSE(driver->isShown("pasteEntry"));
+  EXPECT_EQ(folder.written.size(), 12U);
+  EXPECT_EQ(folder.written.front(), "0originalDark.png");
+}
+
+} // namespace
+} // namespace vitrelle

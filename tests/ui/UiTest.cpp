@@ -1,0 +1,118 @@
+#include "tests/ui/UiTest.h"
+#include "ui/Words.h"
+
+#include <QGuiApplication>
+#include <QQuickStyle>
+#include <QSGRendererInterface>
+#include <QSignalSpy>
+
+#include <cstdio>
+
+namespace vitrelle::test {
+
+namespace {
+
+void failOnWarnings(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type == QtDebugMsg || type == QtInfoMsg) return;
+  ADD_FAILURE() << message.toStdString();
+}
+
+QQuickItem* search(QQuickItem* item, const QString& objectName) {
+  if (!item->isVisible()) return nullptr;
+  if (item->objectName() == objectName) return item;
+  for (QQuickItem* child : item->childItems()) {
+    if (QQuickItem* found = search(child, objectName)) return found;
+  }
+  return nullptr;
+}
+
+} // namespace
+
+QQuickItem* Driver::find(const QString& objectName) const {
+  QQuickItem* found = search(shell_.window()->contentItem(), objectName);
+  EXPECT_NE(found, nullptr) << objectName.toStdString();
+  return found;
+}
+
+bool Driver::isShown(const QString& objectName) const {
+  QCoreApplication::processEvents();
+  return search(shell_.window()->contentItem(), objectName) != nullptr;
+}
+
+QPoint Driver::middle(const QString& objectName) const {
+  const QQuickItem* item = find(objectName);
+  if (item == nullptr) return {};
+  const auto now = [item] {
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+  };
+  // Pages come in from the side.
+  const QRect screen(QPoint(), shell_.window()->size());
+  QPoint last = now();
+  EXPECT_TRUE(eventually([&] {
+    const QPoint before = std::exchange(last, now());
+    return before == last && screen.contains(last);
+  })) << objectName.toStdString();
+  return last;
+}
+
+void Driver::click(const QString& objectName, Qt::MouseButton button) const {
+  QTest::mouseClick(shell_.window(), button, {}, middle(objectName));
+}
+
+void Driver::drag(QPoint from, int distance) const {
+  QTest::mousePress(shell_.window(), Qt::LeftButton, {}, from);
+  constexpr int steps = 8;
+  for (int i = 1; i <= steps; ++i)
+    QTest::mouseMove(shell_.window(), from + QPoint(distance * i / steps, 0));
+  QTest::mouseRelease(shell_.window(), Qt::LeftButton, {}, from + QPoint(distance, 0));
+}
+
+void Driver::key(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
+  QTest::keyClick(shell_.window(), key, modifiers);
+}
+
+bool Driver::eventually(const std::function<bool()>& isSo) {
+  return QTest::qWaitFor(isSo, 2000);
+}
+
+UiTest::UiTest() {
+  qInstallMessageHandler(failOnWarnings);
+  platform.symbols = {.outline =
+                          [](const std::string&) {
+                            SymbolOutline square;
+                            square.path.commands = {PathCommand::Move, PathCommand::Line,
+                                                    PathCommand::Line, PathCommand::Close};
+                            square.path.points = {{0, 0}, {16, 0}, {16, 16}};
+                            return square;
+                          },
+                      .match = [](const std::string&) { return SymbolMatch::Alias; }};
+  platform.widgetCenter.watchReloads = [](const std::function<void()>&) { return Subscription(); };
+  defaults.values(Suite::standard)["last_used_app_version"] = std::string("2.2");
+}
+
+UiTest::~UiTest() {
+  shell.reset();
+  qInstallMessageHandler(nullptr);
+}
+
+void UiTest::open(ui::ShellOptions options) {
+  shell = std::make_unique<ui::Shell>(platform, std::move(options));
+  ASSERT_TRUE(shell->open());
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(shell->window()));
+  shell->window()->requestActivate();
+  driver = std::make_unique<Driver>(*shell);
+  QCoreApplication::processEvents();
+}
+
+} // namespace vitrelle::test
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  QQuickStyle::setStyle(QStringLiteral("Basic"));
+  testing::InitGoogleTest(&argc, argv);
+  const QGuiApplication application(argc, argv);
+  QTranslator words;
+  vitrelle::ui::installWords(words, QLocale::c());
+  return RUN_ALL_TESTS();
+}

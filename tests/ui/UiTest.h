@@ -1,0 +1,49 @@
+// The real pages, offscreen, driven by pointer and keys. Any warning of Qt or QML fails the test.
+#pragma once
+
+#include "tests/app/AppTest.h"
+#include "ui/Shell.h"
+
+#include <QQuickItem>
+#include <QTest>
+
+#include <functional>
+#include <memory>
+
+namespace vitrelle::test {
+
+/// Drives one window.
+class Driver final {
+ public:
+  explicit Driver(ui::Shell& shell) : shell_(shell) {}
+
+  /// Of what is visible. Fails the test when there is none.
+  QQuickItem* find(const QString& objectName) const;
+  bool isShown(const QString& objectName) const;
+  void click(const QString& objectName, Qt::MouseButton button = Qt::LeftButton) const;
+  void drag(QPoint from, int distance) const;
+  void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+  /// Runs the event loop until it is so, for two seconds at most.
+  static bool eventually(const std::function<bool()>& isSo);
+
+ private:
+  QPoint middle(const QString& objectName) const;
+  ui::Shell& shell_;
+};
+
+/// Pages over a platform in memory.
+class UiTest : public AppTest {
+ protected:
+  UiTest();
+  ~UiTest() override;
+
+  /// Builds the window; the store and the folder are as the test wants them.
+  void
+  open(ui::ShellOptions options = {
+           .appearance = ui::Appearance::dark, .screen = {}, .framed = false, .animated = false});
+
+  std::unique_ptr<ui::Shell> shell;
+  std::unique_ptr<Driver> driver;
+};
+
+} // namespace vitrelle::test

@@ -1,0 +1,110 @@
+#include "ui/Shell.h"
+
+#include <QClipboard>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QPalette>
+#include <QVariant>
+
+namespace vitrelle::ui {
+
+namespace {
+
+constexpr char ownerProperty[] = "shell";
+
+} // namespace
+
+Shell::Shell(const Platform& platform, ShellOptions options)
+    : platform_(platform), options_(std::move(options)), pictures_(platform), root_(platform) {
+  engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
+  engine_.setProperty(ownerProperty, QVariant::fromValue(this));
+  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &Shell::canPasteChanged);
+  qGuiApp->installEventFilter(this);
+}
+
+Shell::~Shell() = default;
+
+Shell* Shell::create(QQmlEngine* engine, QJSEngine*) {
+  Shell* shell = &of(*engine);
+  QJSEngine::setObjectOwnership(shell, QJSEngine::CppOwnership);
+  return shell;
+}
+
+Shell& Shell::of(const QQmlEngine& engine) {
+  return *engine.property(ownerProperty).value<Shell*>();
+}
+
+const QStringList& Shell::screenNames() {
+  static const QStringList names = {QStringLiteral("ModernContentView"),
+                                    QStringLiteral("ModernNewLightDark"),
+                                    QStringLiteral("ModernChangeLightDark"),
+                                    QStringLiteral("PerspectiveZoomDescription"),
+                                    QStringLiteral("ModernKnowledgeCentre"),
+                                    QStringLiteral("ModernWidgetCentre"),
+                                    QStringLiteral("ModernInfoCentre"),
+                                    QStringLiteral("OnboardingView"),
+                                    QStringLiteral("UpgradeView"),
+                                    QStringLiteral("WidgetSettingsView"),
+                                    QStringLiteral("UpdateWidgetDescription"),
+                                    QStringLiteral("WidgetShowingNothingDescription"),
+                                    QStringLiteral("WidgetNameDescription"),
+                                    QStringLiteral("InvalidDeepLink")};
+  return names;
+}
+
+bool Shell::open() {
+  engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Vitrelle/Main.qml")));
+  if (engine_.rootObjects().isEmpty()) return false;
+  window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
+  return window_ != nullptr;
+}
+
+void Shell::raise() {
+  if (window_ == nullptr) return;
+  window_->show();
+  window_->raise();
+  window_->requestActivate();
+}
+
+qreal Shell::screenWidth() const {
+  return platform_.device.screenBounds().width;
+}
+
+qreal Shell::screenHeight() const {
+  return platform_.device.screenBounds().height;
+}
+
+bool Shell::isDark() const {
+  if (options_.appearance) return *options_.appearance == Appearance::dark;
+  // A desktop says so by its palette alone.
+  const QPalette palette = QGuiApplication::palette();
+  return palette.color(QPalette::Window).lightness() <
+         palette.color(QPalette::WindowText).lightness();
+}
+
+bool Shell::canPaste() const {
+  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+  return data != nullptr && (data->hasImage() || data->hasUrls());
+}
+
+IntakeScreen* Shell::newStyle() {
+  return new IntakeScreen(*this, std::make_unique<ModernNewLightDark>(platform_));
+}
+
+IntakeScreen* Shell::changeStyle(int number) {
+  return new IntakeScreen(*this, std::make_unique<ModernChangeLightDark>(platform_, number));
+}
+
+bool Shell::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ApplicationPaletteChange) Q_EMIT darkChanged();
+  return QObject::eventFilter(watched, event);
+}
+
+void Shell::showNotice(const QString& text) {
+  if (text == notice_) return;
+  notice_ = text;
+  Q_EMIT noticeChanged();
+}
+
+} // namespace vitrelle::ui

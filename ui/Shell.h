@@ -1,0 +1,100 @@
+// Puts the screens of the logic, the QML that draws them and the window together.
+#pragma once
+
+#include "core/app/ModernContentView.h"
+#include "core/platform/Platform.h"
+#include "ui/app/RootScreen.h"
+#include "ui/parts/PictureSource.h"
+#include "ui/slicing/IntakeScreen.h"
+
+#include <QObject>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+namespace vitrelle::ui {
+
+enum class Appearance { light, dark };
+
+struct ShellOptions {
+  std::optional<Appearance> appearance; ///< none follows the desktop
+  QString screen;                       ///< type name of the screen to open; empty for the root
+  bool framed = true;                   ///< the phone's frame around the screen
+  bool animated = true;
+};
+
+/// What QML sees of the program: the one object that screens begin at.
+class Shell final : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_SINGLETON
+  Q_PROPERTY(qreal screenWidth READ screenWidth CONSTANT)
+  Q_PROPERTY(qreal screenHeight READ screenHeight CONSTANT)
+  Q_PROPERTY(bool framed READ isFramed CONSTANT)
+  Q_PROPERTY(bool animated READ isAnimated CONSTANT)
+  Q_PROPERTY(QString screen READ screen CONSTANT)
+  Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
+  Q_PROPERTY(vitrelle::ui::RootScreen* root READ root CONSTANT)
+  /// One line that the user should read; empty when there is none.
+  Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
+  /// Whether a picture lies in the clipboard.
+  Q_PROPERTY(bool canPaste READ canPaste NOTIFY canPasteChanged)
+
+ public:
+  /// The platform must outlive it.
+  Shell(const Platform& platform, ShellOptions options);
+  ~Shell() override;
+
+  /// For the QML engine, which asks for the one that made it.
+  static Shell* create(QQmlEngine* engine, QJSEngine*);
+  static Shell& of(const QQmlEngine& engine);
+
+  /// The names that `ShellOptions::screen` may have.
+  static const QStringList& screenNames();
+
+  /// Builds the window and shows it; false when the QML is damaged.
+  bool open();
+  QQuickWindow* window() const { return window_; }
+  PictureSource& pictures() { return pictures_; }
+  const Platform& platform() const { return platform_; }
+  void raise();
+
+  qreal screenWidth() const;
+  qreal screenHeight() const;
+  bool isFramed() const { return options_.framed; }
+  bool isAnimated() const { return options_.animated; }
+  QString screen() const { return options_.screen; }
+  bool isDark() const;
+  RootScreen* root() { return &root_; }
+  QString notice() const { return notice_; }
+  bool canPaste() const;
+
+  /// The QML owns what it gets.
+  Q_INVOKABLE vitrelle::ui::IntakeScreen* newStyle();
+  Q_INVOKABLE vitrelle::ui::IntakeScreen* changeStyle(int number);
+  Q_INVOKABLE void showNotice(const QString& text);
+  Q_INVOKABLE void dismissNotice() { showNotice({}); }
+
+ Q_SIGNALS:
+  void darkChanged();
+  void noticeChanged();
+  void canPasteChanged();
+  void closing();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  const Platform& platform_;
+  const ShellOptions options_;
+  PictureSource pictures_;
+  RootScreen root_;
+  QString notice_;
+  QQuickWindow* window_ = nullptr; ///< the engine's
+  QQmlApplicationEngine engine_;   ///< last, for its objects use all others
+};
+
+} // namespace vitrelle::ui

@@ -1,0 +1,52 @@
+// The window: a phone, scaled to fit the desktop.
+import QtQuick
+import Vitrelle
+
+Window {
+    id: window
+
+    readonly property real rim: Shell.framed ? 14 : 0
+    readonly property real phoneWidth: Shell.screenWidth + 2 * rim
+    readonly property real phoneHeight: Shell.screenHeight + 2 * rim
+    readonly property real fit: Shell.framed ? Math.min(1, (Screen.desktopAvailableHeight - 60) / phoneHeight) : 1
+
+    title: Shell.root.title
+    width: phoneWidth * fit
+    height: phoneHeight * fit
+    minimumWidth: phoneWidth / 3
+    minimumHeight: phoneHeight / 3
+    color: "black"
+    visible: true
+
+    Item {
+        anchors.centerIn: parent
+        width: window.phoneWidth
+        height: window.phoneHeight
+        scale: Math.min(window.width / width, window.height / height)
+
+        Screens {
+            id: screens
+            x: window.rim
+            y: window.rim
+            width: Shell.screenWidth
+            height: Shell.screenHeight
+            clip: true
+            focus: true
+        }
+        ContinuousRectangle { // the corners of the screen
+            anchors.fill: screens
+            visible: Shell.framed && Theme.tall
+            inverted: true
+            colour: "black"
+            radius: 44
+        }
+    }
+    Shortcut {
+        sequences: [StandardKey.Quit]
+        onActivated: window.close()
+    }
+    Shortcut {
+        sequences: [StandardKey.Back]
+        onActivated: screens.back()
+    }
+}

@@ -1,0 +1,58 @@
+#include "ui/app/RootScreen.h"
+
+namespace vitrelle::ui {
+
+namespace {
+
+/// None is configured: there is no advertising kit here to ask for one.
+constexpr const char* adUnitID = "";
+
+ScrollingHStackModifier pagerFor(const Platform& platform, const ModernContentView& screen) {
+  return {screen.pageCount(), screen.pageWidth(), ModernContentView::pageSpacing,
+          platform.device.screenBounds().width};
+}
+
+} // namespace
+
+RootScreen::RootScreen(const Platform& platform)
+    : platform_(platform),
+      screen_(platform),
+      pager_(pagerFor(platform, screen_)),
+      view_(screen_.onChange([this] { update(); })) {}
+
+void RootScreen::appear() {
+  screen_.appear();
+  BannerAd(platform_, adUnitID).makeView();
+  // Another process that makes or changes a style ends with a reload of the widgets.
+  reloads_ = platform_.widgetCenter.watchReloads([this] { screen_.reloadConfigs(); });
+}
+
+void RootScreen::drag(qreal translation) {
+  dragging_ = true;
+  pager_.drag(translation);
+  Q_EMIT pagerMoved();
+}
+
+void RootScreen::endDrag(qreal translation) {
+  dragging_ = false;
+  pager_.endDrag(translation);
+  Q_EMIT pagerMoved();
+}
+
+void RootScreen::showPage(int page) {
+  pager_.showPage(page);
+  Q_EMIT pagerMoved();
+}
+
+void RootScreen::update() {
+  styles_.refresh();
+  if (screen_.pageCount() != pager_.items()) {
+    const std::int64_t page = pager_.page();
+    pager_ = pagerFor(platform_, screen_);
+    pager_.showPage(page);
+    Q_EMIT pagerMoved();
+  }
+  Q_EMIT changed();
+}
+
+} // namespace vitrelle::ui

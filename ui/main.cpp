@@ -1,0 +1,194 @@
+// The application: puts the platform, the screens and the window together.
+
+#include "cli/Options.h"
+#include "core/app/SceneDelegate.h"
+#include "host/Host.h"
+#include "host/desktop/AppInstance.h"
+#include "host/desktop/QtLoop.h"
+#include "ui/Shell.h"
+#include "ui/Trouble.h"
+#include "ui/Words.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QSGRendererInterface>
+#include <QTranslator>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace vitrelle;
+
+struct Arguments {
+  cli::Options options;
+  std::string screen;
+  std::string screenshot;
+  int scale = 0; ///< 0 is the phone's own
+  bool gl = false;
+  std::vector<std::string> links;
+};
+
+host::HostOptions hostOptions(const cli::Options& options) {
+  return {
+      .home = options.home ? host::HomeFolder(*options.home) : host::HomeFolder::ofUser(),
+      .phone = {.identifier = options.phoneIdentifier, .os = options.os, .zoomed = options.zoomed},
+      .verbose = options.verbose};
+}
+
+void parse(int argc, char** argv, Arguments& arguments) {
+  CLI::App program("Home-screen widgets that look like holes in the wallpaper.", "vitrelle-app");
+  cli::addOptions(program, arguments.options);
+  program.add_option("--screen", arguments.screen,
+                     "Open this screen by its type name; 'list' prints them all");
+  program.add_option("--screenshot", arguments.screenshot, "Draw the screen to a PNG file and end");
+  program.add_option("--scale", arguments.scale, "Pixels per point of the screenshot")
+      ->check(CLI::Range(1, 3));
+  program.add_flag("--gl", arguments.gl, "Draw with the graphics card");
+  program.add_option("LINK", arguments.links, "Links to open, vitrelle://…");
+  try {
+    program.parse(argc, argv);
+    cli::readEnvironment(arguments.options);
+  } catch (const CLI::ParseError& error) {
+    if (error.get_exit_code() == 0) std::exit(program.exit(error));
+    std::fprintf(stderr, "vitrelle-app: %s (see 'vitrelle-app --help')\n", error.what());
+    std::exit(2);
+  }
+  const QString screen = QString::fromStdString(arguments.screen);
+  if (arguments.screen == "list") {
+    for (const QString& name : ui::Shell::screenNames())
+      std::printf("%s\n", qPrintable(name));
+    std::exit(0);
+  }
+  if (!screen.isEmpty() && !ui::Shell::screenNames().contains(screen)) {
+    std::fprintf(stderr, "vitrelle-app: there is no screen '%s'; '--screen list' prints them\n",
+                 arguments.screen.c_str());
+    std::exit(2);
+  }
+}
+
+/// What has to be said before Qt starts.
+void prepareQt(const Arguments& arguments) {
+  if (!arguments.screenshot.empty()) {
+    // The same pixels on every machine, with and without a display.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (arguments.scale != 0) qputenv("QT_SCALE_FACTOR", QByteArray::number(arguments.scale));
+  }
+  if (!arguments.gl) QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  QQuickStyle::setStyle(QStringLiteral("Basic"));
+}
+
+/// Draws until nothing is being loaded, then writes the file.
+int takeScreenshot(ui::Shell& shell, const std::string& file) {
+  for (int quiet = 0; quiet < 3; quiet = shell.pictures().isIdle() ? quiet + 1 : 0) {
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    shell.window()->grabWindow();
+  }
+  const QImage picture = shell.window()->grabWindow();
+  if (picture.isNull() || !picture.save(QString::fromStdString(file), "PNG")) {
+    std::fprintf(stderr, "vitrelle-app: %s: it can't be written\n", file.c_str());
+    return 1;
+  }
+  return 0;
+}
+
+int run(int argc, char** argv) {
+  Arguments arguments;
+  parse(argc, argv, arguments);
+  prepareQt(arguments);
+  QGuiApplication application(argc, argv);
+  QGuiApplication::setApplicationName(QStringLiteral("Vitrelle"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("vitrelle"));
+  QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/app-icon.svg")));
+  QTranslator translator;
+  ui::installWords(translator, QLocale());
+
+  const host::HostOptions options = hostOptions(arguments.options);
+  const host::EventLoop loop = host::makeQtLoop();
+  const bool interactive = arguments.screenshot.empty();
+  std::unique_ptr<host::AppInstance> instance;
+  if (interactive) {
+    auto claimed = host::AppInstance::claim(options.home, loop);
+    if (claimed) {
+      instance = std::move(claimed).value();
+    } else {
+      std::fprintf(stderr, "vitrelle-app: %s: %s\n", claimed.failure().what.c_str(),
+                   claimed.failure().why.c_str());
+    }
+    if (claimed && !instance) { // the one that runs comes to the front
+      const Links links = host::makeLinks(options.home);
+      if (arguments.links.empty()) arguments.links.emplace_back();
+      for (const std::string& link : arguments.links) {
+        if (!links.send(link)) return 1;
+      }
+      return 0;
+    }
+  }
+
+  ui::Shell* shell = nullptr;
+  Platform platform =
+      ui::withTroubleTold(host::makePlatform(options, loop), [&](const Failure& failure) {
+        if (shell == nullptr) return;
+        shell->showNotice(qtTrId("app.store.readOnly")
+                              .arg(QString::fromStdString(failure.what + ": " + failure.why)));
+      });
+  platform.application.suspend = [&] {
+    if (shell != nullptr && shell->window() != nullptr) shell->window()->hide();
+  };
+
+  AppDelegate(platform).didFinishLaunching();
+  const SceneDelegate scene(platform);
+  std::vector<Link> links;
+  for (const std::string& link : arguments.links)
+    links.push_back(Link::parse(link));
+
+  std::optional<ui::Appearance> appearance;
+  if (arguments.options.appearance) {
+    appearance = *arguments.options.appearance == cli::Appearance::dark ? ui::Appearance::dark
+                                                                        : ui::Appearance::light;
+  } else if (!interactive) {
+    appearance = ui::Appearance::light;
+  }
+  ui::Shell shellObject(platform, {.appearance = appearance,
+                                   .screen = QString::fromStdString(arguments.screen),
+                                   .framed = interactive,
+                                   .animated = interactive});
+  shell = &shellObject;
+  if (!shellObject.open()) return 1;
+  if (!interactive) return takeScreenshot(shellObject, arguments.screenshot);
+
+  // A widget's tap may hide the window at once; hidden, it does not end the program.
+  scene.willConnect(links);
+  QObject::connect(shellObject.window(), &QQuickWindow::sceneGraphError, &application,
+                   [](QQuickWindow::SceneGraphError, const QString& message) {
+                     std::fprintf(stderr, "vitrelle-app: drawing: %s\n", qPrintable(message));
+                     QCoreApplication::exit(1);
+                   });
+  if (instance) {
+    instance->onLink([&](const std::string& url) {
+      shellObject.raise();
+      const Link link = Link::parse(url);
+      if (!url.empty()) scene.openLinks({&link, 1});
+    });
+  }
+  return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return run(argc, argv);
+  } catch (const std::exception& error) { // such as a lack of memory
+    std::fprintf(stderr, "vitrelle-app: the program can't go on: %s\n", error.what());
+    return 1;
+  }
+}

@@ -1,0 +1,28 @@
+// A line of a menu.
+import QtQuick
+import Vitrelle
+
+Pressable {
+    id: entry
+
+    property string symbol
+
+    height: 44
+    role: Accessible.MenuItem
+    opacity: enabled ? (held ? 0.6 : 1) : 0.35
+
+    Label {
+        x: 16
+        anchors.verticalCenter: parent.verticalCenter
+        text: entry.name
+        font.pixelSize: 16
+    }
+    SymbolItem {
+        anchors.right: parent.right
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        name: entry.symbol
+        size: 18
+        colour: Theme.text
+    }
+}

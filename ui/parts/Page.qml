@@ -1,0 +1,61 @@
+// A page of the navigation stack: a bar with the way back and a title, and what is below.
+import QtQuick
+import Vitrelle
+
+FocusScope {
+    id: page
+
+    property string title
+    property string backTitle: "Back"
+    property bool hasBack: true
+    default property alias content: body.data
+
+    signal closed
+
+    Rectangle {
+        anchors.fill: parent
+        gradient: Gradient {
+            GradientStop { position: 0; color: Theme.screenTop }
+            GradientStop { position: 1; color: Theme.screenBottom }
+        }
+    }
+    Item {
+        id: bar
+        y: Theme.topInset
+        width: parent.width
+        height: 44
+
+        TextLink {
+            id: back
+            objectName: "back"
+            x: 12
+            anchors.verticalCenter: parent.verticalCenter
+            visible: page.hasBack
+            symbol: "chevron.left"
+            name: page.backTitle
+            bold: true
+            onPressed: page.closed()
+        }
+        Label {
+            anchors.verticalCenter: parent.verticalCenter
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: parent.width - 2 * (back.width + 24)
+            horizontalAlignment: Text.AlignHCenter
+            elide: Text.ElideRight
+            wrapMode: Text.NoWrap
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 11
+            text: page.title
+            font.bold: true
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+    }
+    Item {
+        id: body
+        anchors.top: bar.bottom
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+    }
+}

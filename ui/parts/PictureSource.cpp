@@ -1,0 +1,51 @@
+#include "ui/parts/PictureSource.h"
+
+#include "core/slicing/ImageLoader.h"
+
+#include <QColorSpace>
+
+#include <optional>
+#include <utility>
+
+namespace vitrelle::ui {
+
+namespace {
+
+std::optional<Image> find(const Platform& platform, const PictureName& name) {
+  return ImageLoader(platform).loadSlice(name.stem, name.dark ? darkStyle : lightStyle, name.style);
+}
+
+QColorSpace colourSpace(const ColourProfile& profile) {
+  if (profile.icc.empty()) return {};
+  const QByteArray icc(reinterpret_cast<const char*>(profile.icc.data()),
+                       static_cast<qsizetype>(profile.icc.size()));
+  return QColorSpace::fromIccProfile(icc);
+}
+
+} // namespace
+
+QImage stretched(const Image& image, const QSize& pixels) {
+  const Result<Bitmap> bitmap = image.bitmap();
+  if (!bitmap || pixels.isEmpty() || bitmap->size.width == 0) return {};
+  const QImage whole(bitmap->pixels, bitmap->size.width, bitmap->size.height,
+                     static_cast<qsizetype>(bitmap->bytesPerRow),
+                     bitmap->opaque ? QImage::Format_RGBX8888 : QImage::Format_RGBA8888);
+  QImage scaled = whole.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  if (scaled.constBits() == bitmap->pixels) scaled = scaled.copy(); // it outlives the bitmap
+  const QColorSpace space = colourSpace(image.profile());
+  if (space.isValid()) {
+    scaled.setColorSpace(space);
+    scaled.convertToColorSpace(QColorSpace::SRgb);
+  }
+  return std::move(scaled).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+void PictureSource::load(const PictureName& name, const QSize& pixels,
+                         std::function<void(QImage)> done) {
+  pool_.start([this, name, pixels, done = std::move(done)] {
+    const auto image = find(platform_, name);
+    done(image ? stretched(*image, pixels) : QImage());
+  });
+}
+
+} // namespace vitrelle::ui

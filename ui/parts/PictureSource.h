@@ -1,0 +1,49 @@
+// The pictures that screens show: stored screenshots and slices, decoded beside the frame's way and
+// only as large as they are drawn.
+#pragma once
+
+#include "core/platform/Platform.h"
+
+#include <QImage>
+#include <QSize>
+#include <QThreadPool>
+
+#include <functional>
+#include <string>
+
+namespace vitrelle::ui {
+
+/// Which stored picture.
+struct PictureName {
+  std::string stem; ///< "original", or a slot's
+  std::int64_t style = 0;
+  bool dark = false;
+  bool operator==(const PictureName&) const = default;
+};
+
+class PictureSource final {
+ public:
+  explicit PictureSource(const Platform& platform) : platform_(platform) {
+    pool_.setMaxThreadCount(2);
+  }
+  /// Waits for what is being decoded.
+  ~PictureSource() { pool_.waitForDone(); }
+  PictureSource(const PictureSource&) = delete;
+  PictureSource& operator=(const PictureSource&) = delete;
+
+  /// Whether nothing is being decoded.
+  bool isIdle() const { return pool_.activeThreadCount() == 0; }
+
+  /// Calls back on another thread with the picture stretched to the size, in sRGB; a null image
+  /// when it can't be had.
+  void load(const PictureName& name, const QSize& pixels, std::function<void(QImage)> done);
+
+ private:
+  const Platform& platform_;
+  QThreadPool pool_;
+};
+
+/// The pixels of an image stretched to a size. Null when it can't be decoded.
+QImage stretched(const Image& image, const QSize& pixels);
+
+} // namespace vitrelle::ui

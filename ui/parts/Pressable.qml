@@ -1,0 +1,47 @@
+// Whatever can be pressed, with a pointer, a finger or keys.
+import QtQuick
+import Vitrelle
+
+Item {
+    id: pressable
+
+    required property string name // for those who can't see it
+    property int role: Accessible.Button
+    property real focusRadius: 12
+    readonly property bool held: tap.pressed
+
+    signal pressed
+    /// A right click, or a long press.
+    signal menuAsked(point position)
+
+    activeFocusOnTab: true
+    opacity: held ? 0.6 : 1
+    Accessible.role: role
+    Accessible.name: name
+    Accessible.focusable: true
+    Accessible.onPressAction: pressed()
+    Keys.onReturnPressed: pressed()
+    Keys.onEnterPressed: pressed()
+    Keys.onSpacePressed: pressed()
+    Keys.onMenuPressed: menuAsked(Qt.point(width / 2, height / 2))
+
+    TapHandler {
+        id: tap
+        // Takes the press for itself, so that nothing beneath is pressed as well.
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: pressable.pressed()
+        onLongPressed: pressable.menuAsked(point.position)
+    }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: eventPoint => pressable.menuAsked(eventPoint.position)
+    }
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
+    }
+    FocusRing {
+        shown: pressable.activeFocus
+        radius: pressable.focusRadius
+    }
+}

@@ -1,0 +1,38 @@
+// A page that comes up from below and covers the screen: rounded at the corners, on black.
+import QtQuick
+import Vitrelle
+
+FocusScope {
+    id: sheet
+
+    property bool shown: false
+    default property alias content: body.data
+
+    signal dismissed
+
+    width: parent.width
+    height: parent.height
+    y: shown ? 0 : height
+    visible: y < height
+    enabled: shown
+    onShownChanged: if (shown) forceActiveFocus()
+    Keys.onEscapePressed: dismissed()
+    Keys.onBackPressed: dismissed()
+
+    Behavior on y { NumberAnimation { duration: Theme.longTime; easing.type: Easing.OutCubic } }
+
+    MouseArea { // nothing behind it can be pressed
+        anchors.fill: parent
+    }
+    FocusScope {
+        id: body
+        focus: true
+        anchors.fill: parent
+    }
+    ContinuousRectangle {
+        anchors.fill: parent
+        inverted: true
+        colour: "black"
+        radius: sheet.height / 36
+    }
+}

@@ -1,0 +1,69 @@
+#include "ui/parts/StoredPicture.h"
+
+#include "ui/Shell.h"
+#include "ui/parts/ContinuousRectangle.h"
+
+#include <QPainter>
+#include <QPointer>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QtMath>
+
+namespace vitrelle::ui {
+
+StoredPicture::StoredPicture(QQuickItem* parent) : QQuickPaintedItem(parent) {
+  setAntialiasing(true);
+  connect(this, &StoredPicture::asked, this, &StoredPicture::load);
+}
+
+void StoredPicture::paint(QPainter* painter) {
+  if (picture_.isNull()) return;
+  painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+  // A brush instead of a clip, whose edges would be jagged.
+  QBrush brush(picture_);
+  brush.setTransform(
+      QTransform::fromScale(width() / picture_.width(), height() / picture_.height()));
+  painter->fillPath(continuousRectangle(QRectF(0, 0, width(), height()), radius_), brush);
+}
+
+void StoredPicture::componentComplete() {
+  QQuickPaintedItem::componentComplete();
+  load();
+}
+
+void StoredPicture::geometryChange(const QRectF& now, const QRectF& before) {
+  QQuickPaintedItem::geometryChange(now, before);
+  if (now.size() != before.size()) load();
+}
+
+void StoredPicture::load() {
+  if (!isComponentComplete() || width() <= 0 || height() <= 0) return;
+  const int request = ++request_;
+  if (styleNumber_ < 0) {
+    show(request, {});
+    return;
+  }
+  const qreal ratio = window() != nullptr ? window()->effectiveDevicePixelRatio() : 1;
+  const QSize pixels(qCeil(width() * ratio), qCeil(height() * ratio));
+  Shell::of(*qmlEngine(this))
+      .pictures()
+      .load({stem_.toStdString(), styleNumber_, dark_}, pixels,
+            [self = QPointer(this), request](const QImage& picture) {
+              QMetaObject::invokeMethod(
+                  QCoreApplication::instance(),
+                  [self, request, picture] {
+                    if (self) self->show(request, picture);
+                  },
+                  Qt::QueuedConnection);
+            });
+}
+
+void StoredPicture::show(int request, const QImage& picture) {
+  if (request != request_) return;
+  picture_ = picture;
+  missing_ = picture.isNull();
+  Q_EMIT readyChanged();
+  update();
+}
+
+} // namespace vitrelle::ui

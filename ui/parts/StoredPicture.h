@@ -1,0 +1,55 @@
+// A stored picture on a screen, stretched into a rectangle with continuous corners.
+#pragma once
+
+#include "ui/parts/PictureSource.h"
+
+#include <QImage>
+#include <QQuickPaintedItem>
+#include <QString>
+
+namespace vitrelle::ui {
+
+class StoredPicture : public QQuickPaintedItem {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(QString stem MEMBER stem_ NOTIFY asked)
+  Q_PROPERTY(int styleNumber MEMBER styleNumber_ NOTIFY asked)
+  Q_PROPERTY(bool dark MEMBER dark_ NOTIFY asked)
+  /// Raised when the file may have been replaced.
+  Q_PROPERTY(int revision MEMBER revision_ NOTIFY asked)
+  Q_PROPERTY(qreal radius MEMBER radius_ NOTIFY asked)
+  /// Whether there is something to draw.
+  Q_PROPERTY(bool ready READ isReady NOTIFY readyChanged)
+  /// Whether it was looked for and is not to be had.
+  Q_PROPERTY(bool missing READ isMissing NOTIFY readyChanged)
+
+ public:
+  explicit StoredPicture(QQuickItem* parent = nullptr);
+  void paint(QPainter* painter) override;
+
+  bool isReady() const { return !picture_.isNull(); }
+  bool isMissing() const { return missing_; }
+
+ Q_SIGNALS:
+  void asked();
+  void readyChanged();
+
+ protected:
+  void componentComplete() override;
+  void geometryChange(const QRectF& now, const QRectF& before) override;
+
+ private:
+  void load();
+  void show(int request, const QImage& picture);
+
+  QString stem_ = QStringLiteral("original");
+  int styleNumber_ = -1;
+  bool dark_ = false;
+  int revision_ = 0;
+  qreal radius_ = 0;
+  QImage picture_;
+  bool missing_ = false;
+  int request_ = 0; ///< the last; answers to earlier ones are dropped
+};
+
+} // namespace vitrelle::ui

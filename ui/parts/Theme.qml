@@ -1,0 +1,24 @@
+// Colours and sizes that screens share. Colours are sRGB, sizes points.
+pragma Singleton
+import QtQuick
+import Vitrelle
+
+QtObject {
+    readonly property color accent: Qt.rgba(0.39, 0.9, 0.89, 1)
+    readonly property color card: Qt.rgba(0.17, 0.17, 0.18, 1)
+    readonly property color backdrop: Qt.rgba(0.07, 0.07, 0.07, 1)
+    readonly property color tick: Qt.rgba(0.2, 0.78, 0.35, 1)
+    readonly property color grey: Qt.rgba(0.56, 0.56, 0.58, 1)
+    readonly property color text: "white"
+    readonly property color quietText: Qt.rgba(0.92, 0.92, 0.96, 0.6)
+    // Titles are white in both appearances, so the light one is a colour and not white.
+    readonly property color screenTop: Shell.dark ? Qt.rgba(0.10, 0.12, 0.13, 1) : Qt.rgba(0.20, 0.50, 0.56, 1)
+    readonly property color screenBottom: Shell.dark ? backdrop : Qt.rgba(0.13, 0.27, 0.40, 1)
+
+    readonly property string face: "Inter"
+    readonly property bool tall: Shell.screenHeight >= 800
+    readonly property real topInset: tall ? 47 : 20
+    readonly property real bottomInset: tall ? 14 : 0
+    readonly property int shortTime: Shell.animated ? 200 : 0
+    readonly property int longTime: Shell.animated ? 350 : 0
+}

@@ -1,0 +1,76 @@
+// Takes a light and a dark screenshot in, for a new style or for one that is there.
+import QtQuick
+import QtQuick.Dialogs
+import Vitrelle
+
+Page {
+    id: page
+    objectName: "intakePage"
+
+    required property IntakeScreen intake
+
+    title: intake.title
+    backTitle: intake.back
+    onClosed: intake.disappear()
+    Component.onCompleted: intake.appear()
+
+    Row {
+        id: cells
+        anchors.fill: parent
+        anchors.bottomMargin: Theme.bottomInset + 10
+
+        Repeater {
+            model: [false, true]
+
+            WallpaperCell {
+                id: cell
+                required property bool modelData
+
+                objectName: dark ? "darkCell" : "lightCell"
+                width: cells.width / 2
+                height: cells.height
+                intake: page.intake
+                dark: modelData
+                // The halves of the screen decide, wherever in them the press ends.
+                onPressed: page.intake.tap(x + width / 2)
+                onMenuAsked: position => menu.open(cell, position)
+                Keys.onPressed: event => {
+                    if (event.matches(StandardKey.Paste)) {
+                        page.intake.paste(cell.dark);
+                        event.accepted = true;
+                    }
+                }
+            }
+        }
+    }
+    CellMenu {
+        id: menu
+        onChosen: dark => page.intake.choose(dark)
+        onPasted: dark => page.intake.paste(dark)
+    }
+    FileDialog {
+        id: picker
+        title: qsTrId("app.picker.title")
+        nameFilters: [qsTrId("app.picker.pictures") + " (*.png *.jpg *.jpeg *.heic *.heif *.PNG *.JPG *.JPEG *.HEIC *.HEIF)"]
+        onAccepted: page.intake.pick(selectedFile)
+        onRejected: page.intake.cancel()
+    }
+    Timer {
+        id: settled
+        interval: 0
+        onTriggered: page.followPicker()
+    }
+    // What is dropped or pasted opens the picker in passing: only how it ends is followed.
+    function followPicker() {
+        if (intake.pickerOpen && !picker.visible)
+            picker.open();
+        else if (!intake.pickerOpen && picker.visible)
+            picker.close();
+    }
+    Connections {
+        target: page.intake
+        function onChanged() {
+            settled.restart();
+        }
+    }
+}

@@ -1,0 +1,75 @@
+#include "ui/slicing/IntakeScreen.h"
+
+#include "ui/Shell.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
+#include <utility>
+
+namespace vitrelle::ui {
+
+namespace {
+
+Image imageOf(const QImage& picture) {
+  const auto pixels =
+      std::make_shared<const QImage>(picture.convertToFormat(QImage::Format_RGBA8888));
+  return Image(Bitmap{.size = {pixels->width(), pixels->height()},
+                      .bytesPerRow = static_cast<std::size_t>(pixels->bytesPerLine()),
+                      .pixels = pixels->constBits(),
+                      .opaque = !picture.hasAlphaChannel(),
+                      .owner = pixels});
+}
+
+} // namespace
+
+IntakeScreen::IntakeScreen(Shell& shell, std::unique_ptr<WallpaperIntake> screen)
+    : shell_(shell),
+      screen_(std::move(screen)),
+      cells_(WallpaperIntake::cellWords()),
+      view_(screen_->onChange([this] { Q_EMIT changed(); })) {}
+
+void IntakeScreen::appear() {
+  if (auto* newStyle = dynamic_cast<ModernNewLightDark*>(screen_.get())) newStyle->appear();
+}
+
+void IntakeScreen::disappear() {
+  if (auto* newStyle = dynamic_cast<ModernNewLightDark*>(screen_.get())) newStyle->disappear();
+}
+
+void IntakeScreen::pick(const QUrl& file) {
+  const std::string path = file.toLocalFile().toStdString();
+  const Result<Image> image = path.empty()
+                                  ? Failure{file.toString().toStdString(), "it is no local file"}
+                                  : shell_.platform().images.load(path);
+  if (!image) return refuse(image.failure());
+  if (const auto bitmap = image->bitmap(); !bitmap) return refuse(bitmap.failure());
+  take(*image);
+}
+
+void IntakeScreen::paste(bool dark) {
+  choose(dark);
+  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+  if (data != nullptr && data->hasUrls() && !data->urls().isEmpty()) {
+    pick(data->urls().constFirst());
+    return;
+  }
+  const QImage picture = QGuiApplication::clipboard()->image();
+  if (picture.isNull()) return refuse({"the clipboard", "it holds no picture"});
+  take(imageOf(picture));
+}
+
+void IntakeScreen::take(const std::optional<Image>& picture) {
+  ++revision_;
+  screen_->pick(picture);
+}
+
+void IntakeScreen::refuse(const Failure& failure) {
+  take({});
+  const auto words = [](const std::string& text) { return QString::fromStdString(text); };
+
+  shell_.showNotice(qtTrId("app.unreadable").arg(words(failure.what + ": " + failure.why)));
+}
+
+} // namespace vitrelle::ui

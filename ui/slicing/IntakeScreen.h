@@ -1,0 +1,77 @@
+// The screens that take a style's screenshots in, as QML sees them.
+#pragma once
+
+#include "core/slicing/WallpaperIntake.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+#include <QUrl>
+
+#include <memory>
+
+namespace vitrelle::ui {
+
+class Shell;
+
+class IntakeScreen final : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("the shell makes it")
+  Q_PROPERTY(QString title READ title CONSTANT)
+  Q_PROPERTY(QString back READ back CONSTANT)
+  Q_PROPERTY(QString hint READ hint CONSTANT)
+  Q_PROPERTY(QString noImage READ noImage CONSTANT)
+  Q_PROPERTY(QString lightTitle READ lightTitle CONSTANT)
+  Q_PROPERTY(QString darkTitle READ darkTitle CONSTANT)
+  Q_PROPERTY(QString lightSymbol READ lightSymbol CONSTANT)
+  Q_PROPERTY(QString darkSymbol READ darkSymbol CONSTANT)
+  Q_PROPERTY(int styleNumber READ styleNumber NOTIFY changed)
+  Q_PROPERTY(int revision READ revision NOTIFY changed)
+  Q_PROPERTY(bool pickerOpen READ isPickerOpen NOTIFY changed)
+
+ public:
+  IntakeScreen(Shell& shell, std::unique_ptr<WallpaperIntake> screen);
+
+  QString title() const { return text(WallpaperIntake::title); }
+  QString back() const { return text(WallpaperIntake::back); }
+  QString hint() const { return text(WallpaperIntake::hint); }
+  QString noImage() const { return text(WallpaperIntake::noImage); }
+  QString lightTitle() const { return text(cells_[0].title); }
+  QString darkTitle() const { return text(cells_[1].title); }
+  QString lightSymbol() const { return text(cells_[0].symbol); }
+  QString darkSymbol() const { return text(cells_[1].symbol); }
+  int styleNumber() const { return static_cast<int>(screen_->styleNumber()); }
+  int revision() const { return revision_; }
+  bool isPickerOpen() const { return screen_->activeSheet() == ActiveSheet::photoPicker; }
+
+  Q_INVOKABLE void appear();
+  Q_INVOKABLE void disappear();
+  /// A press that ended so far from the screen's left edge, in points.
+  Q_INVOKABLE void tap(qreal x) { screen_->tap(x); }
+  Q_INVOKABLE void choose(bool dark) { screen_->choose(dark ? darkStyle : lightStyle); }
+  /// The picker closed with a file, or without one. What can't be read counts as none, is told to
+  /// the user and changes nothing.
+  Q_INVOKABLE void pick(const QUrl& file);
+  Q_INVOKABLE void cancel() { take({}); }
+  /// The picture in the clipboard, or the file that it names.
+  Q_INVOKABLE void paste(bool dark);
+
+ Q_SIGNALS:
+  void changed();
+
+ private:
+  static QString text(std::string_view words) {
+    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
+  }
+  void take(const std::optional<Image>& picture);
+  void refuse(const Failure& failure);
+
+  Shell& shell_;
+  std::unique_ptr<WallpaperIntake> screen_;
+  std::vector<WallpaperCell> cells_; ///< for their words
+  int revision_ = 0;
+  Subscription view_;
+};
+
+} // namespace vitrelle::ui

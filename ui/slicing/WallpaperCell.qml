@@ -1,0 +1,73 @@
+// One half of the intake: a title, the wallpaper that is set, and a place to drop another.
+import QtQuick
+import Vitrelle
+
+Pressable {
+    id: cell
+
+    required property IntakeScreen intake
+    required property bool dark
+    readonly property string title: dark ? intake.darkTitle : intake.lightTitle
+    // Two phones stand side by side where one is two thirds of the screen wide.
+    readonly property real shrink: Math.min((width - 26) / wallpaper.width, (height - heading.height - 40) / wallpaper.height)
+
+    name: title + ", " + intake.hint
+    focusRadius: 24
+
+    Column {
+        id: heading
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Math.max(8, (cell.height - height - 14 - wallpaper.height * cell.shrink) / 2.4)
+        spacing: 3
+
+        Label {
+            anchors.horizontalCenter: parent.horizontalCenter
+            font.bold: true
+            font.pixelSize: 20
+            text: cell.title
+        }
+        Label {
+            anchors.horizontalCenter: parent.horizontalCenter
+            color: Theme.quietText
+            font.pixelSize: 12
+            text: cell.intake.hint
+        }
+    }
+    Item {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: heading.y + heading.height + 14
+        width: wallpaper.width * cell.shrink
+        height: wallpaper.height * cell.shrink
+
+        WallpaperImageView {
+            id: wallpaper
+            transformOrigin: Item.TopLeft
+            scale: cell.shrink
+            styleNumber: cell.intake.styleNumber
+            dark: cell.dark
+            revision: cell.intake.revision
+            symbol: cell.dark ? cell.intake.darkSymbol : cell.intake.lightSymbol
+            noImage: cell.intake.noImage
+        }
+        ContinuousRectangle {
+            anchors.fill: parent
+            anchors.margins: -4
+            visible: drop.containsDrag
+            radius: 38 * cell.shrink
+            borderColour: Theme.accent
+            borderWidth: 3
+        }
+    }
+    DropArea {
+        id: drop
+        anchors.fill: parent
+        keys: ["text/uri-list"]
+        onDropped: event => {
+            if (!event.hasUrls)
+                return;
+            event.acceptProposedAction();
+            cell.intake.choose(cell.dark);
+            cell.intake.pick(event.urls[0]);
+        }
+    }
+}
