@@ -19,9 +19,12 @@ enum class PathCommand : unsigned char { Move, Line, Cubic, Close };
 constexpr std::size_t pointCount(PathCommand command) {
   switch (command) {
   case PathCommand::Move:
-  case PathCommand::Line: return 1;
-  case PathCommand::Cubic: return 3;
-  case PathCommand::Close: return 0;
+  case PathCommand::Line:
+    return 1;
+  case PathCommand::Cubic:
+    return 3;
+  case PathCommand::Close:
+    return 0;
   }
   return 0;
 }

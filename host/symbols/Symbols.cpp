@@ -1,20 +1,138 @@
 #include "host/symbols/Symbols.h"
 
+#include "host/symbols/SymbolShapes.h"
+#include "host/symbols/SymbolTable.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <optional>
+#include <string_view>
+#include <utility>
+#include <vector>
+
 namespace vitrelle::host {
 
 namespace {
 
-SymbolOutline square() {
-  using enum PathCommand;
-  return {.path = {.commands = {Move, Line, Line, Line, Close},
-                   .points = {{1, 1}, {15, 1}, {15, 15}, {1, 15}}}};
+struct Found {
+  SymbolOutline outline;
+  SymbolMatch match;
+};
+
+PathCommand commandOf(char letter) {
+  switch (letter) {
+  case 'M':
+    return PathCommand::Move;
+  case 'L':
+    return PathCommand::Line;
+  case 'C':
+    return PathCommand::Cubic;
+  default:
+    return PathCommand::Close;
+  }
+}
+
+Path pathOf(const SymbolEntry& entry) {
+  Path path;
+  std::size_t points = 0;
+  for (const char letter : symbolTable.commands.substr(entry.firstCommand, entry.commandCount)) {
+    path.commands.push_back(commandOf(letter));
+    points += pointCount(path.commands.back());
+  }
+  const auto coordinates = symbolTable.coordinates.subspan(entry.firstPoint * std::size_t{2});
+  for (std::size_t i = 0; i < points; ++i) {
+    path.points.push_back({coordinates[2 * i], coordinates[2 * i + 1]});
+  }
+  return path;
+}
+
+const SymbolEntry* entryOf(std::string_view name) {
+  const auto entry = std::ranges::lower_bound(symbolTable.entries, name, {}, &SymbolEntry::name);
+  return entry != symbolTable.entries.end() && entry->name == name ? &*entry : nullptr;
+}
+
+/// Takes the ending off the name, if it has it and more.
+bool dropEnding(std::string_view& name, std::string_view ending) {
+  if (name.size() <= ending.size() || !name.ends_with(ending)) return false;
+  name.remove_suffix(ending.size());
+  return true;
+}
+
+/// Up to two letters or digits, such as those of `50.square`.
+std::optional<Path> spelling(std::string_view text) {
+  if (text.empty() || text.size() > 2) return std::nullopt;
+  std::vector<Path> glyphs;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const SymbolEntry* glyph = entryOf(text.substr(i, 1));
+    if (!glyph) return std::nullopt;
+    glyphs.push_back(pathOf(*glyph));
+  }
+  return spelled(glyphs);
+}
+
+/// What stands within a shape: rather a filled picture, which is still told when it is small.
+std::optional<Path> glyph(std::string_view name) {
+  if (const SymbolEntry* filled = entryOf(std::string(name) + ".fill")) return pathOf(*filled);
+  if (const SymbolEntry* plain = entryOf(name)) return pathOf(*plain);
+  return spelling(name);
+}
+
+std::optional<SymbolOutline> inShape(std::string_view name) {
+  constexpr std::array<std::pair<std::string_view, Enclosure>, 4> shapes = {
+      {{".circle", Enclosure::Circle},
+       {".circle.fill", Enclosure::FilledCircle},
+       {".square", Enclosure::Square},
+       {".square.fill", Enclosure::FilledSquare}}};
+  for (const auto& [ending, enclosure] : shapes) {
+    std::string_view rest = name;
+    if (!dropEnding(rest, ending)) continue;
+    if (const auto path = glyph(rest)) return enclosed(*path, enclosure);
+  }
+  return std::nullopt;
+}
+
+std::optional<Found> known(std::string_view name) {
+  if (const SymbolEntry* entry = entryOf(name)) {
+    return Found{{.path = pathOf(*entry)}, entry->match};
+  }
+  if (auto shape = inShape(name)) return Found{std::move(*shape), SymbolMatch::Composition};
+  return std::nullopt;
+}
+
+/// Names go from the thing to its variants, so the picture of their beginning is near enough.
+std::optional<Found> stripped(std::string_view name) {
+  while (true) {
+    const std::size_t badge = name.find(".badge");
+    const std::size_t end = badge != std::string_view::npos ? badge : name.rfind('.');
+    if (end == std::string_view::npos) return std::nullopt;
+    name = name.substr(0, end);
+    // A letter alone would stand for anything.
+    if (name.size() < 2) return std::nullopt;
+    if (auto found = known(name)) return Found{std::move(found->outline), SymbolMatch::Stripped};
+  }
+}
+
+SymbolOutline fallback(std::string_view name) {
+  const auto letter = std::ranges::find_if(
+      name, [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0; });
+  const char lower = letter == name.end()
+                         ? 'x'
+                         : static_cast<char>(std::tolower(static_cast<unsigned char>(*letter)));
+  return enclosed(spelling({&lower, 1}).value_or(Path{}), Enclosure::Square);
+}
+
+Found find(std::string_view name) {
+  if (auto found = known(name)) return std::move(*found);
+  if (auto found = stripped(name)) return std::move(*found);
+  return {fallback(name), SymbolMatch::Fallback};
 }
 
 } // namespace
 
 Symbols makeSymbols() {
-  return {.outline = [](const std::string&) { return square(); },
-          .match = [](const std::string&) { return SymbolMatch::Fallback; }};
+  return {.outline = [](const std::string& name) { return find(name).outline; },
+          .match = [](const std::string& name) { return find(name).match; }};
 }
 
 } // namespace vitrelle::host
