@@ -23,8 +23,10 @@ struct PictureName {
 
 class PictureSource final {
  public:
+  /// One picture after the other, in the order asked for: what is seen first comes first, the
+  /// decoder has threads of its own, and no more than one whole picture is in memory.
   explicit PictureSource(const Platform& platform) : platform_(platform) {
-    pool_.setMaxThreadCount(2);
+    pool_.setMaxThreadCount(1);
   }
   /// Waits for what is being decoded.
   ~PictureSource() { pool_.waitForDone(); }

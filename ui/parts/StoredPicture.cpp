@@ -37,25 +37,28 @@ void StoredPicture::geometryChange(const QRectF& now, const QRectF& before) {
 }
 
 void StoredPicture::load() {
+  update();
   if (!isComponentComplete() || width() <= 0 || height() <= 0) return;
+  const qreal ratio = window() != nullptr ? window()->effectiveDevicePixelRatio() : 1;
+  const QSize pixels(qCeil(width() * ratio), qCeil(height() * ratio));
+  Wish wish{{stem_.toStdString(), styleNumber_, dark_}, revision_, pixels};
+  if (wish == wish_) return;
+  wish_ = std::move(wish);
   const int request = ++request_;
   if (styleNumber_ < 0) {
     show(request, {});
     return;
   }
-  const qreal ratio = window() != nullptr ? window()->effectiveDevicePixelRatio() : 1;
-  const QSize pixels(qCeil(width() * ratio), qCeil(height() * ratio));
   Shell::of(*qmlEngine(this))
       .pictures()
-      .load({stem_.toStdString(), styleNumber_, dark_}, pixels,
-            [self = QPointer(this), request](const QImage& picture) {
-              QMetaObject::invokeMethod(
-                  QCoreApplication::instance(),
-                  [self, request, picture] {
-                    if (self) self->show(request, picture);
-                  },
-                  Qt::QueuedConnection);
-            });
+      .load(wish_.name, pixels, [self = QPointer(this), request](const QImage& picture) {
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(),
+            [self, request, picture] {
+              if (self) self->show(request, picture);
+            },
+            Qt::QueuedConnection);
+      });
 }
 
 void StoredPicture::show(int request, const QImage& picture) {

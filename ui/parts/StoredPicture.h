@@ -39,6 +39,13 @@ class StoredPicture : public QQuickPaintedItem {
   void geometryChange(const QRectF& now, const QRectF& before) override;
 
  private:
+  /// What a load depends on.
+  struct Wish {
+    PictureName name;
+    int revision = 0;
+    QSize pixels;
+    bool operator==(const Wish&) const = default;
+  };
   void load();
   void show(int request, const QImage& picture);
 
@@ -49,6 +56,7 @@ class StoredPicture : public QQuickPaintedItem {
   qreal radius_ = 0;
   QImage picture_;
   bool missing_ = false;
+  Wish wish_;
   int request_ = 0; ///< the last; answers to earlier ones are dropped
 };
 

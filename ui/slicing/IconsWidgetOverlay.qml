@@ -13,18 +13,18 @@ Item {
     property int clearRows: 4
 
     Repeater {
-        model: overlay.rows * 4
+        model: (overlay.rows - overlay.clearRows) * 4 // clear ones need not be drawn
 
         ContinuousRectangle {
             required property int index
-            readonly property int row: Math.floor(index / 4)
+            readonly property int row: overlay.clearRows + Math.floor(index / 4)
 
             x: overlay.gap + (index % 4) * (overlay.side + overlay.gap)
             y: overlay.height * 0.085 + row * (overlay.height * 0.78 - overlay.side) / overlay.rows
             width: overlay.side
             height: overlay.side
             radius: 12
-            colour: row < overlay.clearRows ? "transparent" : Qt.rgba(1, 1, 1, 0.5)
+            colour: Qt.rgba(1, 1, 1, 0.5)
         }
     }
 }
