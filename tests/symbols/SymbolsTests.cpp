@@ -1,0 +1,246 @@
+#include "host/symbols/Symbols.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <string>
+
+namespace vitrelle::host {
+
+namespace {
+
+const char* const usedNames[] = {
+    "5.circle",
+    "50.square.fill",
+    "a.magnify",
+    "airplane",
+    "airplane.circle",
+    "airplane.circle.fill",
+    "app",
+    "app.fill",
+    "apps.iphone",
+    "appstore",
+    "arrow.clockwise",
+    "arrow.down.right.and.arrow.up.left",
+    "arrow.forward.to.line",
+    "arrow.up.and.down.righttriangle.up.righttriangle.down.fill",
+    "arrow.up.left.and.arrow.down.right",
+    "arrow.up.right",
+    "arrowshape.turn.up.left",
+    "arrowshape.turn.up.left.circle",
+    "arrowshape.turn.up.left.fill",
+    "arrowtriangle.down.square.fill",
+    "aspectratio.fill",
+    "atom",
+    "bag",
+    "bag.fill",
+    "battery.100",
+    "bonjour",
+    "book.fill",
+    "brazilianrealsign.square.fill",
+    "calendar",
+    "capsule",
+    "checkmark.circle.fill",
+    "checkmark.shield.fill",
+    "chevron.left",
+    "chevron.right",
+    "circle",
+    "circle.dashed",
+    "circle.dotted",
+    "circle.grid.cross",
+    "circle.grid.cross.fill",
+    "circle.grid.cross.left.filled",
+    "circle.hexagonpath.fill",
+    "circle.inset.filled",
+    "clock",
+    "clock.arrow.circlepath",
+    "clock.circle",
+    "clock.fill",
+    "cloud",
+    "cloud.sun.fill",
+    "command",
+    "command.circle",
+    "command.circle.fill",
+    "doc.on.clipboard.fill",
+    "drop",
+    "ellipsis",
+    "exclamationmark.bubble.fill",
+    "exclamationmark.shield.fill",
+    "externaldrive.badge.person.crop",
+    "externaldrive.connected.to.line.below",
+    "externaldrive.connected.to.line.below.fill",
+    "eye.slash.fill",
+    "eyedropper.halffull",
+    "figure.wave.circle.fill",
+    "folder.badge.person.crop",
+    "folder.fill.badge.person.crop",
+    "function",
+    "gauge.medium",
+    "gear",
+    "gearshape.2.fill",
+    "globe.americas",
+    "globe.americas.fill",
+    "globe.europe.africa",
+    "hammer",
+    "hand.tap",
+    "hand.tap.fill",
+    "hands.sparkles.fill",
+    "hearingdevice.ear",
+    "heart",
+    "heart.text.square",
+    "heart.text.square.fill",
+    "hourglass",
+    "hourglass.tophalf.filled",
+    "house.fill",
+    "humidity.fill",
+    "infinity",
+    "info",
+    "info.circle.fill",
+    "iphone",
+    "keyboard",
+    "keyboard.badge.ellipsis",
+    "keyboard.fill",
+    "leaf.arrow.triangle.circlepath",
+    "line.diagonal",
+    "link",
+    "list.dash",
+    "location.fill",
+    "location.slash.fill",
+    "mic",
+    "mic.circle",
+    "mic.fill",
+    "minus.circle.fill",
+    "moon.fill",
+    "music.note",
+    "newspaper.fill",
+    "paintpalette.fill",
+    "paragraphsign",
+    "pencil",
+    "pencil.circle",
+    "pencil.circle.fill",
+    "percent",
+    "person",
+    "person.and.background.dotted",
+    "person.fill",
+    "person.fill.viewfinder",
+    "personalhotspot",
+    "photo.fill",
+    "play",
+    "play.circle",
+    "play.fill",
+    "plus.circle.fill",
+    "questionmark",
+    "questionmark.circle",
+    "questionmark.circle.fill",
+    "questionmark.square",
+    "recordingtape",
+    "rectangle.fill.badge.plus",
+    "rectangle.on.rectangle",
+    "rectangle.portrait.fill",
+    "rectangle.roundedbottom.fill",
+    "seal",
+    "seal.fill",
+    "signature",
+    "slider.horizontal.3",
+    "smallcircle.filled.circle",
+    "snow",
+    "sparkles",
+    "square",
+    "square.2.layers.3d",
+    "square.3.layers.3d",
+    "square.and.arrow.up",
+    "square.grid.2x2",
+    "star",
+    "star.fill",
+    "staroflife.circle.fill",
+    "stopwatch.fill",
+    "sum",
+    "sun",
+    "sun.max",
+    "sun.max.fill",
+    "sun.min",
+    "sun.min.fill",
+    "terminal.fill",
+    "text.append",
+    "text.book.closed.fill",
+    "text.bubble.fill",
+    "thermometer",
+    "trash",
+    "umbrella",
+    "waveform",
+    "wind",
+    "x.squareroot",
+    "xmark.circle.fill",
+    "y.circle.fill",
+};
+
+void expectDrawable(const SymbolOutline& symbol, const std::string& name) {
+  const Path& path = symbol.path;
+  EXPECT_FALSE(path.commands.empty()) << name;
+  const auto isWithin = [&](double x, double y) {
+    constexpr double margin = 0.02;
+    return x > -margin && x < symbol.width + margin && y > -margin && y < symbol.height + margin;
+  };
+  std::size_t next = 0;
+  for (const PathCommand command : path.commands) {
+    ASSERT_LE(next + pointCount(command), path.points.size()) << name;
+    const PathPoint* point = path.points.data() + next;
+    if (command == PathCommand::Cubic) {
+      const PathPoint start = point[-1];
+      const PathPoint middle = {(start.x + 3 * point[0].x + 3 * point[1].x + point[2].x) / 8,
+                                (start.y + 3 * point[0].y + 3 * point[1].y + point[2].y) / 8};
+      EXPECT_TRUE(isWithin(middle.x, middle.y)) << name << ' ' << middle.x << ',' << middle.y;
+    }
+    next += pointCount(command);
+    if (next > 0) {
+      const PathPoint end = path.points[next - 1];
+      EXPECT_TRUE(isWithin(end.x, end.y)) << name << ' ' << end.x << ',' << end.y;
+    }
+  }
+  EXPECT_EQ(next, path.points.size()) << name;
+}
+
+} // namespace
+
+TEST(Symbols, usedNames_areNeitherStrippedNorUnknown) {
+  const Symbols symbols = makeSymbols();
+  for (const std::string name : usedNames) {
+    const SymbolMatch match = symbols.match(name);
+    EXPECT_TRUE(match == SymbolMatch::Alias || match == SymbolMatch::Composition) << name;
+    expectDrawable(symbols.outline(name), name);
+  }
+}
+
+TEST(Symbols, name_isFoundByItsNearestPicture) {
+  const struct {
+    const char* name;
+    SymbolMatch match;
+  } cases[] = {{"gearshape", SymbolMatch::Alias},
+               {"heart.slash", SymbolMatch::Composition},
+               {"50.square.fill", SymbolMatch::Composition},
+               {"wind.circle", SymbolMatch::Composition},
+               {"gearshape.badge.questionmark", SymbolMatch::Stripped},
+               {"wind.fill", SymbolMatch::Stripped},
+               {"wind.slash.circle.fill", SymbolMatch::Stripped},
+               {"q.unheard.of", SymbolMatch::Fallback},
+               {"Nonsense", SymbolMatch::Fallback},
+               {".", SymbolMatch::Fallback},
+               {"", SymbolMatch::Fallback}};
+  const Symbols symbols = makeSymbols();
+  for (const auto& [name, match] : cases) {
+    EXPECT_EQ(symbols.match(name), match) << name;
+    expectDrawable(symbols.outline(name), name);
+  }
+}
+
+TEST(Symbols, filledShape_hasItsGlyphAsAHole) {
+  const Symbols symbols = makeSymbols();
+  const SymbolOutline ring = symbols.outline("y.circle");
+  const SymbolOutline disc = symbols.outline("y.circle.fill");
+  EXPECT_EQ(disc.rule, FillRule::EvenOdd);
+  // The ring's inner edge is what the disc lacks.
+  EXPECT_LT(disc.path.commands.size(), ring.path.commands.size());
+  EXPECT_NE(symbols.outline("y.circle.fill").path, symbols.outline("x.circle.fill").path);
+}
+
+} // namespace vitrelle::host
