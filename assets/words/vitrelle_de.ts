@@ -31,6 +31,34 @@
         <source></source>
         <translation>Hilfe</translation>
     </message>
+    <message id="app.invalidLink">
+        <source></source>
+        <translation>Unbekannter Link</translation>
+    </message>
+    <message id="app.settings">
+        <source></source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="app.upgrade">
+        <source></source>
+        <translation>Willkommen zurück</translation>
+    </message>
+    <message id="app.welcome">
+        <source></source>
+        <translation>Willkommen</translation>
+    </message>
+    <message id="app.widgetLabel">
+        <source></source>
+        <translation>Die Beschriftung unter einem Widget</translation>
+    </message>
+    <message id="app.widgetNoData">
+        <source></source>
+        <translation>Ein Widget zeigt nichts</translation>
+    </message>
+    <message id="app.widgetRefreshing">
+        <source></source>
+        <translation>Wann Widgets neu gezeichnet werden</translation>
+    </message>
     <message id="app.info">
         <source></source>
         <translation>Über Vitrelle</translation>

@@ -31,6 +31,34 @@
         <source></source>
         <translation>Help</translation>
     </message>
+    <message id="app.invalidLink">
+        <source></source>
+        <translation>Unknown Link</translation>
+    </message>
+    <message id="app.settings">
+        <source></source>
+        <translation>Settings</translation>
+    </message>
+    <message id="app.upgrade">
+        <source></source>
+        <translation>Welcome Back</translation>
+    </message>
+    <message id="app.welcome">
+        <source></source>
+        <translation>Welcome</translation>
+    </message>
+    <message id="app.widgetLabel">
+        <source></source>
+        <translation>The Label under a Widget</translation>
+    </message>
+    <message id="app.widgetNoData">
+        <source></source>
+        <translation>A Widget Shows Nothing</translation>
+    </message>
+    <message id="app.widgetRefreshing">
+        <source></source>
+        <translation>When Widgets Refresh</translation>
+    </message>
     <message id="app.info">
         <source></source>
         <translation>About Vitrelle</translation>

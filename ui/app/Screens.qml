@@ -13,8 +13,21 @@ FocusScope {
         if (page)
             page.closed();
     }
+    // Titles of the pages that have nothing to show yet, by the type name of their screen.
+    readonly property var titles: ({
+            "ModernKnowledgeCentre": qsTrId("app.help"),
+            "ModernWidgetCentre": qsTrId("app.widgetCentre"),
+            "ModernInfoCentre": qsTrId("app.info"),
+            "OnboardingView": qsTrId("app.welcome"),
+            "UpgradeView": qsTrId("app.upgrade"),
+            "WidgetSettingsView": qsTrId("app.settings"),
+            "UpdateWidgetDescription": qsTrId("app.widgetRefreshing"),
+            "WidgetShowingNothingDescription": qsTrId("app.widgetNoData"),
+            "WidgetNameDescription": qsTrId("app.widgetLabel"),
+            "InvalidDeepLink": qsTrId("app.invalidLink")
+        })
     function open(screen: string) {
-        stack.push(plainPage, { "title": screen });
+        stack.push(plainPage, { "title": titles[screen] });
     }
     function openNamed(screen: string) {
         if (screen === "" || screen === "ModernContentView")
@@ -77,7 +90,7 @@ FocusScope {
 
         PlainPage {
             anchors.fill: parent
-            title: "OnboardingView"
+            title: qsTrId("app.welcome")
             backTitle: qsTrId("app.close")
             onClosed: Shell.root.dismissOnboarding()
         }
@@ -89,7 +102,7 @@ FocusScope {
 
         PlainPage {
             anchors.fill: parent
-            title: "UpgradeView"
+            title: qsTrId("app.upgrade")
             backTitle: qsTrId("app.close")
             onClosed: Shell.root.dismissUpdateFromOne()
         }

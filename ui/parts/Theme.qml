@@ -10,7 +10,7 @@ QtObject {
     readonly property color tick: Qt.rgba(0.2, 0.78, 0.35, 1)
     readonly property color grey: Qt.rgba(0.56, 0.56, 0.58, 1)
     readonly property color text: "white"
-    readonly property color quietText: Qt.rgba(0.92, 0.92, 0.96, 0.6)
+    readonly property color quietText: Qt.rgba(0.92, 0.92, 0.96, 0.72)
     // Titles are white in both appearances, so the light one is a colour and not white.
     readonly property color screenTop: Shell.dark ? Qt.rgba(0.10, 0.12, 0.13, 1) : Qt.rgba(0.20, 0.50, 0.56, 1)
     readonly property color screenBottom: Shell.dark ? backdrop : Qt.rgba(0.13, 0.27, 0.40, 1)
