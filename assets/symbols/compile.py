@@ -211,7 +211,7 @@ def compile_table(table, icons, output):
                 known[expression] = (len(commands), len(own_commands), len(points))
                 commands += own_commands
                 points += own_points
-            kind = "Composition" if "(" in expression else "Alias"
+            kind = "composition" if "(" in expression else "alias"
             entries[name] = (kind, *known[expression])
         except ValueError as error:
             troubles.append(f"line {number}: {name}: {error}")

@@ -13,17 +13,17 @@ struct PathPoint {
   bool operator==(const PathPoint&) const = default;
 };
 
-enum class PathCommand : unsigned char { Move, Line, Cubic, Close };
+enum class PathCommand : unsigned char { move, line, cubic, close };
 
 /// How many of a path's points a command uses up; the last of them is where the pen then stands.
 constexpr std::size_t pointCount(PathCommand command) {
   switch (command) {
-  case PathCommand::Move:
-  case PathCommand::Line:
+  case PathCommand::move:
+  case PathCommand::line:
     return 1;
-  case PathCommand::Cubic:
+  case PathCommand::cubic:
     return 3;
-  case PathCommand::Close:
+  case PathCommand::close:
     return 0;
   }
   return 0;
@@ -36,6 +36,6 @@ struct Path {
   bool operator==(const Path&) const = default;
 };
 
-enum class FillRule { NonZero, EvenOdd };
+enum class FillRule { nonZero, evenOdd };
 
 } // namespace vitrelle

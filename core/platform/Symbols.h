@@ -12,17 +12,17 @@ namespace vitrelle {
 /// To be filled in one colour. It lies within its box; y points down.
 struct SymbolOutline {
   Path path;
-  FillRule rule = FillRule::NonZero;
+  FillRule rule = FillRule::nonZero;
   double width = 16;
   double height = 16;
 };
 
 /// From the nearest to the farthest.
 enum class SymbolMatch {
-  Alias,       ///< one picture stands for the name
-  Composition, ///< put together, such as a glyph knocked out of a disc
-  Stripped,    ///< the picture of the name without its badge, slash, fill or enclosing shape
-  Fallback,    ///< nothing known: a square with the first letter
+  alias,       ///< one picture stands for the name
+  composition, ///< put together, such as a glyph knocked out of a disc
+  stripped,    ///< the picture of the name without its badge, slash, fill or enclosing shape
+  fallback,    ///< nothing known: a square with the first letter
 };
 
 struct Symbols {

@@ -49,7 +49,7 @@ void appendRoundedSquare(Path& path, double halfSide, double radius) {
   const double near = centre - halfSide;
   const double far = centre + halfSide;
   path.commands.insert(path.commands.end(),
-                       {Move, Line, Cubic, Line, Cubic, Line, Cubic, Line, Cubic, Close});
+                       {move, line, cubic, line, cubic, line, cubic, line, cubic, close});
   path.points.insert(path.points.end(), {{near + radius, near},
                                          {far - radius, near},
                                          {far - pull, near},
@@ -75,7 +75,7 @@ SymbolOutline enclosed(const Path& glyph, Enclosure enclosure) {
   const bool isFilled =
       enclosure == Enclosure::FilledCircle || enclosure == Enclosure::FilledSquare;
   const bool isRound = enclosure == Enclosure::Circle || enclosure == Enclosure::FilledCircle;
-  SymbolOutline symbol{.path = {}, .rule = FillRule::EvenOdd};
+  SymbolOutline symbol{.path = {}, .rule = FillRule::evenOdd};
   appendRoundedSquare(symbol.path, 8, isRound ? 8 : 2);
   if (!isFilled) appendRoundedSquare(symbol.path, 7, isRound ? 7 : 1);
 

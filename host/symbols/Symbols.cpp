@@ -23,13 +23,13 @@ struct Found {
 PathCommand commandOf(char letter) {
   switch (letter) {
   case 'M':
-    return PathCommand::Move;
+    return PathCommand::move;
   case 'L':
-    return PathCommand::Line;
+    return PathCommand::line;
   case 'C':
-    return PathCommand::Cubic;
+    return PathCommand::cubic;
   default:
-    return PathCommand::Close;
+    return PathCommand::close;
   }
 }
 
@@ -96,7 +96,7 @@ std::optional<Found> known(std::string_view name) {
   if (const SymbolEntry* entry = entryOf(name)) {
     return Found{{.path = pathOf(*entry)}, entry->match};
   }
-  if (auto shape = inShape(name)) return Found{std::move(*shape), SymbolMatch::Composition};
+  if (auto shape = inShape(name)) return Found{std::move(*shape), SymbolMatch::composition};
   return std::nullopt;
 }
 
@@ -109,7 +109,7 @@ std::optional<Found> stripped(std::string_view name) {
     name = name.substr(0, end);
     // A letter alone would stand for anything.
     if (name.size() < 2) return std::nullopt;
-    if (auto found = known(name)) return Found{std::move(found->outline), SymbolMatch::Stripped};
+    if (auto found = known(name)) return Found{std::move(found->outline), SymbolMatch::stripped};
   }
 }
 
@@ -125,7 +125,7 @@ SymbolOutline fallback(std::string_view name) {
 Found find(std::string_view name) {
   if (auto found = known(name)) return std::move(*found);
   if (auto found = stripped(name)) return std::move(*found);
-  return {fallback(name), SymbolMatch::Fallback};
+  return {fallback(name), SymbolMatch::fallback};
 }
 
 } // namespace

@@ -185,7 +185,7 @@ void expectDrawable(const SymbolOutline& symbol, const std::string& name) {
   for (const PathCommand command : path.commands) {
     ASSERT_LE(next + pointCount(command), path.points.size()) << name;
     const PathPoint* point = path.points.data() + next;
-    if (command == PathCommand::Cubic) {
+    if (command == PathCommand::cubic) {
       const PathPoint start = point[-1];
       const PathPoint middle = {(start.x + 3 * point[0].x + 3 * point[1].x + point[2].x) / 8,
                                 (start.y + 3 * point[0].y + 3 * point[1].y + point[2].y) / 8};
@@ -206,7 +206,7 @@ TEST(Symbols, usedNames_areNeitherStrippedNorUnknown) {
   const Symbols symbols = makeSymbols();
   for (const std::string name : usedNames) {
     const SymbolMatch match = symbols.match(name);
-    EXPECT_TRUE(match == SymbolMatch::Alias || match == SymbolMatch::Composition) << name;
+    EXPECT_TRUE(match == SymbolMatch::alias || match == SymbolMatch::composition) << name;
     expectDrawable(symbols.outline(name), name);
   }
 }
@@ -215,17 +215,17 @@ TEST(Symbols, name_isFoundByItsNearestPicture) {
   const struct {
     const char* name;
     SymbolMatch match;
-  } cases[] = {{"gearshape", SymbolMatch::Alias},
-               {"heart.slash", SymbolMatch::Composition},
-               {"50.square.fill", SymbolMatch::Composition},
-               {"wind.circle", SymbolMatch::Composition},
-               {"gearshape.badge.questionmark", SymbolMatch::Stripped},
-               {"wind.fill", SymbolMatch::Stripped},
-               {"wind.slash.circle.fill", SymbolMatch::Stripped},
-               {"q.unheard.of", SymbolMatch::Fallback},
-               {"Nonsense", SymbolMatch::Fallback},
-               {".", SymbolMatch::Fallback},
-               {"", SymbolMatch::Fallback}};
+  } cases[] = {{"gearshape", SymbolMatch::alias},
+               {"heart.slash", SymbolMatch::composition},
+               {"50.square.fill", SymbolMatch::composition},
+               {"wind.circle", SymbolMatch::composition},
+               {"gearshape.badge.questionmark", SymbolMatch::stripped},
+               {"wind.fill", SymbolMatch::stripped},
+               {"wind.slash.circle.fill", SymbolMatch::stripped},
+               {"q.unheard.of", SymbolMatch::fallback},
+               {"Nonsense", SymbolMatch::fallback},
+               {".", SymbolMatch::fallback},
+               {"", SymbolMatch::fallback}};
   const Symbols symbols = makeSymbols();
   for (const auto& [name, match] : cases) {
     EXPECT_EQ(symbols.match(name), match) << name;
@@ -237,7 +237,7 @@ TEST(Symbols, filledShape_hasItsGlyphAsAHole) {
   const Symbols symbols = makeSymbols();
   const SymbolOutline ring = symbols.outline("y.circle");
   const SymbolOutline disc = symbols.outline("y.circle.fill");
-  EXPECT_EQ(disc.rule, FillRule::EvenOdd);
+  EXPECT_EQ(disc.rule, FillRule::evenOdd);
   // The ring's inner edge is what the disc lacks.
   EXPECT_LT(disc.path.commands.size(), ring.path.commands.size());
   EXPECT_NE(symbols.outline("y.circle.fill").path, symbols.outline("x.circle.fill").path);

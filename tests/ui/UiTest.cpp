@@ -80,12 +80,12 @@ UiTest::UiTest() {
   platform.symbols = {.outline =
                           [](const std::string&) {
                             SymbolOutline square;
-                            square.path.commands = {PathCommand::Move, PathCommand::Line,
-                                                    PathCommand::Line, PathCommand::Close};
+                            square.path.commands = {PathCommand::move, PathCommand::line,
+                                                    PathCommand::line, PathCommand::close};
                             square.path.points = {{0, 0}, {16, 0}, {16, 16}};
                             return square;
                           },
-                      .match = [](const std::string&) { return SymbolMatch::Alias; }};
+                      .match = [](const std::string&) { return SymbolMatch::alias; }};
   platform.widgetCenter.watchReloads = [](const std::function<void()>&) { return Subscription(); };
   defaults.values(Suite::standard)["last_used_app_version"] = std::string("2.2");
 }

@@ -18,22 +18,22 @@ qreal thickening(int weight) {
 
 QPainterPath painterPath(const Path& path, FillRule rule) {
   QPainterPath result;
-  result.setFillRule(rule == FillRule::EvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
+  result.setFillRule(rule == FillRule::evenOdd ? Qt::OddEvenFill : Qt::WindingFill);
   const auto point = [](PathPoint p) { return QPointF(p.x, p.y); };
   std::size_t next = 0;
   for (const PathCommand command : path.commands) {
     const PathPoint* points = path.points.data() + next;
     switch (command) {
-    case PathCommand::Move:
+    case PathCommand::move:
       result.moveTo(point(points[0]));
       break;
-    case PathCommand::Line:
+    case PathCommand::line:
       result.lineTo(point(points[0]));
       break;
-    case PathCommand::Cubic:
+    case PathCommand::cubic:
       result.cubicTo(point(points[0]), point(points[1]), point(points[2]));
       break;
-    case PathCommand::Close:
+    case PathCommand::close:
       result.closeSubpath();
       break;
     }
