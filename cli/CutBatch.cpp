@@ -123,11 +123,11 @@ Exit cutBatch(const CommandContext& context, const std::string& from, const std:
     if (json) {
       list.push_back({{"style", number},
                       {"name", name},
-                      {"files", cut->files.size()},
+                      {"files", writtenFiles(*cut)},
                       {"bytes", totalBytes(*cut)}});
     } else {
       std::printf("%3lld  %s  %zu files  %zu bytes\n", static_cast<long long>(number), name.c_str(),
-                  cut->files.size(), totalBytes(*cut));
+                  writtenFiles(*cut), totalBytes(*cut));
       std::fflush(stdout);
     }
   }

@@ -113,6 +113,9 @@ void checkUsage(const CutArguments& arguments, bool hasStyle) {
   if (!arguments.batch.empty()) {
     if (arguments.into.empty())
       throw CLI::RequiredError("--batch DIR also needs --into DIR, which");
+    if (!arguments.overview.empty()) {
+      throw CLI::ValidationError("--overview", "it goes with one style, not with --batch");
+    }
     if (hasStyle || hasScreenshot) {
       throw CLI::ValidationError("--batch", "it numbers and finds the screenshots itself");
     }

@@ -4,6 +4,7 @@
 #include "core/slicing/Measurements.h"
 #include "core/slicing/WallpaperInterface.h"
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <utility>
@@ -81,11 +82,11 @@ Result<CutStyle> cutScreenshots(const Platform& platform, const Screenshots& scr
   return cut;
 }
 
-Result<CutStyle> cutStyle(const Platform& platform, std::int64_t style,
+Result<CutStyle> cutStyle(const Platform& platform, std::int64_t number,
                           const Screenshots& screenshots) {
   const auto wallpaper = WallpaperInterface::shared(platform);
-  return cutScreenshots(platform, screenshots, [&](const Image& image, InterfaceStyle appearance) {
-    return wallpaper->setImage(image, appearance, style);
+  return cutScreenshots(platform, screenshots, [&](const Image& image, InterfaceStyle style) {
+    return wallpaper->setImage(image, style, number);
   });
 }
 
@@ -101,6 +102,11 @@ bool complainOf(const CutStyle& cut) {
     complete = false;
   }
   return complete;
+}
+
+std::size_t writtenFiles(const CutStyle& cut) {
+  return static_cast<std::size_t>(
+      std::ranges::count_if(cut.files, [](const StoredSlice& file) { return file.bytes.ok(); }));
 }
 
 std::size_t totalBytes(const CutStyle& cut) {

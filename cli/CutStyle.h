@@ -37,13 +37,14 @@ Result<CutStyle> cutScreenshots(const Platform& platform, const Screenshots& scr
                                 const StoreScreenshot& store);
 
 /// Cuts the given screenshots into the style.
-Result<CutStyle> cutStyle(const Platform& platform, std::int64_t style,
+Result<CutStyle> cutStyle(const Platform& platform, std::int64_t number,
                           const Screenshots& screenshots);
 
 /// Complains of all that went wrong or looks wrong; whether every file was written.
 bool complainOf(const CutStyle& cut);
 
-/// The files' sizes in bytes together.
+/// How many files were written, and their sizes in bytes together.
+std::size_t writtenFiles(const CutStyle& cut);
 std::size_t totalBytes(const CutStyle& cut);
 
 } // namespace vitrelle::cli

@@ -70,7 +70,11 @@ void addOptions(CLI::App& program, Options& options) {
   constexpr const char* group = "Options of every command";
   program
       .add_option_function<std::string>(
-          "--home", [&](const std::string& text) { options.home = text; },
+          "--home",
+          [&](const std::string& text) {
+            if (text.empty()) throw CLI::ValidationError("--home", "the folder has no name");
+            options.home = text;
+          },
           "The folder of all that is kept ($VITRELLE_HOME)")
       ->type_name("DIR")
       ->group(group);

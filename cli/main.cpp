@@ -7,6 +7,7 @@
 
 #include <cstdio>
 #include <exception>
+#include <iostream>
 #include <optional>
 #include <string>
 #include <vector>
@@ -71,6 +72,10 @@ int run(int argc, char** argv) {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     return complainOfUsage(program, error);
+  }
+  if (!std::cout.flush() || std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+    complain({"standard output", "not all of it could be written"});
+    return static_cast<int>(Exit::failed);
   }
   return static_cast<int>(context.exit);
 }

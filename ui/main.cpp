@@ -117,13 +117,14 @@ int run(int argc, char** argv) {
   std::unique_ptr<host::AppInstance> instance;
   if (interactive) {
     auto claimed = host::AppInstance::claim(options.home, loop);
-    if (claimed) {
-      instance = std::move(claimed).value();
-    } else {
+    const bool isClaimed = claimed.ok();
+    if (!isClaimed) {
       std::fprintf(stderr, "vitrelle-app: %s: %s\n", claimed.failure().what.c_str(),
                    claimed.failure().why.c_str());
+    } else {
+      instance = std::move(claimed).value();
     }
-    if (claimed && !instance) { // the one that runs comes to the front
+    if (isClaimed && !instance) { // the one that runs comes to the front
       const Links links = host::makeLinks(options.home);
       if (arguments.links.empty()) arguments.links.emplace_back();
       for (const std::string& link : arguments.links) {

@@ -11,13 +11,13 @@ namespace vitrelle {
 /// A view reads what it shows anew at each change; it is told of no details.
 class Screen {
  public:
+  Screen(const Screen&) = delete;
+  Screen& operator=(const Screen&) = delete;
   Subscription onChange(std::function<void()> view) { return views_.add(std::move(view)); }
 
  protected:
   Screen() = default;
   ~Screen() = default;
-  Screen(const Screen&) = delete;
-  Screen& operator=(const Screen&) = delete;
 
   void changed() const { views_.notify(); }
 

@@ -6,13 +6,15 @@
 #include <cstdlib>
 #include <cstring>
 
+#include <pwd.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace vitrelle::host {
 
 namespace {
 
-/// The variable's value when it holds an absolute path or one is not asked for.
+/// Empty when there is none.
 std::string environment(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? "" : value;
@@ -25,7 +27,9 @@ HomeFolder HomeFolder::ofUser() {
   const std::string data = environment("XDG_DATA_HOME");
   // A relative path there is to be ignored, by the rules of that variable.
   if (data.starts_with('/')) return HomeFolder(data + "/vitrelle");
-  return HomeFolder(environment("HOME") + "/.local/share/vitrelle");
+  std::string user = environment("HOME");
+  if (const passwd* entry = user.empty() ? getpwuid(geteuid()) : nullptr) user = entry->pw_dir;
+  return HomeFolder(user + "/.local/share/vitrelle");
 }
 
 std::string HomeFolder::groupFolder() const {

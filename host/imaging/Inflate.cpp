@@ -12,6 +12,9 @@ namespace {
 
 using namespace inflate;
 
+/// Bytes between two tellings: blocks may be tiny.
+constexpr std::size_t progressStep = std::size_t{64} << 10;
+
 /// The checksum of the output and how much of it there is, told as it comes.
 class Progress final {
  public:
@@ -24,6 +27,7 @@ class Progress final {
     summed_ = size;
     onProgress_(size);
   }
+  std::size_t size() const { return summed_; }
   std::uint32_t checksum() const { return checksum_; }
 
  private:
@@ -54,7 +58,8 @@ bool inflateBlocks(std::span<const std::uint8_t> deflated, std::uint8_t* out, st
     if (end == BlockEnd::damaged) return false;
     const auto done = static_cast<std::size_t>(inflation.out() - out);
     const std::size_t position = inflation.in().position();
-    progress.advance(done);
+    if (done - progress.size() >= progressStep || end == BlockEnd::lastBlock)
+      progress.advance(done);
     if (end == BlockEnd::lastBlock) {
       return done == size && isFollowedBy(progress.checksum(), deflated, position);
     }
@@ -70,8 +75,8 @@ bool inflateBlocks(std::span<const std::uint8_t> deflated, std::uint8_t* out, st
 
 bool inflateZlib(std::span<const std::uint8_t> stream, std::uint8_t* out, std::size_t size,
                  const std::function<void(std::size_t)>& onProgress) {
-  // Method deflate, no preset dictionary, a header divisible by 31.
-  if (stream.size() < 6 || (stream[0] & 15) != 8 || (stream[1] & 32) != 0 ||
+  // Method deflate, a window of 32 KiB at most, no preset dictionary, a header divisible by 31.
+  if (stream.size() < 6 || (stream[0] & 15) != 8 || stream[0] >> 4 > 7 || (stream[1] & 32) != 0 ||
       (stream[0] * 256 + stream[1]) % 31 != 0) {
     return false;
   }

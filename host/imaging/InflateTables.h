@@ -87,9 +87,10 @@ inline constexpr auto distanceMeanings = [] {
 template <int primaryBits, std::size_t symbols>
 class CodeTable final {
  public:
-  /// False for lengths that make no complete code. A single code of one bit is let through, which
-  /// deflate allows for distances.
-  bool build(std::span<const std::uint8_t> lengths, const std::array<Entry, symbols>& meanings) {
+  /// False for lengths that make no complete code. None at all is let through, and fails when one
+  /// is looked for; and so is, except among the lengths' own codes, a single code of one bit.
+  bool build(std::span<const std::uint8_t> lengths, const std::array<Entry, symbols>& meanings,
+             bool allowsSingle = true) {
     std::uint32_t room = 1U << longestCode;
     std::size_t used = 0;
     for (const std::uint8_t length : lengths) {
@@ -99,7 +100,8 @@ class CodeTable final {
       room -= taken;
       ++used;
     }
-    if (room != 0 && used > 1) return false;
+    const bool single = used == 1 && room == 1U << (longestCode - 1);
+    if (room != 0 && used != 0 && !(single && allowsSingle)) return false;
     if (room != 0) std::ranges::fill(entries_, Entry{0});
 
     std::array<std::uint16_t, symbols> codes{};

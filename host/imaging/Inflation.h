@@ -107,13 +107,15 @@ class Inflation final {
   }
 
   bool buildFixedCodes() {
+    if (hasFixedCodes_) return true; // a file may hold millions of such blocks, all empty
     std::array<std::uint8_t, literalSymbols> lengths{};
     for (std::size_t i = 0; i < literalSymbols; ++i) {
       lengths[i] = i < 144 ? 8 : i < 256 ? 9 : i < 280 ? 7 : 8;
     }
     std::array<std::uint8_t, distanceSymbols> distances{};
     distances.fill(5);
-    return literals_.build(lengths) && distances_.build(distances, distanceMeanings);
+    hasFixedCodes_ = literals_.build(lengths) && distances_.build(distances, distanceMeanings);
+    return hasFixedCodes_;
   }
 
   /// The codes of a block, whose lengths are themselves coded.
@@ -135,7 +137,7 @@ class Inflation final {
         meanings[i] = literalEntry(i, 1, 0);
       return meanings;
     }();
-    if (!items_.build(itemLengths, itemMeanings)) return false;
+    if (!items_.build(itemLengths, itemMeanings, false)) return false;
 
     std::array<std::uint8_t, literalSymbols + distanceSymbols> lengths{};
     const std::size_t count = literalCount + distanceCount;
@@ -158,6 +160,7 @@ class Inflation final {
       for (; repeats > 0; --repeats)
         lengths[i++] = length;
     }
+    hasFixedCodes_ = false;
     const std::span all(lengths);
     return lengths[256] != 0 && literals_.build(all.first(literalCount)) &&
            distances_.build(all.subspan(literalCount, distanceCount), distanceMeanings);
@@ -244,6 +247,7 @@ class Inflation final {
   LiteralTable literals_;
   CodeTable<8, distanceSymbols> distances_;
   CodeTable<7, 19> items_;
+  bool hasFixedCodes_ = false; ///< the tables are those of blocks without codes of their own
 };
 
 } // namespace vitrelle::host::inflate

@@ -23,8 +23,12 @@ void inParallel(std::size_t count, MakeWorker makeWorker) {
   };
   const std::size_t cores = std::max(std::thread::hardware_concurrency(), 1U);
   std::vector<std::jthread> others;
-  for (std::size_t i = 1; i < std::min(cores, count); ++i)
-    others.emplace_back(work);
+  try {
+    for (std::size_t i = 1; i < std::min(cores, count); ++i)
+      others.emplace_back(work);
+  } catch (const std::system_error&) {
+    // The system has no more threads; those there are do it all.
+  }
   work();
 }
 

@@ -180,6 +180,7 @@ Result<PngHeader> readPngHeader(std::span<const std::uint8_t> bytes) {
   const std::int64_t width = readBigEndian32(fields);
   const std::int64_t height = readBigEndian32(fields + 4);
   if (!withinBounds(width, height)) return refused(boundsComplaint(width, height));
+  if (fields[10] != 0 || fields[11] != 0) return refused("it is compressed in an unknown way");
   return PngHeader{.size = {static_cast<std::int32_t>(width), static_cast<std::int32_t>(height)},
                    .bitDepth = fields[8],
                    .colourType = fields[9],

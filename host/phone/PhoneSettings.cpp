@@ -26,7 +26,8 @@ PhoneChoice savedChoice(const HomeFolder& home) {
     if (equals == std::string::npos) continue;
     const std::string key = line.substr(0, equals);
     const std::string value = line.substr(equals + 1);
-    if (key == "identifier" && !value.empty()) choice.identifier = value;
+    const bool printable = std::ranges::all_of(value, [](char c) { return c > ' ' && c <= '~'; });
+    if (key == "identifier" && !value.empty() && printable) choice.identifier = value;
     if (key == "zoomed") choice.zoomed = value == "true";
     long long major = 0;
     long long minor = 0;

@@ -73,8 +73,8 @@ void appendRoundedSquare(Path& path, double halfSide, double radius) {
 
 SymbolOutline enclosed(const Path& glyph, Enclosure enclosure) {
   const bool isFilled =
-      enclosure == Enclosure::FilledCircle || enclosure == Enclosure::FilledSquare;
-  const bool isRound = enclosure == Enclosure::Circle || enclosure == Enclosure::FilledCircle;
+      enclosure == Enclosure::filledCircle || enclosure == Enclosure::filledSquare;
+  const bool isRound = enclosure == Enclosure::circle || enclosure == Enclosure::filledCircle;
   SymbolOutline symbol{.path = {}, .rule = FillRule::evenOdd};
   appendRoundedSquare(symbol.path, 8, isRound ? 8 : 2);
   if (!isFilled) appendRoundedSquare(symbol.path, 7, isRound ? 7 : 1);

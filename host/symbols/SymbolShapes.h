@@ -7,7 +7,7 @@
 
 namespace vitrelle::host {
 
-enum class Enclosure { Circle, FilledCircle, Square, FilledSquare };
+enum class Enclosure { circle, filledCircle, square, filledSquare };
 
 /// The glyph within the shape, knocked out of a filled one.
 SymbolOutline enclosed(const Path& glyph, Enclosure enclosure);

@@ -80,10 +80,10 @@ std::optional<Path> glyph(std::string_view name) {
 
 std::optional<SymbolOutline> inShape(std::string_view name) {
   constexpr std::array<std::pair<std::string_view, Enclosure>, 4> shapes = {
-      {{".circle", Enclosure::Circle},
-       {".circle.fill", Enclosure::FilledCircle},
-       {".square", Enclosure::Square},
-       {".square.fill", Enclosure::FilledSquare}}};
+      {{".circle", Enclosure::circle},
+       {".circle.fill", Enclosure::filledCircle},
+       {".square", Enclosure::square},
+       {".square.fill", Enclosure::filledSquare}}};
   for (const auto& [ending, enclosure] : shapes) {
     std::string_view rest = name;
     if (!dropEnding(rest, ending)) continue;
@@ -119,7 +119,7 @@ SymbolOutline fallback(std::string_view name) {
   const char lower = letter == name.end()
                          ? 'x'
                          : static_cast<char>(std::tolower(static_cast<unsigned char>(*letter)));
-  return enclosed(spelling({&lower, 1}).value_or(Path{}), Enclosure::Square);
+  return enclosed(spelling({&lower, 1}).value_or(Path{}), Enclosure::square);
 }
 
 Found find(std::string_view name) {

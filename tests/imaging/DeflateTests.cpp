@@ -158,5 +158,51 @@ TEST(Inflate, damagedShortOrOtherSized_isRefused) {
   }
 }
 
+TEST(Inflate, codesThatDeflateForbids_areRefused) {
+  // Bits from the lowest, as a stream has them: a last block with codes of its own whose only
+  // distance code is of so many bits; literals 0 and 256 have one bit each.
+  const auto stream = [](unsigned distanceBits) {
+    std::vector<bool> bits;
+    const auto put = [&](unsigned value, unsigned count) {
+      for (unsigned i = 0; i < count; ++i)
+        bits.push_back((value >> i & 1) != 0);
+    };
+    put(1, 1), put(2, 2), put(0, 5), put(0, 5), put(14, 4);
+    // Lengths of the lengths' codes in their order: 18 takes one bit, 1 and the distance's two.
+    const unsigned order[] = {16, 17, 18, 0, 8, 7, 9, 6, 10, 5, 11, 4, 12, 3, 13, 2, 14, 1};
+    for (const unsigned item : order)
+      put(item == 18                                                 ? 1
+          : item == 1 || (distanceBits != 1 && item == distanceBits) ? 2
+          : item == 0 && distanceBits == 1                           ? 2
+                                                                     : 0,
+          3);
+    // Canonical: 18 is 0; of the two others the smaller is 10, the larger 11, the first bit first.
+    const unsigned other = distanceBits == 1 ? 0 : distanceBits;
+    const auto item = [&](unsigned value) {
+      if (value == 18) return put(0, 1);
+      put(1, 1);
+      put(value == std::max(1U, other) ? 1 : 0, 1);
+    };
+    item(1), item(18), put(138 - 11, 7), item(18), put(117 - 11, 7), item(1), item(distanceBits);
+    put(1, 1); // the end of the block
+    Bytes bytes = {0x78, 0x01};
+    for (std::size_t i = 0; i < bits.size(); ++i) {
+      if (i % 8 == 0) bytes.push_back(0);
+      if (bits[i]) bytes.back() |= static_cast<std::uint8_t>(1U << i % 8);
+    }
+    for (const std::uint8_t byte : Bytes{0, 0, 0, 1}) // the checksum of nothing
+      bytes.push_back(byte);
+    return bytes;
+  };
+  Bytes nothing(pixelBufferSlack);
+  EXPECT_TRUE(inflateZlib(stream(1), nothing.data(), 0));
+  for (const unsigned bits : {2U, 3U, 9U})
+    EXPECT_FALSE(inflateZlib(stream(bits), nothing.data(), 0)) << bits;
+  Bytes window = stream(1);
+  window[0] = 0x88;
+  window[1] = 0x1C; // divisible by 31 together
+  EXPECT_FALSE(inflateZlib(window, nothing.data(), 0));
+}
+
 } // namespace
 } // namespace vitrelle::host
