@@ -175,12 +175,18 @@ constexpr std::array<ValueType, 6> valueTypes{{
 // The commands.
 
 struct DefaultsArguments {
+  explicit DefaultsArguments(const Options& global) : everyCommand(global) {}
+
+  const Options& everyCommand;
   bool standard = false;
   bool json = false;
   std::string key;
   std::optional<StoreValue> value;
 
-  Suite suite() const { return standard ? Suite::standard : Suite::group; }
+  /// Before the command's name --standard is the display's setting, which no store depends on.
+  Suite suite() const {
+    return standard || everyCommand.standardTold ? Suite::standard : Suite::group;
+  }
 };
 
 Exit failed(const Failure& failure) {
@@ -295,7 +301,7 @@ void addTypedOptions(CLI::App& write, const std::shared_ptr<DefaultsArguments>& 
 } // namespace
 
 void addDefaultsCommand(CLI::App& program, CommandContext& context) {
-  const auto options = std::make_shared<DefaultsArguments>();
+  const auto options = std::make_shared<DefaultsArguments>(context.options);
   CLI::App* defaults = program.add_subcommand("defaults", "Read, write and watch the group store");
   defaults->fallthrough()->require_subcommand(1);
   defaults->add_flag("--standard", options->standard,

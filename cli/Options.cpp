@@ -105,6 +105,7 @@ void addOptions(CLI::App& program, Options& options) {
             [&options, zoomed] {
               options.zoomed = zoomed;
               options.phoneTold = true;
+              options.standardTold = !zoomed;
             },
             description)
         ->group(group);

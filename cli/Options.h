@@ -20,6 +20,8 @@ struct Options {
   std::optional<Appearance> appearance;
   bool verbose = false;
 
+  /// Whether --standard stood on the command line, which `defaults` takes for its own.
+  bool standardTold = false;
   /// Which of the phone's settings stood on the command line itself.
   bool phoneTold = false;
 };

@@ -3,7 +3,10 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cstdlib>
 #include <fstream>
+
+#include <sys/wait.h>
 
 namespace vitrelle {
 namespace {
@@ -48,6 +51,25 @@ TEST_F(CommandTest, options_goBeforeOrAfterTheCommand) {
   ASSERT_EQ(run({"--home", other, "defaults", "write", "selectedConfig", "-int", "4"}).status, 0);
   EXPECT_EQ(run({"defaults", "read", "selectedConfig", "--home", other}).output, "4\n");
   EXPECT_EQ(run({"defaults", "read", "selectedConfig"}).status, 1);
+}
+
+TEST_F(CommandTest, standard_namesTheOwnDefaultsWhereverItStands) {
+  ASSERT_EQ(run({"--standard", "defaults", "write", "destination", "-string", "there"}).status, 0);
+  for (const std::vector<std::string>& arguments :
+       {std::vector<std::string>{"--standard", "defaults", "read", "destination"},
+        {"defaults", "--standard", "read", "destination"},
+        {"defaults", "read", "destination", "--standard"}}) {
+    EXPECT_EQ(run(arguments).output, "there\n");
+  }
+  EXPECT_EQ(run({"defaults", "read", "destination"}).status, 1);
+}
+
+TEST_F(CommandTest, lostOutputAndEmptyHome_areFailures) {
+  const std::string program = VITRELLE_PROGRAM " phones --json > /dev/full 2> /dev/null";
+  EXPECT_EQ(WEXITSTATUS(std::system(program.c_str())), 1);
+  const Outcome outcome = run({"--home", "", "phone"});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_NE(outcome.complaints.find("--home"), std::string::npos) << outcome.complaints;
 }
 
 TEST_F(CommandTest, defaultsAndRecords_shareTheStore) {

@@ -37,9 +37,13 @@ FocusScope {
             onPressed: page.closed()
         }
         Label {
+            // In the middle where there is room, else beside the way back.
+            readonly property real side: page.hasBack ? back.width + 24 : 12
+            readonly property bool fits: implicitWidth <= parent.width - 2 * side
+
             anchors.verticalCenter: parent.verticalCenter
-            anchors.horizontalCenter: parent.horizontalCenter
-            width: parent.width - 2 * (back.width + 24)
+            x: side
+            width: parent.width - side - (fits ? side : 12)
             horizontalAlignment: Text.AlignHCenter
             elide: Text.ElideRight
             wrapMode: Text.NoWrap
