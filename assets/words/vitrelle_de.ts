@@ -9,7 +9,7 @@
     </message>
     <message id="PZSub">
         <source></source>
-        <translation>Ausgeschaltet läuft das Hintergrundbild hinter deinen Widgets weiter.</translation>
+        <translation>Schalte ihn aus, und das Hintergrundbild geht hinter deinen Widgets weiter.</translation>
     </message>
     <message id="AboutPZ">
         <source></source>
@@ -17,7 +17,7 @@
     </message>
     <message id="AboutPZD">
         <source></source>
-        <translation>Mit dem Perspektivzoom zeichnet das Telefon das Hintergrundbild etwas größer und verschiebt es, wenn du es neigst. Ein Widget zeigt einen festen Ausschnitt davon, und beide passen nicht mehr zueinander. Öffne die Einstellungen, wähle das Hintergrundbild und schalte den Effekt in der Vorschau aus: Dann passt jeder Ausschnitt an seinen Platz.</translation>
+        <translation>Mit dem Perspektivzoom zeichnet das Telefon das Hintergrundbild etwas größer und verschiebt es, wenn du das Gerät neigst. Ein Widget zeigt einen festen Ausschnitt davon, und beide passen nicht mehr zueinander. Öffne die Einstellungen, wähle das Hintergrundbild und schalte den Effekt in der Vorschau aus: Dann passt jeder Ausschnitt an seinen Platz.</translation>
     </message>
     <message id="app.close">
         <source></source>
