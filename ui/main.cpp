@@ -21,6 +21,7 @@
 #include <cstdlib>
 #include <exception>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -100,87 +101,98 @@ int takeScreenshot(ui::Shell& shell, const std::string& file) {
   return 0;
 }
 
+/// The application that runs already takes the links and comes to the front; the exit status.
+int handOver(const host::HomeFolder& home, std::vector<std::string> links) {
+  if (links.empty()) links.emplace_back();
+  for (const std::string& link : links) {
+    const Result<bool> sent = host::makeLinks(home).send(link);
+    if (sent && *sent) continue;
+    std::fprintf(stderr, "vitrelle-app: %s: the application that runs did not take it\n",
+                 link.c_str());
+    return 1;
+  }
+  return 0;
+}
+
+/// None follows the desktop, which a screenshot does not.
+std::optional<ui::Appearance> appearanceOf(const Arguments& arguments) {
+  if (arguments.options.appearance == cli::Appearance::dark) return ui::Appearance::dark;
+  if (arguments.options.appearance || !arguments.screenshot.empty()) return ui::Appearance::light;
+  return std::nullopt;
+}
+
+/// The window, from its start to its end. `instance` may be null: then no links come in.
+int runWindow(const Arguments& arguments, const host::EventLoop& loop,
+              host::AppInstance* instance) {
+  const bool interactive = arguments.screenshot.empty();
+  ui::Shell* shell = nullptr; // what happens before there is one has nobody to tell it to
+  bool suspended = false;
+  Platform platform = ui::withTroubleTold(
+      host::makePlatform(hostOptions(arguments.options), loop), [&](const Failure& failure) {
+        if (shell == nullptr) return;
+        shell->showNotice(qtTrId("app.store.readOnly")
+                              .arg(QString::fromStdString(failure.what + ": " + failure.why)));
+      });
+  platform.application.suspend = [&] {
+    suspended = true; // a hidden window does not end the program
+    if (shell != nullptr && shell->window() != nullptr) shell->window()->hide();
+  };
+
+  AppDelegate(platform).didFinishLaunching();
+  const SceneDelegate scene(platform);
+  if (interactive) {
+    std::vector<Link> links;
+    for (const std::string& link : arguments.links)
+      links.push_back(Link::parse(link));
+    scene.willConnect(links);
+  }
+
+  ui::Shell theShell(platform, {.appearance = appearanceOf(arguments),
+                                .screen = QString::fromStdString(arguments.screen),
+                                .framed = interactive,
+                                .animated = interactive});
+  shell = &theShell;
+  if (!theShell.open()) return 1;
+  if (!interactive) return takeScreenshot(theShell, arguments.screenshot);
+
+  if (suspended) theShell.window()->hide();
+  QObject::connect(theShell.window(), &QQuickWindow::sceneGraphError, qGuiApp,
+                   [](QQuickWindow::SceneGraphError, const QString& message) {
+                     std::fprintf(stderr, "vitrelle-app: drawing: %s\n", qPrintable(message));
+                     QCoreApplication::exit(1);
+                   });
+  if (instance != nullptr) {
+    instance->onLink([&](const std::string& url) {
+      theShell.raise();
+      const Link link = Link::parse(url);
+      if (!url.empty()) scene.openLinks({&link, 1});
+    });
+  }
+  return QCoreApplication::exec();
+}
+
 int run(int argc, char** argv) {
   Arguments arguments;
   parse(argc, argv, arguments);
   prepareQt(arguments);
-  QGuiApplication application(argc, argv);
+  const QGuiApplication application(argc, argv);
   QGuiApplication::setApplicationName(QStringLiteral("Vitrelle"));
   QGuiApplication::setDesktopFileName(QStringLiteral("vitrelle"));
   QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/app-icon.svg")));
   QTranslator translator;
   ui::installWords(translator, QLocale());
 
-  const host::HostOptions options = hostOptions(arguments.options);
   const host::EventLoop loop = host::makeQtLoop();
-  const bool interactive = arguments.screenshot.empty();
-  std::unique_ptr<host::AppInstance> instance;
-  if (interactive) {
-    auto claimed = host::AppInstance::claim(options.home, loop);
-    const bool isClaimed = claimed.ok();
-    if (!isClaimed) {
-      std::fprintf(stderr, "vitrelle-app: %s: %s\n", claimed.failure().what.c_str(),
-                   claimed.failure().why.c_str());
-    } else {
-      instance = std::move(claimed).value();
-    }
-    if (isClaimed && !instance) { // the one that runs comes to the front
-      const Links links = host::makeLinks(options.home);
-      if (arguments.links.empty()) arguments.links.emplace_back();
-      for (const std::string& link : arguments.links) {
-        if (!links.send(link)) return 1;
-      }
-      return 0;
-    }
+  if (!arguments.screenshot.empty()) return runWindow(arguments, loop, nullptr);
+  const host::HomeFolder home = hostOptions(arguments.options).home;
+  const auto instance = host::AppInstance::claim(home, loop);
+  if (!instance) { // such as a home that can't be written to; it can still be looked at
+    std::fprintf(stderr, "vitrelle-app: %s: %s\n", instance.failure().what.c_str(),
+                 instance.failure().why.c_str());
+    return runWindow(arguments, loop, nullptr);
   }
-
-  ui::Shell* shell = nullptr;
-  Platform platform =
-      ui::withTroubleTold(host::makePlatform(options, loop), [&](const Failure& failure) {
-        if (shell == nullptr) return;
-        shell->showNotice(qtTrId("app.store.readOnly")
-                              .arg(QString::fromStdString(failure.what + ": " + failure.why)));
-      });
-  platform.application.suspend = [&] {
-    if (shell != nullptr && shell->window() != nullptr) shell->window()->hide();
-  };
-
-  AppDelegate(platform).didFinishLaunching();
-  const SceneDelegate scene(platform);
-  std::vector<Link> links;
-  for (const std::string& link : arguments.links)
-    links.push_back(Link::parse(link));
-
-  std::optional<ui::Appearance> appearance;
-  if (arguments.options.appearance) {
-    appearance = *arguments.options.appearance == cli::Appearance::dark ? ui::Appearance::dark
-                                                                        : ui::Appearance::light;
-  } else if (!interactive) {
-    appearance = ui::Appearance::light;
-  }
-  ui::Shell shellObject(platform, {.appearance = appearance,
-                                   .screen = QString::fromStdString(arguments.screen),
-                                   .framed = interactive,
-                                   .animated = interactive});
-  shell = &shellObject;
-  if (!shellObject.open()) return 1;
-  if (!interactive) return takeScreenshot(shellObject, arguments.screenshot);
-
-  // A widget's tap may hide the window at once; hidden, it does not end the program.
-  scene.willConnect(links);
-  QObject::connect(shellObject.window(), &QQuickWindow::sceneGraphError, &application,
-                   [](QQuickWindow::SceneGraphError, const QString& message) {
-                     std::fprintf(stderr, "vitrelle-app: drawing: %s\n", qPrintable(message));
-                     QCoreApplication::exit(1);
-                   });
-  if (instance) {
-    instance->onLink([&](const std::string& url) {
-      shellObject.raise();
-      const Link link = Link::parse(url);
-      if (!url.empty()) scene.openLinks({&link, 1});
-    });
-  }
-  return QCoreApplication::exec();
+  if (*instance == nullptr) return handOver(home, arguments.links);
+  return runWindow(arguments, loop, instance->get());
 }
 
 } // namespace

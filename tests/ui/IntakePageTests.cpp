@@ -44,6 +44,24 @@ TEST_F(IntakePageTest, newStyle_isPastedListedAndChanged) {
   EXPECT_EQ(folder.written.back(), "0bottomLargeDark.png");
 }
 
+TEST_F(IntakePageTest, pressingAHalf_opensThePickerAndCancellingItHarmsNothing) {
+  setNumber("amountOfConfigs", 0);
+  open();
+  driver->click("createCard");
+  driver->click("darkCell");
+  const auto picking = [&] {
+    const auto* intake = driver->find("intakePage")->property("intake").value<QObject*>();
+    return intake->property("pickerOpen").toBool();
+  };
+  EXPECT_TRUE(picking());
+  EXPECT_EQ(number("amountOfConfigs"), 1);
+  QTest::qWait(100); // the dialog comes up
+  driver->key(Qt::Key_Escape);
+  EXPECT_TRUE(driver->eventually([&] { return !picking(); }));
+  EXPECT_TRUE(folder.written.empty());
+  EXPECT_EQ(console.reloads, 2) << "the launch's and the cancelled picker's";
+}
+
 TEST_F(IntakePageTest, halfAStyle_isTakenBackOnLeaving) {
   setNumber("amountOfConfigs", 0);
   open();

@@ -23,7 +23,7 @@ class Driver final {
   void click(const QString& objectName, Qt::MouseButton button = Qt::LeftButton) const;
   void drag(QPoint from, int distance) const;
   void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
-  /// Runs the event loop until it is so, for two seconds at most.
+  /// Runs the event loop until it is so, for a while at most.
   static bool eventually(const std::function<bool()>& isSo);
 
  private:
