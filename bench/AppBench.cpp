@@ -52,8 +52,6 @@ ui::ShellOptions options() {
 
 /// Ends with the first frame that has a picture in it.
 int start(QGuiApplication& application, const QString& home) {
-  QTranslator words;
-  ui::installWords(words, QLocale::c());
   const Platform platform = platformOver(home);
   ui::Shell shell(platform, options());
   if (!shell.open()) return 1;
@@ -130,6 +128,8 @@ int main(int argc, char** argv) {
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   QQuickStyle::setStyle(QStringLiteral("Basic"));
   QGuiApplication application(argc, argv);
+  QTranslator words;
+  ui::installWords(words, QLocale::c());
   const QStringList arguments = QCoreApplication::arguments().mid(1);
   if (arguments.value(0) == QStringLiteral("--start")) return start(application, arguments[1]);
   if (arguments.value(0) == QStringLiteral("--empty")) return startEmpty(application);

@@ -12,8 +12,10 @@ namespace {
 
 using namespace inflate;
 
-/// Bytes between two tellings: blocks may be tiny.
-constexpr std::size_t progressStep = std::size_t{64} << 10;
+/// Bytes that are summed at a time: blocks may be tiny, and what is summed still in the cache.
+constexpr std::size_t summedStep = std::size_t{64} << 10;
+/// Bytes between two tellings: each wakes a thread that would push others off their cores.
+constexpr std::size_t toldStep = std::size_t{2} << 20;
 
 /// The checksum of the output and how much of it there is, told as it comes.
 class Progress final {
@@ -21,11 +23,15 @@ class Progress final {
   Progress(const std::uint8_t* start, const std::function<void(std::size_t)>& onProgress)
       : start_(start), onProgress_(onProgress) {}
 
-  /// Summed at once, for whoever is told of bytes may change them.
+  /// Summed first, for whoever is told of bytes may change them.
   void advance(std::size_t size) {
     checksum_ = libdeflate_adler32(checksum_, start_ + summed_, size - summed_);
     summed_ = size;
-    onProgress_(size);
+    if (summed_ - told_ >= toldStep) finish();
+  }
+  void finish() {
+    told_ = summed_;
+    onProgress_(told_);
   }
   std::size_t size() const { return summed_; }
   std::uint32_t checksum() const { return checksum_; }
@@ -34,6 +40,7 @@ class Progress final {
   const std::uint8_t* start_;
   const std::function<void(std::size_t)>& onProgress_;
   std::size_t summed_ = 0;
+  std::size_t told_ = 0;
   std::uint32_t checksum_ = 1;
 };
 
@@ -58,15 +65,19 @@ bool inflateBlocks(std::span<const std::uint8_t> deflated, std::uint8_t* out, st
     if (end == BlockEnd::damaged) return false;
     const auto done = static_cast<std::size_t>(inflation.out() - out);
     const std::size_t position = inflation.in().position();
-    if (done - progress.size() >= progressStep || end == BlockEnd::lastBlock)
-      progress.advance(done);
+    if (done - progress.size() >= summedStep || end == BlockEnd::lastBlock) progress.advance(done);
     if (end == BlockEnd::lastBlock) {
+      progress.finish();
       return done == size && isFollowedBy(progress.checksum(), deflated, position);
     }
     if (const auto rest = ahead.reached(position)) {
-      return rest->size == size - done && ahead.write(inflation.out(), done, [&](std::size_t more) {
-        progress.advance(done + more);
-      }) && isFollowedBy(progress.checksum(), deflated, rest->endPosition);
+      if (rest->size != size - done || !ahead.write(inflation.out(), done, [&](std::size_t more) {
+            progress.advance(done + more);
+          })) {
+        return false;
+      }
+      progress.finish();
+      return isFollowedBy(progress.checksum(), deflated, rest->endPosition);
     }
   }
 }
