@@ -61,7 +61,7 @@ bool isOpen(std::uint16_t unit) {
 } // namespace
 
 InflateAhead::InflateAhead(std::span<const std::uint8_t> deflated, std::size_t size)
-    : deflated_(deflated), size_(size), firstSought_(deflated.size() * 4) {
+    : deflated_(deflated), size_(size), firstSought_(deflated.size() * 5) {
   const bool worthwhile = deflated.size() >= std::max(worthwhileBytes, size / worthwhileShrinking);
   if (!worthwhile || std::thread::hardware_concurrency() < 2) return;
   try {
