@@ -255,6 +255,9 @@ Exit watch(const CommandContext& context, const Platform& platform,
     }
   };
   if (!options.key.empty()) {
+    // A watch alone shows a store that can't be read as one without values.
+    const auto value = platform.defaults.value(suite, options.key);
+    if (!value) return failed(value.failure());
     subscription = platform.defaults.watch(
         suite, options.key, [&](const auto& value) { printChange(options, options.key, value); });
   } else {

@@ -64,6 +64,13 @@ TEST_F(CommandTest, standard_namesTheOwnDefaultsWhereverItStands) {
   EXPECT_EQ(run({"defaults", "read", "destination"}).status, 1);
 }
 
+TEST_F(CommandTest, watchOfADamagedStore_isAFailure) {
+  ASSERT_EQ(run({"defaults", "write", "selectedConfig", "-int", "1"}).status, 0);
+  std::ofstream(home() + "/group.quillmeresoftware.vitrelle.sqlite") << std::string(8192, 'x');
+  EXPECT_EQ(run({"defaults", "watch", "selectedConfig"}).status, 1);
+  EXPECT_EQ(run({"defaults", "watch"}).status, 1);
+}
+
 TEST_F(CommandTest, lostOutputAndEmptyHome_areFailures) {
   const std::string program = VITRELLE_PROGRAM " phones --json > /dev/full 2> /dev/null";
   EXPECT_EQ(WEXITSTATUS(std::system(program.c_str())), 1);
