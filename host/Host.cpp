@@ -10,8 +10,10 @@
 #include <cstdio>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace vitrelle::host {
 
@@ -33,6 +35,14 @@ DebugConsole makeDebugConsole(bool verbose) {
   }};
 }
 
+/// Programs that draw put theirs in its place: it takes libraries that the others do without.
+Drawing noDrawing() {
+  return {.textSize = [](const std::string&, const Font&, const PointSize&) { return PointSize(); },
+          .render = [](std::span<const DisplayList>, const PointRect&, double) -> Result<Image> {
+            return Failure{"drawing", "this program does not draw"};
+          }};
+}
+
 } // namespace
 
 Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
@@ -42,7 +52,7 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .defaults = makeSqliteDefaults(home.path(), loop),
       .files = home.files(),
       .images = makeImages(home),
-      .device = makeDevice(phone),
+      .device = makeDevice(phone, options.dark),
       .phoneBook = makePhoneBook(home, phone),
       .widgetCenter = makeWidgetCenter(home, loop),
       .bundle = {
@@ -57,7 +67,9 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       // A desktop has nothing to be felt, and there is no advertising kit for it.
       .haptics = {.success = [] {}, .error = [] {}, .lightImpact = [] {}},
       .bannerKit = {.start = [] {}, .load = [](const BannerRequest&, const BannerDelegate&) {}},
-      .symbols = makeSymbols()};
+      .symbols = makeSymbols(),
+      .drawing = noDrawing(),
+      .fonts = {.families = [] { return std::vector<FontFamily>(); }}};
 }
 
 } // namespace vitrelle::host

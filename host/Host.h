@@ -11,6 +11,7 @@ namespace vitrelle::host {
 struct HostOptions {
   HomeFolder home;
   PhoneOverrides phone;
+  bool dark = false;    ///< the appearance
   bool verbose = false; ///< the debug console goes to stderr, else nowhere
 };
 

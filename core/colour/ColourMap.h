@@ -4,7 +4,7 @@
 #pragma once
 
 #include "core/colour/ColourHistogram.h"
-#include "core/colour/PlatformColour.h"
+#include "core/platform/PlatformColour.h"
 
 #include <array>
 #include <cstdint>

@@ -1,6 +1,8 @@
 // The phone: which one it is, what it runs, how its screen is set.
 #pragma once
 
+#include "core/platform/Geometry.h"
+
 #include <array>
 #include <cstdint>
 #include <functional>
@@ -19,12 +21,6 @@ struct OsVersion {
   auto operator<=>(const OsVersion&) const = default;
 };
 
-struct PointSize {
-  double width = 0;
-  double height = 0;
-  bool operator==(const PointSize&) const = default;
-};
-
 struct Device {
   std::function<MachineField()> machine;
   std::function<std::optional<std::string>(const std::string& name)> environment;
@@ -34,6 +30,9 @@ struct Device {
   std::function<PointSize()> screenBounds;
   std::function<double()> screenScale;
   std::function<double()> screenNativeScale;
+
+  /// The appearance that screens are drawn in now, as the platform numbers it: 1 light, 2 dark.
+  std::function<std::int64_t()> userInterfaceStyle;
 };
 
 } // namespace vitrelle

@@ -8,7 +8,9 @@
 #include "core/platform/DebugConsole.h"
 #include "core/platform/Defaults.h"
 #include "core/platform/Device.h"
+#include "core/platform/Drawing.h"
 #include "core/platform/Files.h"
+#include "core/platform/Fonts.h"
 #include "core/platform/Haptics.h"
 #include "core/platform/Images.h"
 #include "core/platform/Links.h"
@@ -37,6 +39,8 @@ struct Platform {
   Haptics haptics;
   BannerKit bannerKit;
   Symbols symbols;
+  Drawing drawing;
+  Fonts fonts;
 
   /// What is made once per platform, such as the device name.
   SharedInstances shared = {};

@@ -75,7 +75,7 @@ PhoneBook makePhoneBook(const HomeFolder& home, const PhoneChoice& choice) {
           .save = [home](const PhoneChoice& chosen) { return saveChoice(home, chosen); }};
 }
 
-Device makeDevice(const PhoneChoice& choice) {
+Device makeDevice(const PhoneChoice& choice, bool dark) {
   const PhoneModel model = phoneModel(choice.identifier);
   const ScreenMode screen = choice.zoomed ? model.zoomed : model.standard;
   return {.machine = machineOfThisComputer,
@@ -88,7 +88,8 @@ Device makeDevice(const PhoneChoice& choice) {
               [os = choice.os](const OsVersion& version) { return os >= version; },
           .screenBounds = [screen] { return screen.bounds; },
           .screenScale = [screen] { return screen.scale; },
-          .screenNativeScale = [screen] { return screen.nativeScale; }};
+          .screenNativeScale = [screen] { return screen.nativeScale; },
+          .userInterfaceStyle = [dark] { return std::int64_t{dark ? 2 : 1}; }};
 }
 
 } // namespace vitrelle::host

@@ -24,6 +24,6 @@ PhoneBook makePhoneBook(const HomeFolder& home, const PhoneChoice& choice);
 
 /// The kernel's machine field is this computer's, whose architecture the logic takes for a
 /// simulator's; the model that is simulated is the phone chosen.
-Device makeDevice(const PhoneChoice& choice);
+Device makeDevice(const PhoneChoice& choice, bool dark);
 
 } // namespace vitrelle::host

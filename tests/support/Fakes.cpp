@@ -115,7 +115,8 @@ void FakePhone::use(Platform& platform) {
       .isOperatingSystemAtLeast = [this](const OsVersion& version) { return os >= version; },
       .screenBounds = [this] { return bounds; },
       .screenScale = [this] { return scale; },
-      .screenNativeScale = [this] { return nativeScale; }};
+      .screenNativeScale = [this] { return nativeScale; },
+      .userInterfaceStyle = [this] { return userInterfaceStyle; }};
 }
 
 void FakeConsole::use(Platform& platform) {
@@ -153,6 +154,18 @@ void FakeSurroundings::pass(double seconds) {
     waiting_.erase(next);
     work();
   }
+}
+
+void FakeDrawing::use(Platform& platform) {
+  platform.drawing = {
+      .textSize =
+          [](const std::string& text, const Font& font, const PointSize& room) {
+            const double width = static_cast<double>(text.size()) * font.size / 2;
+            return PointSize{std::min(width, room.width), font.size};
+          },
+      .render = [](std::span<const DisplayList>, const PointRect&, double) -> Result<Image> {
+        return Failure{"drawing", "nothing is drawn"};
+      }};
 }
 
 Image positionImage(std::int32_t width, std::int32_t height, ColourProfile profile) {

@@ -52,6 +52,7 @@ class FakePhone final {
   PointSize bounds{393, 852};
   double scale = 3;
   double nativeScale = 3;
+  std::int64_t userInterfaceStyle = 1;
 };
 
 /// The debug lines in order, and how many reloads of the widgets were asked for.
@@ -86,6 +87,13 @@ class FakeSurroundings final {
   double now_ = 0;
   std::uint64_t next_ = 0;
   std::map<std::uint64_t, Waiting> waiting_;
+};
+
+/// A face in which every byte of a text is half as wide as its size, and a line as high; lines
+/// never break. Nothing is drawn.
+class FakeDrawing final {
+ public:
+  static void use(Platform& platform);
 };
 
 /// An opaque picture whose pixel at x, y is {x mod 256, y mod 256, x / 256 * 16 + y / 256, 255}, so

@@ -50,7 +50,8 @@ Platform unimplementedPlatform() {
                  .isOperatingSystemAtLeast = Unimplemented{"device.isOperatingSystemAtLeast"},
                  .screenBounds = Unimplemented{"device.screenBounds"},
                  .screenScale = Unimplemented{"device.screenScale"},
-                 .screenNativeScale = Unimplemented{"device.screenNativeScale"}},
+                 .screenNativeScale = Unimplemented{"device.screenNativeScale"},
+                 .userInterfaceStyle = Unimplemented{"device.userInterfaceStyle"}},
       .phoneBook = {.models = Unimplemented{"phoneBook.models"},
                     .current = Unimplemented{"phoneBook.current"},
                     .save = Unimplemented{"phoneBook.save"}},
@@ -71,6 +72,9 @@ Platform unimplementedPlatform() {
                     .load = Unimplemented{"bannerKit.load"}},
       .symbols = {.outline = Unimplemented{"symbols.outline"},
                   .match = Unimplemented{"symbols.match"}},
+      .drawing = {.textSize = Unimplemented{"drawing.textSize"},
+                  .render = Unimplemented{"drawing.render"}},
+      .fonts = {.families = Unimplemented{"fonts.families"}},
   };
 }
 

@@ -1,0 +1,406 @@
+#include "core/drawing/View.h"
+
+#include "core/drawing/Shapes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace vitrelle {
+
+namespace {
+
+using Node = View::Node;
+
+/// What a shape takes of endless room.
+constexpr double shapeSide = 10;
+
+double finite(double side) {
+  return std::isfinite(side) ? std::max(side, 0.0) : shapeSide;
+}
+
+double placed(Place place, double room, double taken) {
+  switch (place) {
+  case Place::start:
+    return 0;
+  case Place::centre:
+    return (room - taken) / 2;
+  case Place::end:
+    return room - taken;
+  }
+  return 0;
+}
+
+PointRect aligned(const Alignment& alignment, const PointRect& box, const PointSize& own) {
+  return {box.x + placed(alignment.horizontal, box.width, own.width),
+          box.y + placed(alignment.vertical, box.height, own.height), own.width, own.height};
+}
+
+bool anyFlexible(const std::vector<View>& parts) {
+  return std::ranges::any_of(parts, [](const View& part) { return part.node().isFlexible(); });
+}
+
+class TextNode final : public Node {
+ public:
+  explicit TextNode(DrawnText text) : text_(std::move(text)) {}
+  PointSize size(const Drawing& drawing, const PointSize& room) const override {
+    return drawing.textSize(text_.text, text_.font, room);
+  }
+  void draw(const Drawing&, const PointRect& box, const PointSize& room,
+            DisplayList& to) const override {
+    DrawnText text = text_;
+    text.box = box;
+    text.room = room;
+    to.push_back({std::move(text)});
+  }
+
+ private:
+  DrawnText text_;
+};
+
+class SymbolNode final : public Node {
+ public:
+  SymbolNode(DrawnSymbol symbol, double size) : symbol_(std::move(symbol)), size_(size) {}
+  PointSize size(const Drawing&, const PointSize&) const override { return {size_, size_}; }
+  void draw(const Drawing&, const PointRect& box, const PointSize&,
+            DisplayList& to) const override {
+    DrawnSymbol symbol = symbol_;
+    symbol.box = box;
+    to.push_back({std::move(symbol)});
+  }
+
+ private:
+  DrawnSymbol symbol_;
+  double size_;
+};
+
+/// What takes all the room it is offered.
+class StretchedNode : public Node {
+ public:
+  PointSize size(const Drawing&, const PointSize& room) const override {
+    return {finite(room.width), finite(room.height)};
+  }
+  bool isFlexible() const override { return true; }
+};
+
+class ShapeNode final : public StretchedNode {
+ public:
+  ShapeNode(std::function<Path(const PointRect&)> shape, DrawnPath look)
+      : shape_(std::move(shape)), look_(std::move(look)) {}
+  void draw(const Drawing&, const PointRect& box, const PointSize&,
+            DisplayList& to) const override {
+    DrawnPath path = look_;
+    path.path = shape_(box);
+    to.push_back({std::move(path)});
+  }
+
+ private:
+  std::function<Path(const PointRect&)> shape_;
+  DrawnPath look_;
+};
+
+class PictureNode final : public StretchedNode {
+ public:
+  PictureNode(const Image& image, double cornerRadius)
+      : image_(image), cornerRadius_(cornerRadius) {}
+  void draw(const Drawing&, const PointRect& box, const PointSize&,
+            DisplayList& to) const override {
+    DrawnImage drawn{.image = image_, .box = box};
+    if (cornerRadius_ > 0) drawn.outline = shapes::continuousRectangle(box, cornerRadius_);
+    to.push_back({std::move(drawn)});
+  }
+
+ private:
+  Image image_;
+  double cornerRadius_;
+};
+
+class SpacerNode final : public StretchedNode {
+ public:
+  PointSize size(const Drawing&, const PointSize& room) const override {
+    return {std::isfinite(room.width) ? room.width : 0,
+            std::isfinite(room.height) ? room.height : 0};
+  }
+  void draw(const Drawing&, const PointRect&, const PointSize&, DisplayList&) const override {}
+};
+
+/// One direction of a stack: along it the parts follow each other, across it they are aligned.
+struct Direction {
+  double PointSize::*along;
+  double PointSize::*across;
+  double PointRect::*position;
+  double PointRect::*crossPosition;
+};
+constexpr Direction alongRow{&PointSize::width, &PointSize::height, &PointRect::x, &PointRect::y};
+constexpr Direction alongColumn{&PointSize::height, &PointSize::width, &PointRect::y,
+                                &PointRect::x};
+
+class StackNode final : public Node {
+ public:
+  StackNode(Direction direction, std::vector<View> parts, Place across, double spacing)
+      : direction_(direction), parts_(std::move(parts)), across_(across), spacing_(spacing) {}
+
+  PointSize size(const Drawing& drawing, const PointSize& room) const override {
+    PointSize taken;
+    for (const Share& part : shares(drawing, room)) {
+      taken.*direction_.along += part.taken.*direction_.along;
+      taken.*direction_.across = std::max(taken.*direction_.across, part.taken.*direction_.across);
+    }
+    taken.*direction_.along += gaps();
+    return taken;
+  }
+
+  void draw(const Drawing& drawing, const PointRect& box, const PointSize& room,
+            DisplayList& to) const override {
+    const PointSize own{box.width, box.height};
+    const std::vector<Share> parts = shares(drawing, room);
+    double next = box.*direction_.position;
+    for (std::size_t i = 0; i < parts_.size(); ++i) {
+      const PointSize& taken = parts[i].taken;
+      PointRect place{0, 0, taken.width, taken.height};
+      place.*direction_.position = next;
+      place.*direction_.crossPosition =
+          box.*direction_.crossPosition +
+          placed(across_, own.*direction_.across, taken.*direction_.across);
+      parts_[i].node().draw(drawing, place, parts[i].offered, to);
+      next += taken.*direction_.along + spacing_;
+    }
+  }
+
+  bool isFlexible() const override { return anyFlexible(parts_); }
+
+ private:
+  struct Share {
+    PointSize offered;
+    PointSize taken;
+  };
+
+  double gaps() const {
+    return parts_.empty() ? 0 : spacing_ * static_cast<double>(parts_.size() - 1);
+  }
+
+  /// What has a size of its own comes first; the others share what it leaves.
+  std::vector<Share> shares(const Drawing& drawing, const PointSize& room) const {
+    std::vector<Share> result(parts_.size());
+    double left = room.*direction_.along - gaps();
+    double flexible = 0;
+    const auto offer = [&](std::size_t i, double along) {
+      result[i].offered = room;
+      result[i].offered.*direction_.along = std::max(along, 0.0);
+      result[i].taken = parts_[i].node().size(drawing, result[i].offered);
+    };
+    for (std::size_t i = 0; i < parts_.size(); ++i) {
+      if (parts_[i].node().isFlexible()) {
+        ++flexible;
+        continue;
+      }
+      offer(i, left);
+      left -= result[i].taken.*direction_.along;
+    }
+    for (std::size_t i = 0; i < parts_.size(); ++i) {
+      if (parts_[i].node().isFlexible()) offer(i, left / flexible);
+    }
+    return result;
+  }
+
+  Direction direction_;
+  std::vector<View> parts_;
+  Place across_;
+  double spacing_;
+};
+
+class LayersNode final : public Node {
+ public:
+  LayersNode(std::vector<View> parts, const Alignment& alignment)
+      : parts_(std::move(parts)), alignment_(alignment) {}
+  PointSize size(const Drawing& drawing, const PointSize& room) const override {
+    PointSize taken;
+    for (const View& part : parts_) {
+      const PointSize own = part.node().size(drawing, room);
+      taken.width = std::max(taken.width, own.width);
+      taken.height = std::max(taken.height, own.height);
+    }
+    return taken;
+  }
+  void draw(const Drawing& drawing, const PointRect& box, const PointSize& room,
+            DisplayList& to) const override {
+    for (const View& part : parts_) {
+      const PointSize own = part.node().size(drawing, room);
+      part.node().draw(drawing, aligned(alignment_, box, own), room, to);
+    }
+  }
+  bool isFlexible() const override { return anyFlexible(parts_); }
+
+ private:
+  std::vector<View> parts_;
+  Alignment alignment_;
+};
+
+class PaddedNode final : public Node {
+ public:
+  PaddedNode(View view, const Insets& insets) : view_(std::move(view)), insets_(insets) {}
+  PointSize size(const Drawing& drawing, const PointSize& room) const override {
+    const PointSize own = view_.node().size(drawing, within(room));
+    return {own.width + across(), own.height + down()};
+  }
+  void draw(const Drawing& drawing, const PointRect& box, const PointSize& room,
+            DisplayList& to) const override {
+    const PointSize own = within({box.width, box.height});
+    view_.node().draw(drawing,
+                      {box.x + insets_.leading, box.y + insets_.top, own.width, own.height},
+                      within(room), to);
+  }
+  bool isFlexible() const override { return view_.node().isFlexible(); }
+
+ private:
+  double across() const { return insets_.leading + insets_.trailing; }
+  double down() const { return insets_.top + insets_.bottom; }
+  PointSize within(const PointSize& room) const {
+    return {std::max(room.width - across(), 0.0), std::max(room.height - down(), 0.0)};
+  }
+  View view_;
+  Insets insets_;
+};
+
+class FramedNode final : public Node {
+ public:
+  FramedNode(View view, std::optional<double> width, std::optional<double> height,
+             const Alignment& alignment)
+      : view_(std::move(view)), width_(width), height_(height), alignment_(alignment) {}
+  PointSize size(const Drawing& drawing, const PointSize& room) const override {
+    if (width_ && height_) return {*width_, *height_};
+    const PointSize own = view_.node().size(drawing, within(room));
+    return {width_.value_or(own.width), height_.value_or(own.height)};
+  }
+  void draw(const Drawing& drawing, const PointRect& box, const PointSize& room,
+            DisplayList& to) const override {
+    const PointSize own = view_.node().size(drawing, within(room));
+    view_.node().draw(drawing, aligned(alignment_, box, own), within(room), to);
+  }
+  bool isFlexible() const override { return !(width_ && height_) && view_.node().isFlexible(); }
+
+ private:
+  PointSize within(const PointSize& room) const {
+    return {width_.value_or(room.width), height_.value_or(room.height)};
+  }
+  View view_;
+  std::optional<double> width_;
+  std::optional<double> height_;
+  Alignment alignment_;
+};
+
+/// Draws a view as a group, and takes the room that the view does.
+class GroupNode final : public Node {
+ public:
+  GroupNode(View view, std::function<DrawnGroup(const PointRect& box)> group)
+      : view_(std::move(view)), group_(std::move(group)) {}
+  PointSize size(const Drawing& drawing, const PointSize& room) const override {
+    return view_.node().size(drawing, room);
+  }
+  void draw(const Drawing& drawing, const PointRect& box, const PointSize& room,
+            DisplayList& to) const override {
+    DrawnGroup group = group_(box);
+    view_.node().draw(drawing, box, room, group.items);
+    to.push_back({std::move(group)});
+  }
+  bool isFlexible() const override { return view_.node().isFlexible(); }
+
+ private:
+  View view_;
+  std::function<DrawnGroup(const PointRect&)> group_;
+};
+
+/// The linear part of the transform, about the middle of the box.
+Transform aboutMiddle(const PointRect& box, double a, double b, double c, double d) {
+  const double x = box.x + box.width / 2;
+  const double y = box.y + box.height / 2;
+  return {a, b, c, d, x - a * x - c * y, y - b * x - d * y};
+}
+
+} // namespace
+
+View text(std::string words, Font font, const PlatformColour& colour, TextAlignment alignment) {
+  return View(std::make_shared<TextNode>(DrawnText{.text = std::move(words),
+                                                   .font = std::move(font),
+                                                   .alignment = alignment,
+                                                   .colour = colour}));
+}
+
+View symbol(std::string name, double size, const PlatformColour& colour, int weight) {
+  return View(std::make_shared<SymbolNode>(
+      DrawnSymbol{.name = std::move(name), .weight = weight, .colour = colour}, size));
+}
+
+View filled(std::function<Path(const PointRect&)> shape, const PlatformColour& colour) {
+  return View(std::make_shared<ShapeNode>(std::move(shape), DrawnPath{.colour = colour}));
+}
+
+View stroked(std::function<Path(const PointRect&)> shape, const StrokeStyle& style,
+             const PlatformColour& colour) {
+  return View(
+      std::make_shared<ShapeNode>(std::move(shape), DrawnPath{.stroke = style, .colour = colour}));
+}
+
+View picture(const Image& image, double cornerRadius) {
+  return View(std::make_shared<PictureNode>(image, cornerRadius));
+}
+
+View spacer() {
+  return View(std::make_shared<SpacerNode>());
+}
+
+View hstack(std::vector<View> parts, Place vertical, double spacing) {
+  return View(std::make_shared<StackNode>(alongRow, std::move(parts), vertical, spacing));
+}
+
+View vstack(std::vector<View> parts, Place horizontal, double spacing) {
+  return View(std::make_shared<StackNode>(alongColumn, std::move(parts), horizontal, spacing));
+}
+
+View zstack(std::vector<View> parts, const Alignment& alignment) {
+  return View(std::make_shared<LayersNode>(std::move(parts), alignment));
+}
+
+View padded(const View& view, const Insets& insets) {
+  return View(std::make_shared<PaddedNode>(view, insets));
+}
+
+View framed(const View& view, std::optional<double> width, std::optional<double> height,
+            const Alignment& alignment) {
+  return View(std::make_shared<FramedNode>(view, width, height, alignment));
+}
+
+View shadowed(const View& view, const Shadow& shadow) {
+  return View(std::make_shared<GroupNode>(
+      view, [shadow](const PointRect&) { return DrawnGroup{.shadow = shadow}; }));
+}
+
+View faded(const View& view, double opacity) {
+  return View(std::make_shared<GroupNode>(
+      view, [opacity](const PointRect&) { return DrawnGroup{.opacity = opacity}; }));
+}
+
+View rotated(const View& view, double radians) {
+  return View(std::make_shared<GroupNode>(view, [radians](const PointRect& box) {
+    const double cosine = std::cos(radians);
+    const double sine = std::sin(radians);
+    return DrawnGroup{.transform = aboutMiddle(box, cosine, sine, -sine, cosine)};
+  }));
+}
+
+View scaled(const View& view, double factor) {
+  return View(std::make_shared<GroupNode>(view, [factor](const PointRect& box) {
+    return DrawnGroup{.transform = aboutMiddle(box, factor, 0, 0, factor)};
+  }));
+}
+
+DisplayList layOut(const View& view, const PointSize& frame, const Drawing& drawing) {
+  DisplayList list;
+  framed(view, frame.width, frame.height)
+      .node()
+      .draw(drawing, {0, 0, frame.width, frame.height}, frame, list);
+  return list;
+}
+
+} // namespace vitrelle
