@@ -1,0 +1,48 @@
+#include "core/lifecycle/StylePreview.h"
+
+#include "core/store/Keys.h"
+
+namespace vitrelle {
+
+StylePreview::StylePreview(const Platform& platform, const FamilyDescription& words,
+                           const Key<std::int64_t>& selected)
+    : platform_(platform),
+      words_(words),
+      amountOfConfigs_(platform, keys::amountOfConfigs),
+      selectedConfig_(platform, selected) {}
+
+void StylePreview::appear() {
+  img_ = currentSlice(platform_, WidgetLocationImageNames::mediumTop);
+  stored().load();
+  const std::int64_t current = selectedConfig_.getOrDefault();
+  for (std::size_t i = 0; i < stored().count(); ++i) {
+    if (stored().tag(i) == current) copy(i);
+  }
+  changed();
+}
+
+std::vector<std::optional<SliceName>> StylePreview::pages() const {
+  std::vector<std::optional<SliceName>> pages;
+  const std::int64_t amount = amountOfConfigs_.getOrDefault();
+  for (std::int64_t style = 0; style < amount; ++style) {
+    auto whole = findSlice(platform_, WidgetLocationImageNames::fullImage, style, lightStyle);
+    if (!whole) whole = findSlice(platform_, WidgetLocationImageNames::fullImage, style, darkStyle);
+    pages.push_back(std::move(whole));
+  }
+  return pages;
+}
+
+PointSize StylePreview::pageSize() const {
+  const PointSize screen = platform_.device.screenBounds();
+  return {screen.width / 1.5, screen.height / 1.5};
+}
+
+PointRect StylePreview::widgetBox() const {
+  const PointSize screen = platform_.device.screenBounds();
+  const double side = screen.width * 0.25;
+  // The square and the padding behind it stand in the middle of the page's width.
+  const double left = (pageSize().width - (side + screen.width / 3.5)) / 2;
+  return {left, screen.height / 1.5 * 0.125, side, side};
+}
+
+} // namespace vitrelle

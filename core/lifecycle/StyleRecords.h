@@ -1,0 +1,58 @@
+// One family's records as the shared screens see them: a screen's own copy, made when it appears
+// and written back whole. Of two copies, the one that is saved last wins.
+#pragma once
+
+#include "core/store/GroupStore.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace vitrelle {
+
+class StyleRecords {
+ public:
+  StyleRecords() = default;
+  StyleRecords(const StyleRecords&) = delete;
+  StyleRecords& operator=(const StyleRecords&) = delete;
+  virtual ~StyleRecords() = default;
+
+  virtual void load() = 0;
+  virtual void save() const = 0;
+  virtual std::size_t count() const = 0;
+  /// Indices are below the count.
+  virtual std::int64_t tag(std::size_t index) const = 0;
+  virtual std::int64_t linked(std::size_t index) const = 0;
+  virtual void setLinked(std::size_t index, std::int64_t config) = 0;
+};
+
+template <class Record>
+class FamilyRecords final : public StyleRecords {
+ public:
+  FamilyRecords(const Platform& platform, const Family<Record>& family)
+      : store_(platform), family_(family) {}
+
+  void load() override { records = store_.loadRecords(family_); }
+  void save() const override { store_.saveRecords(family_, records); }
+  std::size_t count() const override { return records.size(); }
+  std::int64_t tag(std::size_t index) const override { return records[index].*family_.tag; }
+  std::int64_t linked(std::size_t index) const override { return records[index].*family_.linked; }
+  void setLinked(std::size_t index, std::int64_t config) override {
+    records[index].*family_.linked = config;
+  }
+
+  /// The record at an index of any value; none where there is none.
+  Record* at(std::int64_t index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= records.size()) return nullptr;
+    return &records[static_cast<std::size_t>(index)];
+  }
+
+  std::vector<Record> records;
+
+ private:
+  GroupStore store_;
+  const Family<Record>& family_;
+};
+
+} // namespace vitrelle

@@ -1,0 +1,43 @@
+#include "core/pickers/FontPicker.h"
+
+#include "core/store/GroupStore.h"
+
+#include <algorithm>
+
+namespace vitrelle {
+
+namespace {
+
+constexpr std::int64_t usualSize = 18;
+
+char lower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+} // namespace
+
+std::vector<FontFamily> fontFamilies(const Fonts& fonts, std::string_view words) {
+  std::vector<FontFamily> families = fonts.families();
+  std::erase_if(families, [&](const FontFamily& family) {
+    return std::ranges::search(family.name, words, {}, lower, lower).empty() && !words.empty();
+  });
+  return families;
+}
+
+void StoredFontPicker::didPickFont(const std::optional<FontDescriptor>& selected) const {
+  if (!selected) return;
+  const GroupStore store(platform_);
+  const std::int64_t size = store.value(size_).value_or(usualSize);
+  store.set(name_, selected->postScriptName);
+  platform_.widgetCenter.reloadAllTimelines();
+  platform_.debugConsole.print(selected->postScriptName + " " + std::to_string(size) + ".0");
+  dismiss_();
+}
+
+void ModernFontPicker::didPickFont(const std::optional<FontDescriptor>& selected) const {
+  if (!selected) return;
+  fontPicked_(selected->postScriptName);
+  dismiss_();
+}
+
+} // namespace vitrelle
