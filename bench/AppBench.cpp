@@ -47,7 +47,7 @@ Platform platformOver(const QString& home) {
 }
 
 ui::ShellOptions options() {
-  return {.appearance = ui::Appearance::light, .screen = {}, .framed = true, .animated = true};
+  return {.screen = {}, .framed = true, .animated = true};
 }
 
 /// Ends with the first frame that has a picture in it.

@@ -4,7 +4,6 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QMimeData>
-#include <QPalette>
 #include <QVariant>
 
 namespace vitrelle::ui {
@@ -12,6 +11,37 @@ namespace vitrelle::ui {
 namespace {
 
 constexpr char ownerProperty[] = "shell";
+
+struct FamilyPartName {
+  std::string_view FamilyDescription::*typeName;
+  const char* part;
+  bool needsEditor;
+};
+constexpr FamilyPartName familyParts[] = {{&FamilyDescription::entryScreen, "entry", false},
+                                          {&FamilyDescription::setupScreen, "setup", true},
+                                          {&FamilyDescription::secondScreen, "second", true},
+                                          {&FamilyDescription::galleryScreen, "gallery", false},
+                                          {&FamilyDescription::assignScreen, "assign", false},
+                                          {&FamilyDescription::previewScreen, "preview", false}};
+
+/// Calls with the type name of each screen of a family that has something to show.
+template <class Visit>
+void forEachFamilyPart(Visit visit) {
+  for (const FamilyDescription& family : familyTable) {
+    const bool hasEditor = familyScreens(family.name).hasEditor();
+    for (const FamilyPartName& part : familyParts) {
+      if (hasEditor || !part.needsEditor)
+        visit(qText(family.*part.typeName),
+              FamilyPart{qText(family.name), QString::fromLatin1(part.part)});
+    }
+  }
+}
+
+QStringList familyScreenNames() {
+  QStringList names;
+  forEachFamilyPart([&](const QString& name, const FamilyPart&) { names << name; });
+  return names;
+}
 
 } // namespace
 
@@ -36,20 +66,22 @@ Shell& Shell::of(const QQmlEngine& engine) {
 }
 
 const QStringList& Shell::screenNames() {
-  static const QStringList names = {QStringLiteral("ModernContentView"),
-                                    QStringLiteral("ModernNewLightDark"),
-                                    QStringLiteral("ModernChangeLightDark"),
-                                    QStringLiteral("PerspectiveZoomDescription"),
-                                    QStringLiteral("ModernKnowledgeCentre"),
-                                    QStringLiteral("ModernWidgetCentre"),
-                                    QStringLiteral("ModernInfoCentre"),
-                                    QStringLiteral("OnboardingView"),
-                                    QStringLiteral("UpgradeView"),
-                                    QStringLiteral("WidgetSettingsView"),
-                                    QStringLiteral("UpdateWidgetDescription"),
-                                    QStringLiteral("WidgetShowingNothingDescription"),
-                                    QStringLiteral("WidgetNameDescription"),
-                                    QStringLiteral("InvalidDeepLink")};
+  static const QStringList names =
+      familyScreenNames() + QStringList{QStringLiteral("ModernContentView"),
+                                        QStringLiteral("ModernNewLightDark"),
+                                        QStringLiteral("ModernChangeLightDark"),
+                                        QStringLiteral("PerspectiveZoomDescription"),
+                                        QStringLiteral("ModernFontPicker"),
+                                        QStringLiteral("ModernKnowledgeCentre"),
+                                        QStringLiteral("ModernWidgetCentre"),
+                                        QStringLiteral("ModernInfoCentre"),
+                                        QStringLiteral("OnboardingView"),
+                                        QStringLiteral("UpgradeView"),
+                                        QStringLiteral("WidgetSettingsView"),
+                                        QStringLiteral("UpdateWidgetDescription"),
+                                        QStringLiteral("WidgetShowingNothingDescription"),
+                                        QStringLiteral("WidgetNameDescription"),
+                                        QStringLiteral("InvalidDeepLink")};
   return names;
 }
 
@@ -76,11 +108,7 @@ qreal Shell::screenHeight() const {
 }
 
 bool Shell::isDark() const {
-  if (options_.appearance) return *options_.appearance == Appearance::dark;
-  // A desktop says so by its palette alone.
-  const QPalette palette = QGuiApplication::palette();
-  return palette.color(QPalette::Window).lightness() <
-         palette.color(QPalette::WindowText).lightness();
+  return platform_.device.userInterfaceStyle() == darkStyle;
 }
 
 bool Shell::canPaste() const {
@@ -99,6 +127,18 @@ IntakeScreen* Shell::changeStyle(int number) {
 bool Shell::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::ApplicationPaletteChange) Q_EMIT darkChanged();
   return QObject::eventFilter(watched, event);
+}
+
+FamilyPart Shell::familyPart(const QString& screen) const {
+  FamilyPart found;
+  forEachFamilyPart([&](const QString& name, const FamilyPart& part) {
+    if (name == screen) found = part;
+  });
+  return found;
+}
+
+FamilyScreen* Shell::family(const QString& name) const {
+  return new FamilyScreen(platform_, familyScreens(name.toStdString()));
 }
 
 void Shell::showNotice(const QString& text) {

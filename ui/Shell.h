@@ -4,6 +4,7 @@
 #include "core/app/ModernContentView.h"
 #include "core/platform/Platform.h"
 #include "ui/app/RootScreen.h"
+#include "ui/lifecycle/FamilyScreen.h"
 #include "ui/parts/PictureSource.h"
 #include "ui/slicing/IntakeScreen.h"
 
@@ -13,17 +14,24 @@
 #include <QString>
 
 #include <memory>
-#include <optional>
 
 namespace vitrelle::ui {
 
-enum class Appearance { light, dark };
-
 struct ShellOptions {
-  std::optional<Appearance> appearance; ///< none follows the desktop
-  QString screen;                       ///< type name of the screen to open; empty for the root
-  bool framed = true;                   ///< the phone's frame around the screen
+  QString screen;     ///< type name of the screen to open; empty for the root
+  bool framed = true; ///< the phone's frame around the screen
   bool animated = true;
+};
+
+struct FamilyPart {
+  Q_GADGET
+  QML_VALUE_TYPE(familyPart)
+  Q_PROPERTY(QString family MEMBER family CONSTANT)
+  Q_PROPERTY(QString screen MEMBER screen CONSTANT)
+
+ public:
+  QString family;
+  QString screen; ///< "entry", "setup", "second", "gallery", "assign" or "preview"
 };
 
 /// What QML sees of the program: the one object that screens begin at.
@@ -75,6 +83,15 @@ class Shell final : public QObject {
   /// The QML owns what it gets.
   Q_INVOKABLE vitrelle::ui::IntakeScreen* newStyle();
   Q_INVOKABLE vitrelle::ui::IntakeScreen* changeStyle(int number);
+  /// The family's entry screen, by its name in the family table.
+  Q_INVOKABLE vitrelle::ui::FamilyScreen* family(const QString& name) const;
+  /// Which family and which of its screens a type name stands for: "text", "gallery". The screen is
+  /// empty for another name.
+  Q_INVOKABLE vitrelle::ui::FamilyPart familyPart(const QString& screen) const;
+  /// What a form shows for a font's name.
+  Q_INVOKABLE static QString fontWords(const QString& name) {
+    return qText(vitrelle::fontWords(name.toStdString()));
+  }
   Q_INVOKABLE void showNotice(const QString& text);
   Q_INVOKABLE void dismissNotice() { showNotice({}); }
 

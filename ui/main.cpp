@@ -2,9 +2,12 @@
 
 #include "cli/Options.h"
 #include "core/app/SceneDelegate.h"
+#include "core/slicing/WidgetLocation.h"
 #include "host/Host.h"
 #include "host/desktop/AppInstance.h"
 #include "host/desktop/QtLoop.h"
+#include "host/drawing/Fonts.h"
+#include "host/drawing/Rasteriser.h"
 #include "ui/Shell.h"
 #include "ui/Trouble.h"
 #include "ui/Words.h"
@@ -12,6 +15,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QPalette>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
@@ -20,6 +24,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -114,11 +119,18 @@ int handOver(const host::HomeFolder& home, std::vector<std::string> links) {
   return 0;
 }
 
-/// None follows the desktop, which a screenshot does not.
-std::optional<ui::Appearance> appearanceOf(const Arguments& arguments) {
-  if (arguments.options.appearance == cli::Appearance::dark) return ui::Appearance::dark;
-  if (arguments.options.appearance || !arguments.screenshot.empty()) return ui::Appearance::light;
-  return std::nullopt;
+/// What was told, else light for a screenshot, else as the desktop is.
+std::function<std::int64_t()> appearanceOf(const Arguments& arguments) {
+  if (arguments.options.appearance || !arguments.screenshot.empty()) {
+    const bool dark = arguments.options.appearance == cli::Appearance::dark;
+    return [dark] { return dark ? darkStyle : lightStyle; };
+  }
+  return [] { // a desktop says so by its palette alone
+    const QPalette palette = QGuiApplication::palette();
+    const bool dark = palette.color(QPalette::Window).lightness() <
+                      palette.color(QPalette::WindowText).lightness();
+    return dark ? darkStyle : lightStyle;
+  };
 }
 
 /// The window, from its start to its end. `instance` may be null: then no links come in.
@@ -138,6 +150,10 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
     if (shell != nullptr && shell->window() != nullptr) shell->window()->hide();
   };
 
+  platform.device.userInterfaceStyle = appearanceOf(arguments);
+  platform.drawing = host::makeDrawing(platform.symbols);
+  platform.fonts = host::makeFonts();
+
   AppDelegate(platform).didFinishLaunching();
   const SceneDelegate scene(platform);
   if (interactive) {
@@ -147,8 +163,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
     scene.willConnect(links);
   }
 
-  ui::Shell theShell(platform, {.appearance = appearanceOf(arguments),
-                                .screen = QString::fromStdString(arguments.screen),
+  ui::Shell theShell(platform, {.screen = QString::fromStdString(arguments.screen),
                                 .framed = interactive,
                                 .animated = interactive});
   shell = &theShell;

@@ -103,5 +103,57 @@
         <source></source>
         <translation>Dieses Bild lässt sich nicht verwenden. %1</translation>
     </message>
+    <message id="app.back">
+        <source></source>
+        <translation>Zurück</translation>
+    </message>
+    <message id="app.clear">
+        <source></source>
+        <translation>Leeren</translation>
+    </message>
+    <message id="app.search">
+        <source></source>
+        <translation>Suchen</translation>
+    </message>
+    <message id="app.working">
+        <source></source>
+        <translation>Wird berechnet</translation>
+    </message>
+    <message id="app.fonts.none">
+        <source></source>
+        <translation>Keine Schrift heißt so.</translation>
+    </message>
+    <message id="app.gallery.tile">
+        <source></source>
+        <translation>Widget-Stil %1</translation>
+    </message>
+    <message id="app.gallery.current">
+        <source></source>
+        <translation>Widget-Stil %1 wird verwendet</translation>
+    </message>
+    <message id="app.gallery.use">
+        <source></source>
+        <translation>Widget-Stil %1 verwenden</translation>
+    </message>
+    <message id="app.colour.shade">
+        <source></source>
+        <translation>Sättigung und Helligkeit</translation>
+    </message>
+    <message id="app.colour.hue">
+        <source></source>
+        <translation>Farbton</translation>
+    </message>
+    <message id="app.colour.opacity">
+        <source></source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message id="app.colour.digits">
+        <source></source>
+        <translation>Farbe in hexadezimalen Ziffern</translation>
+    </message>
+    <message id="app.colour.eyedropper">
+        <source></source>
+        <translation>Vom Bildschirm aufnehmen</translation>
+    </message>
 </context>
 </TS>

@@ -103,5 +103,57 @@
         <source></source>
         <translation>This picture can’t be used. %1</translation>
     </message>
+    <message id="app.back">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="app.clear">
+        <source></source>
+        <translation>Clear</translation>
+    </message>
+    <message id="app.search">
+        <source></source>
+        <translation>Search</translation>
+    </message>
+    <message id="app.working">
+        <source></source>
+        <translation>Working</translation>
+    </message>
+    <message id="app.fonts.none">
+        <source></source>
+        <translation>No font has this name.</translation>
+    </message>
+    <message id="app.gallery.tile">
+        <source></source>
+        <translation>Widget Style %1</translation>
+    </message>
+    <message id="app.gallery.current">
+        <source></source>
+        <translation>Widget Style %1 is in use</translation>
+    </message>
+    <message id="app.gallery.use">
+        <source></source>
+        <translation>Use Widget Style %1</translation>
+    </message>
+    <message id="app.colour.shade">
+        <source></source>
+        <translation>Saturation and brightness</translation>
+    </message>
+    <message id="app.colour.hue">
+        <source></source>
+        <translation>Hue</translation>
+    </message>
+    <message id="app.colour.opacity">
+        <source></source>
+        <translation>Opacity</translation>
+    </message>
+    <message id="app.colour.digits">
+        <source></source>
+        <translation>Colour in hexadecimal digits</translation>
+    </message>
+    <message id="app.colour.eyedropper">
+        <source></source>
+        <translation>Pick from the screen</translation>
+    </message>
 </context>
 </TS>

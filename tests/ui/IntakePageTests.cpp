@@ -77,10 +77,7 @@ TEST_F(IntakePageTest, halfAStyle_isTakenBackOnLeaving) {
 TEST_F(IntakePageTest, whatIsNoPicture_isToldAndChangesNothing) {
   setNumber("amountOfConfigs", 1);
   addStyle(0);
-  open({.appearance = ui::Appearance::dark,
-        .screen = QStringLiteral("ModernChangeLightDark"),
-        .framed = false,
-        .animated = false});
+  open({.screen = QStringLiteral("ModernChangeLightDark"), .framed = false, .animated = false});
   auto* data = new QMimeData;
   data->setUrls({QUrl::fromLocalFile(QStringLiteral("/group/nothing.png"))});
   QGuiApplication::clipboard()->setMimeData(data);
@@ -93,10 +90,7 @@ TEST_F(IntakePageTest, whatIsNoPicture_isToldAndChangesNothing) {
 
 TEST_F(IntakePageTest, rightClick_opensAMenu) {
   setNumber("amountOfConfigs", 1);
-  open({.appearance = ui::Appearance::dark,
-        .screen = QStringLiteral("ModernChangeLightDark"),
-        .framed = false,
-        .animated = false});
+  open({.screen = QStringLiteral("ModernChangeLightDark"), .framed = false, .animated = false});
   driver->click("darkCell", Qt::RightButton);
   ASSERT_TRUE(driver->isShown("pasteEntry"));
   driver->click("pasteEntry");

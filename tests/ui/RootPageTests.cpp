@@ -89,9 +89,9 @@ TEST_F(RootPageTest, widgetCentre_needsAStyle) {
 
   ASSERT_TRUE(platform.defaults.set(Suite::group, "amountOfConfigs", std::int64_t{1}));
   driver->click("widgetCentreButton");
-  EXPECT_TRUE(driver->isShown("plainPage"));
+  EXPECT_TRUE(driver->isShown("familyPage"));
   driver->key(Qt::Key_Escape);
-  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("plainPage"); }));
+  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("familyPage"); }));
 }
 
 TEST_F(RootPageTest, twelveStyles_haveNoCreateCard) {
@@ -131,7 +131,7 @@ TEST_F(RootPageTest, everyScreen_opensWithoutAWarning) {
   addStyles(1);
   for (const QString& name : ui::Shell::screenNames()) {
     SCOPED_TRACE(name.toStdString());
-    open({.appearance = ui::Appearance::light, .screen = name, .framed = true, .animated = false});
+    open({.screen = name, .framed = true, .animated = false});
     QTest::qWait(20);
     driver.reset();
     shell.reset();

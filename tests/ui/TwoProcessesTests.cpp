@@ -50,10 +50,8 @@ TEST_F(TwoProcessesTest, aStyleMadeElsewhere_showsInTheOpenWindow) {
   const Platform platform = host::makePlatform(
       {.home = host::HomeFolder(home().toStdString()), .phone = {}, .verbose = false},
       host::makeQtLoop());
-  ui::Shell shell(platform, {.appearance = ui::Appearance::light,
-                             .screen = QStringLiteral("ModernContentView"),
-                             .framed = true,
-                             .animated = false});
+  ui::Shell shell(
+      platform, {.screen = QStringLiteral("ModernContentView"), .framed = true, .animated = false});
   ASSERT_TRUE(shell.open());
   ASSERT_TRUE(QTest::qWaitForWindowExposed(shell.window()));
   const test::Driver driver(shell);

@@ -1,4 +1,7 @@
 #include "tests/ui/UiTest.h"
+
+#include "host/drawing/Fonts.h"
+#include "host/drawing/Rasteriser.h"
 #include "ui/Words.h"
 
 #include <QGuiApplication>
@@ -76,6 +79,7 @@ bool Driver::eventually(const std::function<bool()>& isSo) {
 }
 
 UiTest::UiTest() {
+  phone.userInterfaceStyle = darkStyle;
   qInstallMessageHandler(failOnWarnings);
   platform.symbols = {.outline =
                           [](const std::string&) {
@@ -86,6 +90,8 @@ UiTest::UiTest() {
                             return square;
                           },
                       .match = [](const std::string&) { return SymbolMatch::alias; }};
+  platform.drawing = host::makeDrawing(platform.symbols);
+  platform.fonts = host::makeFonts();
   platform.widgetCenter.watchReloads = [](const std::function<void()>&) { return Subscription(); };
   defaults.values(Suite::standard)["last_used_app_version"] = std::string("2.2");
 }

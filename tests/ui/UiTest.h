@@ -38,9 +38,7 @@ class UiTest : public AppTest {
   ~UiTest() override;
 
   /// Builds the window; the store and the folder are as the test wants them.
-  void
-  open(ui::ShellOptions options = {
-           .appearance = ui::Appearance::dark, .screen = {}, .framed = false, .animated = false});
+  void open(ui::ShellOptions options = {.screen = {}, .framed = false, .animated = false});
 
   std::unique_ptr<ui::Shell> shell;
   std::unique_ptr<Driver> driver;

@@ -26,7 +26,12 @@ FocusScope {
             "WidgetNameDescription": qsTrId("app.widgetLabel"),
             "InvalidDeepLink": qsTrId("app.invalidLink")
         })
+    function openFamily(name: string) {
+        stack.push(familyPage, { "family": Shell.family(name) });
+    }
     function open(screen: string) {
+        if (screen === "ModernWidgetCentre")
+            return openFamily("text"); // until the centre has something to show
         stack.push(plainPage, { "title": titles[screen] });
     }
     function openNamed(screen: string) {
@@ -38,6 +43,12 @@ FocusScope {
             stack.push(intakePage, { "intake": Shell.changeStyle(0) });
         else if (screen === "PerspectiveZoomDescription")
             stack.push(perspectiveZoom);
+        else if (screen === "ModernFontPicker")
+            stack.push(fontPicker);
+        else if (Shell.familyPart(screen).screen === "entry")
+            openFamily(Shell.familyPart(screen).family);
+        else if (Shell.familyPart(screen).screen !== "")
+            stack.push(familyFlow, { "family": Shell.family(Shell.familyPart(screen).family), "start": Shell.familyPart(screen).screen });
         else
             open(screen);
     }
@@ -74,6 +85,25 @@ FocusScope {
     Component {
         id: plainPage
         PlainPage {
+            onClosed: stack.pop()
+        }
+    }
+    Component {
+        id: familyPage
+        FamilyPage {
+            onClosed: stack.pop()
+        }
+    }
+    Component {
+        id: familyFlow
+        StyleFlow {
+            onClosed: stack.pop()
+        }
+    }
+    Component {
+        id: fontPicker
+        FontPickerPage {
+            fontPicked: ""
             onClosed: stack.pop()
         }
     }

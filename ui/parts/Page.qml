@@ -9,6 +9,7 @@ FocusScope {
     property string backTitle: "Back"
     property bool hasBack: true
     default property alias content: body.data
+    property alias overlay: over.data // above everything else
 
     signal closed
 
@@ -61,5 +62,9 @@ FocusScope {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
+    }
+    Item {
+        id: over
+        anchors.fill: parent
     }
 }

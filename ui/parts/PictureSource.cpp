@@ -3,6 +3,7 @@
 #include "core/slicing/ImageLoader.h"
 
 #include <QColorSpace>
+#include <QImageReader>
 
 #include <optional>
 #include <utility>
@@ -45,6 +46,20 @@ void PictureSource::load(const PictureName& name, const QSize& pixels,
   pool_.start([this, name, pixels, done = std::move(done)] {
     const auto image = find(platform_, name);
     done(image ? stretched(*image, pixels) : QImage());
+  });
+}
+
+void PictureSource::loadAsset(const QString& name, const QSize& pixels,
+                              std::function<void(QImage)> done) {
+  pool_.start([name, pixels, done = std::move(done)] {
+    QImageReader reader(QStringLiteral(":/pictures/") + name + QStringLiteral(".svg"));
+    const QSize whole = reader.size().scaled(pixels, Qt::KeepAspectRatioByExpanding);
+    reader.setScaledSize(whole);
+    const QPoint corner((whole.width() - pixels.width()) / 2,
+                        (whole.height() - pixels.height()) / 2);
+    done(reader.read()
+             .copy(QRect(corner, pixels))
+             .convertToFormat(QImage::Format_ARGB32_Premultiplied));
   });
 }
 

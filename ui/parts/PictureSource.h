@@ -39,6 +39,8 @@ class PictureSource final {
   /// Calls back on another thread with the picture stretched to the size, in sRGB; a null image
   /// when it can't be had.
   void load(const PictureName& name, const QSize& pixels, std::function<void(QImage)> done);
+  /// The same for one of the program's own, whose middle fills the size.
+  void loadAsset(const QString& name, const QSize& pixels, std::function<void(QImage)> done);
 
  private:
   const Platform& platform_;

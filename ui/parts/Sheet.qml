@@ -6,6 +6,7 @@ FocusScope {
     id: sheet
 
     property bool shown: false
+    property bool present: false // also while it goes away
     default property alias content: body.data
 
     signal dismissed
@@ -13,9 +14,15 @@ FocusScope {
     width: parent.width
     height: parent.height
     y: shown ? 0 : height
-    visible: y < height
+    visible: present
     enabled: shown
-    onShownChanged: if (shown) forceActiveFocus()
+    onShownChanged: {
+        if (!shown)
+            return;
+        present = true;
+        forceActiveFocus();
+    }
+    onYChanged: if (!shown && y >= height) present = false
     Keys.onEscapePressed: dismissed()
     Keys.onBackPressed: dismissed()
 

@@ -41,30 +41,48 @@ void StoredPicture::load() {
   if (!isComponentComplete() || width() <= 0 || height() <= 0) return;
   const qreal ratio = window() != nullptr ? window()->effectiveDevicePixelRatio() : 1;
   const QSize pixels(qCeil(width() * ratio), qCeil(height() * ratio));
-  Wish wish{{stem_.toStdString(), styleNumber_, dark_}, revision_, pixels};
+  Wish wish{{stem_.toStdString(), styleNumber_, dark_}, standIn_, revision_, pixels};
   if (wish == wish_) return;
   wish_ = std::move(wish);
-  const int request = ++request_;
+  ++request_;
   if (styleNumber_ < 0) {
-    show(request, {});
-    return;
+    takeStored(request_, {});
+  } else {
+    Shell::of(*qmlEngine(this))
+        .pictures()
+        .load(wish_.name, pixels, receiver(&StoredPicture::takeStored));
   }
-  Shell::of(*qmlEngine(this))
-      .pictures()
-      .load(wish_.name, pixels, [self = QPointer(this), request](const QImage& picture) {
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [self, request, picture] {
-              if (self) self->show(request, picture);
-            },
-            Qt::QueuedConnection);
-      });
 }
 
-void StoredPicture::show(int request, const QImage& picture) {
+std::function<void(QImage)> StoredPicture::receiver(Take take) {
+  return [self = QPointer(this), request = request_, take](const QImage& picture) {
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [self, request, take, picture] {
+          if (self) (self.data()->*take)(request, picture);
+        },
+        Qt::QueuedConnection);
+  };
+}
+
+void StoredPicture::takeStored(int request, const QImage& picture) {
   if (request != request_) return;
-  picture_ = picture;
   missing_ = picture.isNull();
+  if (missing_ && !standIn_.isEmpty()) {
+    Shell::of(*qmlEngine(this))
+        .pictures()
+        .loadAsset(standIn_, wish_.pixels, receiver(&StoredPicture::takeStandIn));
+  } else {
+    show(picture);
+  }
+}
+
+void StoredPicture::takeStandIn(int request, const QImage& picture) {
+  if (request == request_) show(picture);
+}
+
+void StoredPicture::show(const QImage& picture) {
+  picture_ = picture;
   Q_EMIT readyChanged();
   update();
 }

@@ -7,6 +7,8 @@
 #include <QQuickPaintedItem>
 #include <QString>
 
+#include <functional>
+
 namespace vitrelle::ui {
 
 class StoredPicture : public QQuickPaintedItem {
@@ -18,6 +20,8 @@ class StoredPicture : public QQuickPaintedItem {
   /// Raised when the file may have been replaced.
   Q_PROPERTY(int revision MEMBER revision_ NOTIFY asked)
   Q_PROPERTY(qreal radius MEMBER radius_ NOTIFY asked)
+  /// A picture of the program's own that is shown where there is none, filling the rectangle.
+  Q_PROPERTY(QString standIn MEMBER standIn_ NOTIFY asked)
   /// Whether there is something to draw.
   Q_PROPERTY(bool ready READ isReady NOTIFY readyChanged)
   /// Whether it was looked for and is not to be had.
@@ -42,18 +46,25 @@ class StoredPicture : public QQuickPaintedItem {
   /// What a load depends on.
   struct Wish {
     PictureName name;
+    QString standIn;
     int revision = 0;
     QSize pixels;
     bool operator==(const Wish&) const = default;
   };
   void load();
-  void show(int request, const QImage& picture);
+  using Take = void (StoredPicture::*)(int request, const QImage& picture);
+  /// Hands a picture from another thread to this item, if it is still there.
+  std::function<void(QImage)> receiver(Take take);
+  void takeStored(int request, const QImage& picture);
+  void takeStandIn(int request, const QImage& picture);
+  void show(const QImage& picture);
 
   QString stem_ = QStringLiteral("original");
   int styleNumber_ = -1;
   bool dark_ = false;
   int revision_ = 0;
   qreal radius_ = 0;
+  QString standIn_;
   QImage picture_;
   bool missing_ = false;
   Wish wish_;

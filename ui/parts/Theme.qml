@@ -8,6 +8,7 @@ QtObject {
     readonly property color card: Qt.rgba(0.17, 0.17, 0.18, 1)
     readonly property color backdrop: Qt.rgba(0.07, 0.07, 0.07, 1)
     readonly property color tick: Qt.rgba(0.2, 0.78, 0.35, 1)
+    readonly property color blue: Qt.rgba(0.04, 0.52, 1, 1)
     readonly property color grey: Qt.rgba(0.56, 0.56, 0.58, 1)
     readonly property color text: "white"
     readonly property color quietText: Qt.rgba(0.92, 0.92, 0.96, 0.72)

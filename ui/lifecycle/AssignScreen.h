@@ -1,0 +1,59 @@
+// The assigning of a widget style to a wallpaper style as QML sees it.
+#pragma once
+
+#include "core/faces/FamilyScreens.h"
+#include "ui/lifecycle/FamilyWords.h"
+#include "ui/parts/FaceItem.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QStringList>
+
+#include <memory>
+
+namespace vitrelle::ui {
+
+class AssignScreen : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("the gallery makes it")
+  Q_PROPERTY(vitrelle::ui::FamilyWords words READ words CONSTANT)
+  Q_PROPERTY(vitrelle::ui::Face face READ face NOTIFY changed)
+  Q_PROPERTY(vitrelle::ui::BackdropName backdrop READ backdrop NOTIFY changed)
+  Q_PROPERTY(qreal previewWidth READ previewWidth CONSTANT)
+  Q_PROPERTY(qreal previewHeight READ previewHeight CONSTANT)
+  Q_PROPERTY(QStringList options READ options NOTIFY changed)
+  /// Which of the options is picked; -1 when the wallpaper style that is picked does not exist.
+  Q_PROPERTY(int picked READ picked NOTIFY changed)
+  Q_PROPERTY(QString alertTitle READ alertTitle NOTIFY changed)
+  Q_PROPERTY(QString alertMessage READ alertMessage NOTIFY changed)
+
+ public:
+  AssignScreen(const Platform& platform, const FamilyScreens& family, std::int64_t configNumber);
+
+  FamilyWords words() const { return FamilyWords(screen_->words()); }
+  Face face() const { return Face::of(screen_->face(previewSize_)); }
+  BackdropName backdrop() const { return BackdropName::of(screen_->img()); }
+  qreal previewWidth() const { return previewSize_.width; }
+  qreal previewHeight() const { return previewSize_.height; }
+  QStringList options() const;
+  int picked() const;
+  QString alertTitle() const { return qText(screen_->alert().value_or(Alert{}).title); }
+  QString alertMessage() const { return qText(screen_->alert().value_or(Alert{}).message); }
+
+  Q_INVOKABLE void appear() { screen_->appear(); }
+  Q_INVOKABLE void pick(int option);
+  /// Whether the screen is done.
+  Q_INVOKABLE bool save() { return screen_->save(); }
+  Q_INVOKABLE void dismissAlert() { screen_->dismissAlert(); }
+
+ Q_SIGNALS:
+  void changed();
+
+ private:
+  std::unique_ptr<StyleAssign> screen_;
+  PointSize previewSize_;
+  Subscription view_;
+};
+
+} // namespace vitrelle::ui

@@ -1,0 +1,51 @@
+// A row that shows what was picked and opens the picking of another.
+import QtQuick
+import Vitrelle
+
+Pressable {
+    id: row
+
+    required property string title
+    required property string value
+    property string mark: "chevron.right"
+
+    implicitHeight: 45
+    focusRadius: 20
+    name: title + " " + value
+
+    Panel {
+        anchors.fill: parent
+    }
+    Label {
+        id: words
+        x: 15
+        anchors.verticalCenter: parent.verticalCenter
+        font.pixelSize: 16
+        font.weight: Font.DemiBold
+        text: row.title
+    }
+    Label {
+        objectName: "rowValue"
+        anchors.left: words.right
+        anchors.leftMargin: 12
+        anchors.right: sign.left
+        anchors.rightMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        horizontalAlignment: Text.AlignRight
+        wrapMode: Text.NoWrap
+        elide: Text.ElideMiddle
+        font.pixelSize: 16
+        color: Theme.quietText
+        text: row.value
+    }
+    SymbolItem {
+        id: sign
+        anchors.right: parent.right
+        anchors.rightMargin: 13
+        anchors.verticalCenter: parent.verticalCenter
+        name: row.mark
+        size: 14
+        weight: 600
+        colour: Theme.grey
+    }
+}

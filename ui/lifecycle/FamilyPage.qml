@@ -1,0 +1,82 @@
+// The entry screen of a family: new styles, the gallery, the preview.
+import QtQuick
+import Vitrelle
+
+Page {
+    id: page
+    objectName: "familyPage"
+
+    required property FamilyScreen family
+
+    title: family.words.entryTitle
+    Component.onCompleted: family.appear()
+
+    Column {
+        anchors.centerIn: parent
+        spacing: 16
+
+        SymbolItem {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: page.family.words.entrySymbol
+            size: 72
+            colour: Theme.accent
+        }
+        Item {
+            width: 1
+            height: 14
+        }
+        ActionButton {
+            objectName: "create"
+            name: SharedWords.create
+            symbol: "plus"
+            onPressed: page.family.tapCreate()
+        }
+        ActionButton {
+            objectName: "gallery"
+            strong: false
+            name: SharedWords.gallery
+            symbol: SharedWords.gallerySymbol
+            onPressed: page.family.tapGallery()
+        }
+        ActionButton {
+            objectName: "preview"
+            strong: false
+            name: SharedWords.preview
+            symbol: "iphone"
+            onPressed: page.family.tapPreview()
+        }
+    }
+    overlay: [
+        Repeater {
+            model: ["setup", "gallery", "preview"]
+
+            Sheet {
+                id: sheet
+                required property string modelData
+
+                objectName: modelData + "Sheet"
+                shown: modelData === "setup" ? page.family.showCreate : modelData === "gallery" ? page.family.showGallery : page.family.showPreview
+                onDismissed: page.family.dismissSheet()
+
+                Loader {
+                    anchors.fill: parent
+                    focus: true
+                    active: sheet.present
+                    sourceComponent: StyleFlow {
+                        focus: true
+                        family: page.family
+                        start: sheet.modelData
+                        onClosed: page.family.dismissSheet()
+                    }
+                }
+            }
+        },
+        AlertBox {
+            objectName: "familyAlert"
+            title: page.family.alertTitle
+            message: page.family.alertMessage
+            shown: page.family.alertTitle !== ""
+            onDismissed: page.family.dismissAlert()
+        }
+    ]
+}

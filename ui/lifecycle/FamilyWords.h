@@ -1,0 +1,66 @@
+// The words of a family, and what stands behind its widgets, as QML values.
+#pragma once
+
+#include "core/lifecycle/Backdrop.h"
+#include "core/lifecycle/FamilyTable.h"
+
+#include <QObject>
+#include <QString>
+#include <QtQmlIntegration>
+
+#include <optional>
+#include <string_view>
+
+namespace vitrelle::ui {
+
+inline QString qText(std::string_view words) {
+  return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
+}
+
+struct FamilyWords {
+  Q_GADGET
+  QML_VALUE_TYPE(familyWords)
+  Q_PROPERTY(QString entryTitle MEMBER entryTitle CONSTANT)
+  Q_PROPERTY(QString entrySymbol MEMBER entrySymbol CONSTANT)
+  Q_PROPERTY(QString galleryTitle MEMBER galleryTitle CONSTANT)
+  Q_PROPERTY(QString assignItem MEMBER assignItem CONSTANT)
+  Q_PROPERTY(QString assignTitle MEMBER assignTitle CONSTANT)
+
+ public:
+  explicit FamilyWords(const FamilyDescription& words)
+      : entryTitle(qText(words.entryTitle)),
+        entrySymbol(qText(words.entrySymbol)),
+        galleryTitle(qText(words.galleryTitle)),
+        assignItem(qText(words.assignItem)),
+        assignTitle(qText(words.assignTitle)) {}
+  FamilyWords() = default;
+
+  QString entryTitle;
+  QString entrySymbol;
+  QString galleryTitle;
+  QString assignItem;
+  QString assignTitle;
+};
+
+/// Which stored picture; style number -1 stands for the program's own.
+struct BackdropName {
+  Q_GADGET
+  QML_VALUE_TYPE(backdropName)
+  Q_PROPERTY(QString stem MEMBER stem CONSTANT)
+  Q_PROPERTY(int styleNumber MEMBER styleNumber CONSTANT)
+  Q_PROPERTY(bool dark MEMBER dark CONSTANT)
+
+ public:
+  QString stem;
+  int styleNumber = -1;
+  bool dark = false;
+
+  static BackdropName of(const std::optional<SliceName>& slice) {
+    if (!slice) return {};
+    return {QString::fromStdString(slice->stem), static_cast<int>(slice->style),
+            slice->appearance == darkStyle};
+  }
+  bool operator==(const BackdropName&) const = default;
+};
+
+} // namespace vitrelle::ui

@@ -1,0 +1,103 @@
+#include "ui/lifecycle/FormModel.h"
+
+#include "ui/lifecycle/FamilyWords.h"
+
+#include <QColor>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace vitrelle::ui {
+
+namespace {
+
+enum Role {
+  titleRole = Qt::UserRole,
+  controlRole,
+  valueRole,
+  lowestRole,
+  highestRole,
+  symbolsRole
+};
+
+QVariant qValue(const FormValue& value) {
+  struct Converter {
+    QVariant operator()(bool on) const { return on; }
+    QVariant operator()(std::int64_t number) const { return QVariant::fromValue(number); }
+    QVariant operator()(const std::string& words) const { return QString::fromStdString(words); }
+    QVariant operator()(const Colour& colour) const {
+      return QColor::fromRgbF(colour.red, colour.green, colour.blue, colour.alpha);
+    }
+  };
+  return std::visit(Converter(), value);
+}
+
+/// A value of the same kind as the row's.
+FormValue formValue(const QVariant& value, const FormValue& like) {
+  if (std::holds_alternative<bool>(like)) return value.toBool();
+  if (std::holds_alternative<std::int64_t>(like))
+    return static_cast<std::int64_t>(value.toLongLong());
+  if (std::holds_alternative<std::string>(like)) return value.toString().toStdString();
+  const auto colour = value.value<QColor>();
+  return Colour{colour.redF(), colour.greenF(), colour.blueF(), colour.alphaF()};
+}
+
+QStringList qList(const std::vector<std::string_view>& words) {
+  QStringList list;
+  for (const std::string_view word : words)
+    list += qText(word);
+  return list;
+}
+
+} // namespace
+
+int FormModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+QVariant FormModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid() || index.row() >= rowCount()) return {};
+  const ShownRow& row = rows_[static_cast<std::size_t>(index.row())];
+  switch (role) {
+  case titleRole:
+    return qText(row.title);
+  case controlRole:
+    return static_cast<int>(row.control);
+  case valueRole:
+    return qValue(row.value);
+  case lowestRole:
+    return static_cast<int>(row.range.lowest);
+  case highestRole:
+    return static_cast<int>(row.range.highest);
+  case symbolsRole:
+    return qList(row.symbols);
+  default:
+    return {};
+  }
+}
+
+QHash<int, QByteArray> FormModel::roleNames() const {
+  return {{titleRole, "title"},   {controlRole, "control"}, {valueRole, "value"},
+          {lowestRole, "lowest"}, {highestRole, "highest"}, {symbolsRole, "symbols"}};
+}
+
+void FormModel::setValue(int index, const QVariant& value) {
+  if (index < 0 || index >= rowCount()) return;
+  const ShownRow row = rows_[static_cast<std::size_t>(index)];
+  editor_.setValue(row.row, formValue(value, row.value));
+}
+
+void FormModel::refresh() {
+  std::vector<ShownRow> now = editor_.rows();
+  const bool sameRows = std::ranges::equal(now, rows_, {}, &ShownRow::row, &ShownRow::row);
+  if (!sameRows) {
+    beginResetModel();
+    rows_ = std::move(now);
+    endResetModel();
+    return;
+  }
+  rows_ = std::move(now);
+  if (!rows_.empty()) Q_EMIT dataChanged(index(0), index(rowCount() - 1), {valueRole});
+}
+
+} // namespace vitrelle::ui

@@ -1,0 +1,60 @@
+// One widget style in the gallery: its face over its wallpaper, with the tick of the current one.
+import QtQuick
+import Vitrelle
+
+Pressable {
+    id: tile
+
+    required property int index
+    required property face face
+    required property backdropName backdrop
+    required property bool current
+    required property GalleryScreen gallery
+
+    objectName: "tile" + index
+    width: gallery.tileSide
+    height: gallery.tileSide
+    focusRadius: 27
+    name: qsTrId("app.gallery.tile").arg(index + 1)
+    Accessible.description: SharedWords.galleryHint
+    onPressed: menuAsked(Qt.point(width / 2, height / 2))
+
+    WidgetBackdrop {
+        anchors.fill: parent
+        name: tile.backdrop
+        revision: tile.gallery.revision
+    }
+    FaceView {
+        anchors.fill: parent
+        face: tile.face
+    }
+    Pressable {
+        objectName: "tileTick" + tile.index
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.margins: 6
+        width: 32
+        height: 32
+        focusRadius: 20
+        role: Accessible.RadioButton
+        name: (tile.current ? qsTrId("app.gallery.current") : qsTrId("app.gallery.use")).arg(tile.index + 1)
+        Accessible.checkable: true
+        Accessible.checked: tile.current
+        onPressed: tile.gallery.tapTick(tile.index)
+
+        Rectangle { // the tick's own, which shows on any wallpaper
+            anchors.centerIn: parent
+            width: tile.gallery.tickSize - 4
+            height: width
+            radius: width / 2
+            color: "white"
+        }
+        SymbolItem {
+            objectName: "tileTickSymbol" + tile.index
+            anchors.centerIn: parent
+            name: SharedWords.tickSymbol
+            size: tile.gallery.tickSize
+            colour: tile.current ? Theme.tick : Theme.grey
+        }
+    }
+}

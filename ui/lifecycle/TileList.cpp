@@ -1,0 +1,53 @@
+#include "ui/lifecycle/TileList.h"
+
+#include "ui/lifecycle/FamilyWords.h"
+#include "ui/parts/FaceItem.h"
+
+namespace vitrelle::ui {
+
+namespace {
+
+enum Role { faceRole = Qt::UserRole, backdropRole, currentRole };
+
+} // namespace
+
+int TileList::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(tiles_.size());
+}
+
+QVariant TileList::data(const QModelIndex& index, int role) const {
+  if (!index.isValid() || index.row() >= rowCount()) return {};
+  const GalleryTile& tile = tiles_[static_cast<std::size_t>(index.row())];
+  switch (role) {
+  case faceRole:
+    return QVariant::fromValue(Face::of(tile.face));
+  case backdropRole:
+    return QVariant::fromValue(BackdropName::of(tile.backdrop));
+  case currentRole:
+    return tile.current;
+  default:
+    return {};
+  }
+}
+
+QHash<int, QByteArray> TileList::roleNames() const {
+  return {{faceRole, "face"}, {backdropRole, "backdrop"}, {currentRole, "current"}};
+}
+
+void TileList::refresh() {
+  std::vector<GalleryTile> now = gallery_.tiles();
+  if (now.size() != tiles_.size()) {
+    beginResetModel();
+    tiles_ = std::move(now);
+    endResetModel();
+    return;
+  }
+  for (std::size_t i = 0; i < now.size(); ++i) {
+    if (now[i] == tiles_[i]) continue;
+    tiles_[i] = std::move(now[i]);
+    const QModelIndex at = index(static_cast<int>(i));
+    Q_EMIT dataChanged(at, at);
+  }
+}
+
+} // namespace vitrelle::ui

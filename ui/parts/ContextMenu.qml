@@ -1,0 +1,73 @@
+// A menu over the screen: its entries are its children. Arrows move in it, Escape closes it.
+import QtQuick
+import Vitrelle
+
+FocusScope {
+    id: menu
+
+    default property alias entries: column.data
+    property bool shown: false
+    property point at
+    property Item opener
+
+    /// Opens beside a point of an item, which gets the keys back in the end.
+    function openAt(item: Item, position: point) {
+        opener = item;
+        const spot = item.mapToItem(menu, position.x, position.y);
+        at = Qt.point(Math.max(8, Math.min(spot.x, width - box.width - 8)), Math.max(8, Math.min(spot.y, height - box.height - 8)));
+        shown = true;
+        column.children[0].forceActiveFocus();
+    }
+    function close() {
+        shown = false;
+        if (opener)
+            opener.forceActiveFocus();
+    }
+
+    anchors.fill: parent
+    z: 2
+    visible: shown
+    Keys.onEscapePressed: close()
+    Keys.onBackPressed: close()
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.AllButtons
+        onPressed: menu.close()
+        onWheel: {} // what is behind stays
+    }
+    ContinuousRectangle {
+        id: box
+        x: menu.at.x
+        y: menu.at.y
+        width: 250
+        height: Math.min(column.height, menu.height - 16)
+        radius: 13
+        colour: Theme.card
+        borderColour: Qt.rgba(1, 1, 1, 0.15)
+        borderWidth: 1
+
+        Flickable {
+            anchors.fill: parent
+            contentHeight: column.height
+            clip: contentHeight > height
+            boundsBehavior: Flickable.StopAtBounds
+            interactive: contentHeight > height
+
+            Column {
+                id: column
+                width: parent.width
+
+                function move(step: int) {
+                    const all = children.filter(child => child.activeFocusOnTab && child.visible && child.enabled);
+                    const now = all.findIndex(child => child.activeFocus);
+                    const next = all[Math.max(0, Math.min(all.length - 1, now + step))];
+                    if (next)
+                        next.forceActiveFocus();
+                }
+                Keys.onUpPressed: move(-1)
+                Keys.onDownPressed: move(1)
+            }
+        }
+    }
+}

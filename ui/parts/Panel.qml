@@ -1,0 +1,10 @@
+// The ground of a row or a panel of a form.
+import QtQuick
+import Vitrelle
+
+ContinuousRectangle {
+    implicitWidth: Shell.screenWidth - 60
+    implicitHeight: 45
+    radius: 16
+    colour: Qt.rgba(0.17, 0.17, 0.18, Shell.dark ? 1 : 0.55)
+}
