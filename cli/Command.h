@@ -27,6 +27,9 @@ struct CommandContext {
   std::function<const Platform&()> platform;
   /// Delivers what the platform watches; returns when the user interrupts the program.
   std::function<void()> runLoop;
+  /// Set where commands that draw belong to another program: becomes that one, with the same
+  /// arguments, and returns only when it can't.
+  std::function<void()> handOver;
   Exit exit = Exit::done;
 };
 
@@ -39,6 +42,7 @@ void complain(const Failure& failure);
 // One for each command, in a file of its own. Each adds its subcommand, whose callback runs it.
 void addCutCommand(CLI::App& program, CommandContext& context);
 void addDefaultsCommand(CLI::App& program, CommandContext& context);
+void addFaceCommand(CLI::App& program, CommandContext& context);
 void addOpenCommand(CLI::App& program, CommandContext& context);
 void addPaletteCommand(CLI::App& program, CommandContext& context);
 void addPhoneCommand(CLI::App& program, CommandContext& context);

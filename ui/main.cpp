@@ -1,13 +1,12 @@
 // The application: puts the platform, the screens and the window together.
 
-#include "cli/Options.h"
+#include "cli/HostOptions.h"
 #include "core/app/SceneDelegate.h"
 #include "core/slicing/WidgetLocation.h"
 #include "host/Host.h"
 #include "host/desktop/AppInstance.h"
 #include "host/desktop/QtLoop.h"
-#include "host/drawing/Fonts.h"
-#include "host/drawing/Rasteriser.h"
+#include "host/drawing/DrawingProcess.h"
 #include "ui/Shell.h"
 #include "ui/Trouble.h"
 #include "ui/Words.h"
@@ -42,13 +41,6 @@ struct Arguments {
   bool gl = false;
   std::vector<std::string> links;
 };
-
-host::HostOptions hostOptions(const cli::Options& options) {
-  return {
-      .home = options.home ? host::HomeFolder(*options.home) : host::HomeFolder::ofUser(),
-      .phone = {.identifier = options.phoneIdentifier, .os = options.os, .zoomed = options.zoomed},
-      .verbose = options.verbose};
-}
 
 void parse(int argc, char** argv, Arguments& arguments) {
   CLI::App program("Home-screen widgets that look like holes in the wallpaper.", "vitrelle-app");
@@ -140,7 +132,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
   ui::Shell* shell = nullptr; // what happens before there is one has nobody to tell it to
   bool suspended = false;
   Platform platform = ui::withTroubleTold(
-      host::makePlatform(hostOptions(arguments.options), loop), [&](const Failure& failure) {
+      host::makePlatform(cli::hostOptions(arguments.options), loop), [&](const Failure& failure) {
         if (shell == nullptr) return;
         shell->showNotice(qtTrId("app.store.readOnly")
                               .arg(QString::fromStdString(failure.what + ": " + failure.why)));
@@ -151,8 +143,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
   };
 
   platform.device.userInterfaceStyle = appearanceOf(arguments);
-  platform.drawing = host::makeDrawing(platform.symbols);
-  platform.fonts = host::makeFonts();
+  host::useDrawing(platform);
 
   AppDelegate(platform).didFinishLaunching();
   const SceneDelegate scene(platform);
@@ -199,7 +190,7 @@ int run(int argc, char** argv) {
 
   const host::EventLoop loop = host::makeQtLoop();
   if (!arguments.screenshot.empty()) return runWindow(arguments, loop, nullptr);
-  const host::HomeFolder home = hostOptions(arguments.options).home;
+  const host::HomeFolder home = cli::hostOptions(arguments.options).home;
   const auto instance = host::AppInstance::claim(home, loop);
   if (!instance) { // such as a home that can't be written to; it can still be looked at
     std::fprintf(stderr, "vitrelle-app: %s: %s\n", instance.failure().what.c_str(),

@@ -1,7 +1,6 @@
 #include "tests/ui/UiTest.h"
 
-#include "host/drawing/Fonts.h"
-#include "host/drawing/Rasteriser.h"
+#include "host/drawing/DrawingProcess.h"
 #include "ui/Words.h"
 
 #include <QGuiApplication>
@@ -90,8 +89,7 @@ UiTest::UiTest() {
                             return square;
                           },
                       .match = [](const std::string&) { return SymbolMatch::alias; }};
-  platform.drawing = host::makeDrawing(platform.symbols);
-  platform.fonts = host::makeFonts();
+  host::useDrawing(platform);
   platform.widgetCenter.watchReloads = [](const std::function<void()>&) { return Subscription(); };
   defaults.values(Suite::standard)["last_used_app_version"] = std::string("2.2");
 }

@@ -1,0 +1,22 @@
+// What the programs of the command line have in common: parsing, running one command, exit
+// statuses.
+#pragma once
+
+#include "cli/Command.h"
+
+#include <functional>
+#include <vector>
+
+namespace vitrelle::cli {
+
+struct Program {
+  std::vector<void (*)(CLI::App&, CommandContext&)> commands;
+  std::function<Platform(const Options&)> makePlatform;
+  std::function<void()> runLoop;
+  std::function<void()> handOver; ///< see `CommandContext`
+};
+
+/// The exit status.
+int runProgram(int argc, char** argv, const Program& program);
+
+} // namespace vitrelle::cli

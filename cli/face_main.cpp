@@ -1,0 +1,23 @@
+// The command line's other program: the commands that draw.
+
+#include "cli/HostOptions.h"
+#include "cli/Program.h"
+#include "host/desktop/PollLoop.h"
+#include "host/drawing/DrawingProcess.h"
+
+int main(int argc, char** argv) {
+  using namespace vitrelle;
+  host::PollLoop loop;
+  const host::DrawingProcess drawing;
+  return cli::runProgram(argc, argv,
+                         {.commands = {cli::addFaceCommand},
+                          .makePlatform =
+                              [&](const cli::Options& options) {
+                                Platform platform = host::makePlatform(cli::hostOptions(options),
+                                                                       loop.operations());
+                                drawing.use(platform);
+                                return platform;
+                              },
+                          .runLoop = [&] { loop.run(); },
+                          .handOver = {}});
+}
