@@ -47,12 +47,14 @@ QPoint Driver::middle(const QString& objectName) const {
   const auto now = [item] {
     return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
   };
-  // Pages come in from the side.
+  // Pages come in from the side, and are not to be pressed before they are at rest.
   const QRect screen(QPoint(), shell_.window()->size());
   QPoint last = now();
+  int rests = 0;
   EXPECT_TRUE(eventually([&] {
     const QPoint before = std::exchange(last, now());
-    return before == last && screen.contains(last);
+    rests = before == last && screen.contains(last) ? rests + 1 : 0;
+    return rests == 3;
   })) << objectName.toStdString();
   return last;
 }

@@ -55,9 +55,18 @@ void FontList::setWords(const QString& words) {
 }
 
 void FontList::appear() {
-  beginResetModel();
-  families_ = fontFamilies(platform().fonts, words_.trimmed().toStdString());
-  endResetModel();
+  // Not a reset: views stumble over one while they still make rows of the old list.
+  if (!families_.empty()) {
+    beginRemoveRows({}, 0, rowCount() - 1);
+    families_.clear();
+    endRemoveRows();
+  }
+  std::vector<FontFamily> found = fontFamilies(platform().fonts, words_.trimmed().toStdString());
+  if (!found.empty()) {
+    beginInsertRows({}, 0, static_cast<int>(found.size()) - 1);
+    families_ = std::move(found);
+    endInsertRows();
+  }
   Q_EMIT wordsChanged();
 }
 

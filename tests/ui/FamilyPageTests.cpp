@@ -1,0 +1,213 @@
+#include "tests/ui/UiTest.h"
+
+#include "core/store/GroupStore.h"
+
+#include <gtest/gtest.h>
+
+namespace vitrelle {
+namespace {
+
+class FamilyPageTest : public test::UiTest {
+ protected:
+  std::vector<textWidgetData> records() {
+    return GroupStore(platform).loadRecords(families::text);
+  }
+  void store(int count) {
+    std::vector<textWidgetData> all;
+    for (int i = 0; i < count; ++i) {
+      textWidgetData record = newRecord(families::text, all);
+      record.textWidgetText = "Words " + std::to_string(i);
+      all.push_back(record);
+    }
+    GroupStore(platform).saveRecords(families::text, all);
+    console.reloads = 0;
+  }
+  void openAt(const char* screen) {
+    open({.screen = QString::fromLatin1(screen), .framed = false, .animated = false});
+  }
+  void type(const QString& words) {
+    for (const QChar c : words)
+      QTest::keyClick(shell->window(), c.toLatin1());
+  }
+  void waitFor(const char* objectName) {
+    EXPECT_TRUE(driver->eventually([&] { return driver->isShown(objectName); })) << objectName;
+  }
+  void waitForEndOf(const char* objectName) {
+    EXPECT_TRUE(driver->eventually([&] { return !driver->isShown(objectName); })) << objectName;
+  }
+  /// The colours of the wallpaper are worked out a moment after the page is there.
+  void suggest() {
+    EXPECT_TRUE(driver->eventually([&] {
+      surroundings.pass(1);
+      return driver->isShown("swatches");
+    }));
+  }
+  QString text(const char* objectName) {
+    return driver->find(objectName)->property("text").toString();
+  }
+};
+
+TEST_F(FamilyPageTest, style_isMadeFromTheRootFoundAndEdited) {
+  setNumber("amountOfConfigs", 1);
+  addStyle(0);
+  open();
+  driver->click("widgetCentreButton");
+  driver->click("create");
+  waitFor("setupPage");
+  driver->click("textField");
+  type("Hi there");
+  driver->click("stepUp");
+  driver->click("toggle");
+  driver->click("saveAndContinue");
+  ASSERT_EQ(records().size(), 1U);
+  EXPECT_EQ(records()[0].textWidgetText, "Hi there");
+  EXPECT_EQ(records()[0].textWidgetSize, 19);
+  EXPECT_FALSE(records()[0].textWidgetShadow);
+
+  waitFor("colourPage");
+  EXPECT_TRUE(driver->isShown("spinner"));
+  suggest();
+  driver->click("colourWell");
+  waitFor("colourChooser");
+  driver->find("hexField")->forceActiveFocus();
+  driver->key(Qt::Key_A, Qt::ControlModifier);
+  type("FF8000");
+  driver->click("chooserClose");
+  driver->click("saveAndExit");
+  EXPECT_EQ(records()[0].textWidgetTextColour.hex(false), "FF8000");
+  EXPECT_EQ(number("textSelectedConfig"), 0);
+  waitForEndOf("setupSheet");
+
+  driver->click("gallery");
+  waitFor("tile0");
+  driver->click("tile0", Qt::RightButton);
+  driver->click("editEntry");
+  waitFor("setupPage");
+  EXPECT_EQ(text("textField"), "Hi there");
+  EXPECT_EQ(text("stepperWords"), "Size: 19");
+  driver->find("textField")->forceActiveFocus();
+  type("!");
+  driver->click("saveAndContinue");
+  waitFor("colourPage");
+  suggest();
+  driver->click("saveAndExit");
+  waitFor("galleryPage");
+  waitForEndOf("colourPage");
+  EXPECT_EQ(records()[0].textWidgetText, "Hi there!");
+  EXPECT_EQ(records()[0].textWidgetTextColour.hex(false), "FF8000");
+  driver->click("sheetClose");
+  waitForEndOf("gallerySheet");
+}
+
+TEST_F(FamilyPageTest, limits_areTold) {
+  openAt("ModernCustomTextView");
+  driver->click("preview");
+  EXPECT_EQ(text("alertTitle"), "Cannot open Widget Preview");
+  driver->key(Qt::Key_Escape);
+  driver->click("gallery");
+  waitFor("galleryPlaceholder");
+  EXPECT_EQ(text("galleryPlaceholder"), "No Text Widget Styles");
+  driver->key(Qt::Key_Escape);
+  waitForEndOf("gallerySheet");
+
+  store(12);
+  driver->key(Qt::Key_Escape); // to the root and back: the page reads the store when it appears
+  openAt("ModernCustomTextView");
+  driver->click("create");
+  EXPECT_EQ(text("alertTitle"), "Cannot Create Text Widget Style");
+  EXPECT_FALSE(driver->isShown("setupPage"));
+}
+
+TEST_F(FamilyPageTest, gallery_ticksAndLinksAndRefuses) {
+  setNumber("amountOfConfigs", 2);
+  addStyle(0);
+  addStyle(1);
+  store(3);
+  openAt("ModernCustomTextGalleryView");
+  driver->click("tileTick1");
+  EXPECT_EQ(number("textSelectedConfig"), 1);
+  EXPECT_EQ(console.reloads, 2) << "the root's and the tick's";
+  driver->click("tileTick1");
+  EXPECT_EQ(console.reloads, 2);
+
+  driver->click("tile2", Qt::RightButton);
+  driver->click("assignEntry");
+  waitFor("assignPage");
+  EXPECT_EQ(driver->find("assignPage")->property("title"), "Link Time Style");
+  EXPECT_EQ(text("rowValue"), "1");
+  driver->click("assignPicker");
+  driver->click("option2");
+  driver->click("saveAndExit");
+  waitForEndOf("assignSheet");
+  EXPECT_EQ(records()[2].textLinkedConfig, 1);
+
+  driver->click("tile0", Qt::RightButton);
+  driver->click("assignEntry");
+  waitFor("assignPage");
+  driver->click("assignPicker");
+  driver->click("option2");
+  driver->click("saveAndExit");
+  EXPECT_EQ(text("alertMessage"), "This Vitrelle Style already has a Text Style linked to it, "
+                                  "please pick another Vitrelle Style.");
+  EXPECT_EQ(records()[0].textLinkedConfig, 13);
+  driver->key(Qt::Key_Escape);
+  EXPECT_TRUE(driver->isShown("assignPage")) << "Escape ends the alert alone";
+  driver->key(Qt::Key_Escape);
+  waitForEndOf("assignSheet");
+}
+
+TEST_F(FamilyPageTest, font_isPickedAndLeftAsItIs) {
+  openAt("ModernCustomTextSetupView");
+  driver->click("fontRow");
+  waitFor("fontPicker");
+  type("inter");
+  driver->key(Qt::Key_Return);
+  waitForEndOf("fontSheet");
+  EXPECT_EQ(text("rowValue"), "Inter-Regular");
+  driver->click("fontRow");
+  waitFor("fontPicker");
+  EXPECT_EQ(text("currentFont"), "Inter-Regular");
+  driver->key(Qt::Key_Escape);
+  waitForEndOf("fontSheet");
+  EXPECT_EQ(text("rowValue"), "Inter-Regular");
+  EXPECT_TRUE(records().empty());
+}
+
+TEST_F(FamilyPageTest, eyedropper_takesTheColourOfAPoint) {
+  setNumber("amountOfConfigs", 1);
+  addStyle(0);
+  store(1);
+  openAt("ModernCustomTextColourView");
+  suggest();
+  driver->click("colourWell");
+  driver->click("eyedropperButton");
+  waitFor("eyedropper");
+  const QQuickItem* exit = driver->find("saveAndExit");
+  const QPoint at = exit->mapToScene(QPointF(20, exit->height() / 2)).toPoint();
+  QTest::mouseMove(shell->window(), at);
+  QTest::mouseClick(shell->window(), Qt::LeftButton, {}, at);
+  waitForEndOf("eyedropper");
+  driver->key(Qt::Key_Escape);
+  driver->click("saveAndExit");
+  EXPECT_EQ(records()[0].textWidgetTextColour.hex(false), colours::accent.hex(false));
+}
+
+TEST_F(FamilyPageTest, preview_showsEveryWallpaperAndTheWholeScreen) {
+  setNumber("amountOfConfigs", 3);
+  addStyle(0);
+  addStyle(2);
+  store(1);
+  openAt("ModernCustomTextPreviewView");
+  waitFor("wallpaper0");
+  driver->key(Qt::Key_Right);
+  driver->key(Qt::Key_Right);
+  EXPECT_EQ(driver->find("previewPager")->property("currentIndex"), 2);
+  driver->click("previewButton");
+  waitFor("wholePreview");
+  driver->key(Qt::Key_Escape);
+  EXPECT_FALSE(driver->isShown("wholePreview"));
+  EXPECT_TRUE(driver->isShown("previewPage"));
+}
+
+} // namespace
+} // namespace vitrelle
