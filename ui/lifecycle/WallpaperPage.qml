@@ -23,10 +23,9 @@ Item {
     FaceView {
         x: wallpaper.preview.widgetBox.x * wallpaper.enlarged
         y: wallpaper.preview.widgetBox.y * wallpaper.enlarged
-        width: wallpaper.preview.widgetBox.width
-        height: wallpaper.preview.widgetBox.height
-        transformOrigin: Item.TopLeft
-        scale: wallpaper.enlarged
+        width: wallpaper.preview.widgetBox.width * wallpaper.enlarged
+        height: wallpaper.preview.widgetBox.height * wallpaper.enlarged
+        magnification: wallpaper.enlarged
         face: wallpaper.preview.face
     }
 }

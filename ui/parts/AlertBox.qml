@@ -74,6 +74,7 @@ FocusScope {
             width: parent.width
             height: 44
             focus: true
+            ringed: false // there is no other
             name: "OK"
             onPressed: alert.dismissed()
 

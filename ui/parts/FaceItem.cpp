@@ -22,10 +22,10 @@ void FaceItem::setFace(const Face& face) {
 
 void FaceItem::draw(qreal ratio) {
   drawnSize_ = size();
-  const auto image =
-      Shell::of(*qmlEngine(this))
-          .platform()
-          .drawing.render({face_.list.get(), 1}, {-bleed_, -bleed_, width(), height()}, ratio);
+  const PointRect area{-bleed_, -bleed_, width() / magnification_, height() / magnification_};
+  const auto image = Shell::of(*qmlEngine(this))
+                         .platform()
+                         .drawing.render({face_.list.get(), 1}, area, ratio * magnification_);
   const auto bitmap = image ? image->bitmap() : Result<Bitmap>(image.failure());
   if (!bitmap) return;
   picture_ = QImage(bitmap->pixels, bitmap->size.width, bitmap->size.height,

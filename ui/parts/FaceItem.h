@@ -34,6 +34,8 @@ class FaceItem : public QQuickPaintedItem {
   /// How far around the face's frame there is room, for shadows; whole points. The frame's corner
   /// is so far inside the item.
   Q_PROPERTY(qreal bleed MEMBER bleed_ NOTIFY changed)
+  /// How much larger than told the face is drawn, bleed and all.
+  Q_PROPERTY(qreal magnification MEMBER magnification_ NOTIFY changed)
 
  public:
   explicit FaceItem(QQuickItem* parent = nullptr);
@@ -50,6 +52,7 @@ class FaceItem : public QQuickPaintedItem {
 
   Face face_;
   qreal bleed_ = 0;
+  qreal magnification_ = 1;
   QImage picture_; ///< in device pixels; null until it is painted
   QSizeF drawnSize_;
 };

@@ -8,9 +8,17 @@ Pressable {
     property string symbol
 
     height: 44
+    ringed: false
     role: Accessible.MenuItem
     opacity: enabled ? (held ? 0.6 : 1) : 0.35
 
+    ContinuousRectangle {
+        anchors.fill: parent
+        anchors.margins: 3
+        visible: entry.activeFocus
+        radius: 10
+        colour: Qt.rgba(1, 1, 1, 0.12)
+    }
     Label {
         x: 16
         anchors.verticalCenter: parent.verticalCenter

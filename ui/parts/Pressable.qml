@@ -8,6 +8,7 @@ Item {
     required property string name // for those who can't see it
     property int role: Accessible.Button
     property real focusRadius: 12
+    property bool ringed: true // else it shows in its own way where the keys go
     readonly property bool held: tap.pressed
 
     signal pressed
@@ -41,7 +42,7 @@ Item {
         cursorShape: Qt.PointingHandCursor
     }
     FocusRing {
-        shown: pressable.activeFocus
+        shown: pressable.activeFocus && pressable.ringed
         radius: pressable.focusRadius
     }
 }

@@ -65,7 +65,8 @@ FocusScope {
             anchors.leftMargin: 10
             anchors.right: page.hasClose ? close.left : parent.right
             anchors.rightMargin: 10
-            anchors.verticalCenter: parent.verticalCenter
+            height: parent.height
+            verticalAlignment: Text.AlignVCenter
             font.pixelSize: 24
             minimumPixelSize: 13
             fontSizeMode: Text.HorizontalFit

@@ -29,7 +29,7 @@ FocusScope {
     FontList {
         id: fonts
         nameWidth: page.width - 100
-        nameHeight: 44
+        nameHeight: 34 // of one line
         onFontPicked: postScriptName => page.picked(postScriptName)
         onDismissed: page.closed()
     }
@@ -175,6 +175,7 @@ FocusScope {
             }
             FaceView {
                 x: 30
+                y: (row.height - height) / 2
                 width: fonts.nameWidth
                 height: fonts.nameHeight
                 bleed: 0
