@@ -6,6 +6,7 @@
 #include "ui/app/RootScreen.h"
 #include "ui/lifecycle/FamilyScreen.h"
 #include "ui/parts/PictureSource.h"
+#include "ui/pickers/FontScreen.h"
 #include "ui/slicing/IntakeScreen.h"
 
 #include <QObject>
@@ -88,6 +89,7 @@ class Shell final : public QObject {
   /// Which family and which of its screens a type name stands for: "text", "gallery". The screen is
   /// empty for another name.
   Q_INVOKABLE vitrelle::ui::FamilyPart familyPart(const QString& screen) const;
+  Q_INVOKABLE vitrelle::ui::FontScreen* fonts() const { return new FontScreen(platform_); }
   /// What a form shows for a font's name.
   Q_INVOKABLE static QString fontWords(const QString& name) {
     return qText(vitrelle::fontWords(name.toStdString()));

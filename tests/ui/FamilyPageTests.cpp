@@ -9,9 +9,7 @@ namespace {
 
 class FamilyPageTest : public test::UiTest {
  protected:
-  std::vector<textWidgetData> records() {
-    return GroupStore(platform).loadRecords(families::text);
-  }
+  std::vector<textWidgetData> records() { return GroupStore(platform).loadRecords(families::text); }
   void store(int count) {
     std::vector<textWidgetData> all;
     for (int i = 0; i < count; ++i) {

@@ -74,13 +74,13 @@ SheetPage {
         columns: page.gallery.columns
         spacing: page.gallery.spacing
 
-        function move(from: Item, by: int) {
-            const tiles = children.filter(child => child instanceof GalleryTile);
-            const next = tiles[tiles.indexOf(from) + by];
+        function move(from: int, by: int) {
+            const next = tiles.itemAt(from + by);
             if (next)
                 next.forceActiveFocus();
         }
         Repeater {
+            id: tiles
             model: page.gallery.tiles
 
             GalleryTile {
@@ -90,10 +90,10 @@ SheetPage {
                     page.asked = index;
                     menu.openAt(tile, position);
                 }
-                Keys.onLeftPressed: grid.move(tile, -1)
-                Keys.onRightPressed: grid.move(tile, 1)
-                Keys.onUpPressed: grid.move(tile, -page.gallery.columns)
-                Keys.onDownPressed: grid.move(tile, page.gallery.columns)
+                Keys.onLeftPressed: grid.move(index, -1)
+                Keys.onRightPressed: grid.move(index, 1)
+                Keys.onUpPressed: grid.move(index, -page.gallery.columns)
+                Keys.onDownPressed: grid.move(index, page.gallery.columns)
             }
         }
     }

@@ -59,11 +59,15 @@ FocusScope {
                 width: parent.width
 
                 function move(step: int) {
-                    const all = children.filter(child => child.activeFocusOnTab && child.visible && child.enabled);
-                    const now = all.findIndex(child => child.activeFocus);
-                    const next = all[Math.max(0, Math.min(all.length - 1, now + step))];
-                    if (next)
-                        next.forceActiveFocus();
+                    let now = 0;
+                    while (children[now] && !children[now].activeFocus)
+                        ++now;
+                    for (now += step; children[now]; now += step) {
+                        if (!children[now].activeFocusOnTab || !children[now].visible || !children[now].enabled)
+                            continue;
+                        children[now].forceActiveFocus();
+                        return;
+                    }
                 }
                 Keys.onUpPressed: move(-1)
                 Keys.onDownPressed: move(1)

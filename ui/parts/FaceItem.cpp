@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QQmlEngine>
+#include <QQuickWindow>
 
 namespace vitrelle::ui {
 
@@ -36,7 +37,8 @@ void FaceItem::draw(qreal ratio) {
 
 void FaceItem::paint(QPainter* painter) {
   if (face_.list == nullptr) return;
-  const qreal ratio = painter->device()->devicePixelRatioF();
+  // The painter's own device may not know it yet.
+  const qreal ratio = window() != nullptr ? window()->effectiveDevicePixelRatio() : 1;
   if (picture_.isNull() || picture_.devicePixelRatio() != ratio || drawnSize_ != size())
     draw(ratio);
   if (!picture_.isNull()) painter->drawImage(QPointF(0, 0), picture_);

@@ -1,11 +1,10 @@
-// The font families to pick from, searched, each with its name set in its own face.
+// The font families to pick from as a QML model, each with its name set in its own face.
 #pragma once
 
-#include "core/pickers/FontPicker.h"
+#include "core/platform/Platform.h"
 
 #include <QAbstractListModel>
 #include <QQmlEngine>
-#include <QString>
 
 #include <vector>
 
@@ -14,39 +13,23 @@ namespace vitrelle::ui {
 class FontList : public QAbstractListModel {
   Q_OBJECT
   QML_ELEMENT
-  Q_PROPERTY(QString words MEMBER words_ WRITE setWords NOTIFY wordsChanged)
-  /// The room that a name has, points.
-  Q_PROPERTY(qreal nameWidth MEMBER nameWidth_ NOTIFY roomChanged)
-  Q_PROPERTY(qreal nameHeight MEMBER nameHeight_ NOTIFY roomChanged)
-  Q_PROPERTY(int count READ count NOTIFY wordsChanged)
+  QML_UNCREATABLE("a picker has it")
 
  public:
-  explicit FontList(QObject* parent = nullptr) : QAbstractListModel(parent) {}
+  /// Each name is set in so much room, points.
+  FontList(const Platform& platform, const PointSize& nameRoom)
+      : platform_(platform), nameRoom_(nameRoom) {}
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
   QHash<int, QByteArray> roleNames() const override;
-  int count() const { return rowCount(); }
-  void setWords(const QString& words);
-  /// Reads the installed fonts.
-  Q_INVOKABLE void appear();
-  /// The user's choice, told by the signals below.
-  Q_INVOKABLE void pick(int index);
-  /// Where a font is in the list, -1 if it is not.
-  Q_INVOKABLE int indexOf(const QString& postScriptName) const;
 
- Q_SIGNALS:
-  void wordsChanged();
-  void roomChanged();
-  void fontPicked(const QString& postScriptName);
-  void dismissed();
+  const std::vector<FontFamily>& families() const { return families_; }
+  void show(std::vector<FontFamily> families);
 
  private:
-  const Platform& platform() const;
-
-  QString words_;
-  qreal nameWidth_ = 0;
-  qreal nameHeight_ = 0;
+  const Platform& platform_;
+  const PointSize nameRoom_;
   std::vector<FontFamily> families_;
 };
 

@@ -7,6 +7,7 @@ FocusScope {
     objectName: "fontPicker"
 
     required property string fontPicked // the name that is set now
+    readonly property FontScreen fonts: Shell.fonts()
 
     signal picked(string postScriptName)
     signal closed
@@ -14,8 +15,8 @@ FocusScope {
     Keys.onEscapePressed: closed()
     Keys.onBackPressed: closed()
     Component.onCompleted: {
-        fonts.appear();
-        const now = fonts.indexOf(page.fontPicked);
+        page.fonts.search("");
+        const now = page.fonts.indexOf(page.fontPicked);
         list.currentIndex = now;
         if (now >= 0)
             list.positionViewAtIndex(now, ListView.Center);
@@ -26,12 +27,14 @@ FocusScope {
         anchors.fill: parent
         color: Theme.backdrop
     }
-    FontList {
-        id: fonts
-        nameWidth: page.width - 100
-        nameHeight: 34 // of one line
-        onFontPicked: postScriptName => page.picked(postScriptName)
-        onDismissed: page.closed()
+    Connections {
+        target: page.fonts
+        function onFontPicked(postScriptName: string) {
+            page.picked(postScriptName);
+        }
+        function onDismissed() {
+            page.closed();
+        }
     }
     Item {
         id: header
@@ -117,13 +120,13 @@ FocusScope {
             Accessible.role: Accessible.EditableText
             Accessible.name: qsTrId("app.search")
             onTextEdited: {
-                fonts.words = text;
-                list.currentIndex = text === "" ? fonts.indexOf(page.fontPicked) : (fonts.count > 0 ? 0 : -1);
+                page.fonts.search(text);
+                list.currentIndex = text === "" ? page.fonts.indexOf(page.fontPicked) : (page.fonts.count > 0 ? 0 : -1);
             }
             Keys.onDownPressed: list.incrementCurrentIndex()
             Keys.onUpPressed: list.decrementCurrentIndex()
-            Keys.onReturnPressed: fonts.pick(list.currentIndex)
-            Keys.onEnterPressed: fonts.pick(list.currentIndex)
+            Keys.onReturnPressed: page.fonts.pick(list.currentIndex)
+            Keys.onEnterPressed: page.fonts.pick(list.currentIndex)
         }
         FocusRing {
             shown: search.activeFocus
@@ -132,7 +135,7 @@ FocusScope {
     }
     Label {
         anchors.centerIn: list
-        visible: fonts.count === 0
+        visible: page.fonts.count === 0
         color: Theme.quietText
         text: qsTrId("app.fonts.none")
     }
@@ -144,14 +147,14 @@ FocusScope {
         anchors.bottom: parent.bottom
         width: parent.width
         clip: true
-        model: fonts
+        model: page.fonts.list
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
         currentIndex: -1
         activeFocusOnTab: true
         bottomMargin: Theme.bottomInset
-        Keys.onReturnPressed: fonts.pick(currentIndex)
-        Keys.onSpacePressed: fonts.pick(currentIndex)
+        Keys.onReturnPressed: page.fonts.pick(currentIndex)
+        Keys.onSpacePressed: page.fonts.pick(currentIndex)
 
         delegate: Pressable {
             id: row
@@ -166,7 +169,7 @@ FocusScope {
             height: 44
             activeFocusOnTab: false
             role: Accessible.ListItem
-            onPressed: fonts.pick(index)
+            onPressed: page.fonts.pick(index)
 
             Rectangle {
                 anchors.fill: parent
@@ -176,8 +179,8 @@ FocusScope {
             FaceView {
                 x: 30
                 y: (row.height - height) / 2
-                width: fonts.nameWidth
-                height: fonts.nameHeight
+                width: page.fonts.nameWidth
+                height: page.fonts.nameHeight
                 bleed: 0
                 face: row.face
             }

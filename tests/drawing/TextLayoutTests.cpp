@@ -1,0 +1,59 @@
+#include "host/drawing/TextLayout.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace vitrelle::host {
+namespace {
+
+constexpr double endless = std::numeric_limits<double>::infinity();
+
+TextLayout layOut(const char* text, double width, double height, double size = 20) {
+  return layOutText(QString::fromUtf8(text), {.name = {}, .size = size}, {width, height});
+}
+
+TEST(TextLayout, lines_breakAtWordsAndInsideLongOnes) {
+  const double oneLine = layOut("x", endless, endless).size.height;
+  EXPECT_EQ(layOut("", endless, endless).size, (PointSize{0, oneLine}));
+  EXPECT_EQ(layOut("one two", endless, endless).lines.size(), 1U);
+  EXPECT_EQ(layOut("one two", 45, endless).lines.size(), 2U);
+  EXPECT_EQ(layOut("one\ntwo\r\n", endless, endless).lines.size(), 3U);
+  const TextLayout longWord = layOut("Donaudampfschiff", 60, endless);
+  EXPECT_GT(longWord.lines.size(), 2U);
+  EXPECT_LE(longWord.size.width, 60);
+}
+
+TEST(TextLayout, whatDoesNotFit_endsInDots) {
+  const TextLayout whole = layOut("one two three four", 52, endless);
+  const TextLayout cut = layOut("one two three four", 52, 55);
+  EXPECT_EQ(whole.lines.size(), 4U);
+  ASSERT_EQ(cut.lines.size(), 2U);
+  EXPECT_LE(cut.size.height, 55);
+  EXPECT_EQ(cut.lines[0].width, whole.lines[0].width);
+  EXPECT_GT(cut.lines[1].width, whole.lines[1].width) << "dots follow the second word";
+  EXPECT_EQ(layOut("one two", 45, 1).lines.size(), 1U) << "one line there is always";
+  EXPECT_EQ(layOut("a\nb", endless, 30).lines.size(), 1U);
+}
+
+TEST(TextLayout, sizes_growWithTheFontAlone) {
+  const double at20 = layOut("Vitrelle", endless, endless, 20).size.width;
+  const double at80 = layOut("Vitrelle", endless, endless, 80).size.width;
+  EXPECT_NEAR(at80, 4 * at20, 1.5);
+  EXPECT_GT(layOut("Vitrelle", endless, endless, 0).size.height, 0);
+}
+
+TEST(TextLayout, direction_isThatOfTheParagraph) {
+  const TextLayout mixed = layOut("abc\nשלום abc", endless, endless);
+  EXPECT_FALSE(mixed.lines[0].rightToLeft);
+  EXPECT_TRUE(mixed.lines[1].rightToLeft);
+  EXPECT_LT(mixed.lines[1].width, 200) << "the line begins at its own left end";
+}
+
+TEST(TextLayout, combiningMarks_takeNoRoom) {
+  const double plain = layOut("e", endless, endless).size.width;
+  EXPECT_NEAR(layOut("e\u0301", endless, endless).size.width, plain, 1);
+}
+
+} // namespace
+} // namespace vitrelle::host
