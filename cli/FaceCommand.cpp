@@ -98,11 +98,11 @@ Result<DisplayList> background(const Platform& platform, const Sheet& sheet,
     return DisplayList{{DrawnPath{.path = shapes::rectangle(box),
                                   .colour = platformColour(Colour::parse(sheet.background))}}};
   }
-  const std::int64_t style = GroupStore(platform).valueOrDefault(keys::selectedConfig);
-  const InterfaceStyle appearance = platform.device.userInterfaceStyle();
-  const auto slice = ImageLoader(platform).loadSlice(sheet.slot, appearance, style);
+  const std::int64_t config = GroupStore(platform).valueOrDefault(keys::selectedConfig);
+  const InterfaceStyle style = platform.device.userInterfaceStyle();
+  const auto slice = ImageLoader(platform).loadSlice(sheet.slot, style, config);
   if (!slice) {
-    return Failure{sliceFileName(style, sheet.slot, appearance), "there is no such slice"};
+    return Failure{sliceFileName(config, sheet.slot, style), "there is no such slice"};
   }
   if (const auto bitmap = slice->bitmap(); !bitmap) return bitmap.failure();
   return DisplayList{{DrawnImage{.image = *slice, .box = box}}};

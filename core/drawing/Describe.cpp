@@ -1,6 +1,7 @@
 #include "core/drawing/Describe.h"
 
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <string_view>
 
@@ -39,7 +40,9 @@ std::string quoted(std::string_view text) {
 /// " FF8000", with the alpha behind it where it is not opaque.
 std::string words(const PlatformColour& colour) {
   char text[8];
-  const auto byte = [](double part) { return static_cast<unsigned>(part * 255 + 0.5) & 0xFFU; };
+  const auto byte = [](double part) {
+    return static_cast<unsigned>(std::lround(part * 255)) & 0xFFU;
+  };
   std::snprintf(text, sizeof text, " %02X%02X%02X", byte(colour.red), byte(colour.green),
                 byte(colour.blue));
   return text + (colour.alpha == 1 ? std::string() : " alpha" + numbers(colour.alpha));

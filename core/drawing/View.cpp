@@ -102,8 +102,8 @@ class ShapeNode final : public StretchedNode {
 
 class PictureNode final : public StretchedNode {
  public:
-  PictureNode(const Image& image, double cornerRadius)
-      : image_(image), cornerRadius_(cornerRadius) {}
+  PictureNode(Image image, double cornerRadius)
+      : image_(std::move(image)), cornerRadius_(cornerRadius) {}
   void draw(const Drawing&, const PointRect& box, const PointSize&,
             DisplayList& to) const override {
     DrawnImage drawn{.image = image_, .box = box};
@@ -373,25 +373,25 @@ View framed(const View& view, std::optional<double> width, std::optional<double>
 
 View shadowed(const View& view, const Shadow& shadow) {
   return View(std::make_shared<GroupNode>(
-      view, [shadow](const PointRect&) { return DrawnGroup{.shadow = shadow}; }));
+      view, [shadow](const PointRect&) { return DrawnGroup{.shadow = shadow, .items = {}}; }));
 }
 
 View faded(const View& view, double opacity) {
   return View(std::make_shared<GroupNode>(
-      view, [opacity](const PointRect&) { return DrawnGroup{.opacity = opacity}; }));
+      view, [opacity](const PointRect&) { return DrawnGroup{.opacity = opacity, .items = {}}; }));
 }
 
 View rotated(const View& view, double radians) {
   return View(std::make_shared<GroupNode>(view, [radians](const PointRect& box) {
     const double cosine = std::cos(radians);
     const double sine = std::sin(radians);
-    return DrawnGroup{.transform = aboutMiddle(box, cosine, sine, -sine, cosine)};
+    return DrawnGroup{.transform = aboutMiddle(box, cosine, sine, -sine, cosine), .items = {}};
   }));
 }
 
 View scaled(const View& view, double factor) {
   return View(std::make_shared<GroupNode>(view, [factor](const PointRect& box) {
-    return DrawnGroup{.transform = aboutMiddle(box, factor, 0, 0, factor)};
+    return DrawnGroup{.transform = aboutMiddle(box, factor, 0, 0, factor), .items = {}};
   }));
 }
 

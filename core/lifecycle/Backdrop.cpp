@@ -18,10 +18,10 @@ std::int64_t styleInUse(const Platform& platform) {
 }
 
 std::optional<SliceName> findSlice(const Platform& platform, WidgetLocationImageNames slot,
-                                   std::int64_t style, InterfaceStyle appearance) {
+                                   std::int64_t config, InterfaceStyle style) {
   const std::string_view stem = rawValue(slot);
-  if (!ImageLoader(platform).loadSlice(stem, appearance, style)) return std::nullopt;
-  return SliceName{std::string(stem), style, appearance};
+  if (!ImageLoader(platform).loadSlice(stem, style, config)) return std::nullopt;
+  return SliceName{std::string(stem), config, style};
 }
 
 std::optional<SliceName> currentSlice(const Platform& platform, WidgetLocationImageNames slot) {

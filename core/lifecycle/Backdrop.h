@@ -27,7 +27,7 @@ std::int64_t styleInUse(const Platform& platform);
 
 /// The slice's name if it can be loaded. Its pixels are not decoded.
 std::optional<SliceName> findSlice(const Platform& platform, WidgetLocationImageNames slot,
-                                   std::int64_t style, InterfaceStyle appearance);
+                                   std::int64_t config, InterfaceStyle style);
 
 /// The slice of the style in use in the present appearance.
 std::optional<SliceName> currentSlice(const Platform& platform, WidgetLocationImageNames slot);

@@ -19,7 +19,10 @@ char lower(char c) {
 std::vector<FontFamily> fontFamilies(const Fonts& fonts, std::string_view words) {
   std::vector<FontFamily> families = fonts.families();
   std::erase_if(families, [&](const FontFamily& family) {
-    return std::ranges::search(family.name, words, {}, lower, lower).empty() && !words.empty();
+    const auto found =
+        std::search(family.name.begin(), family.name.end(), words.begin(), words.end(),
+                    [](char a, char b) { return lower(a) == lower(b); });
+    return found == family.name.end() && !words.empty();
   });
   return families;
 }

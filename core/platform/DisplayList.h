@@ -98,7 +98,7 @@ struct DrawnGroup {
   Transform transform = {};
   double opacity = 1;
   std::optional<Shadow> shadow = std::nullopt;
-  DisplayList items = {};
+  DisplayList items;
   bool operator==(const DrawnGroup& other) const;
 };
 
