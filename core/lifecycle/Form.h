@@ -16,6 +16,7 @@ namespace vitrelle {
 
 using FormValue = std::variant<bool, std::int64_t, std::string, Colour>;
 
+/// Views know them by their order.
 enum class FormControl {
   text,       ///< a string; the title is the field's placeholder
   font,       ///< a string: a PostScript name, picked on a sheet

@@ -49,7 +49,8 @@ class StyleAssign : public Screen {
       : platform_(platform),
         words_(words),
         configNumber_(configNumber),
-        amountOfConfigs_(platform, keys::amountOfConfigs) {}
+        amountOfConfigs_(platform, keys::amountOfConfigs),
+        amountBinding_(amountOfConfigs_.onChange([this](const auto&) { changed(); })) {}
 
   const Platform& platform() const { return platform_; }
   virtual StyleRecords& stored() = 0;
@@ -67,6 +68,7 @@ class StyleAssign : public Screen {
   std::int64_t vitrelleConfig_ = 0;
   std::vector<std::int64_t> invalidConfigs_;
   bool showingAlert_ = false;
+  Subscription amountBinding_; ///< last, for it calls this screen
 };
 
 template <class Record>

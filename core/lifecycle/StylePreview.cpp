@@ -9,7 +9,8 @@ StylePreview::StylePreview(const Platform& platform, const FamilyDescription& wo
     : platform_(platform),
       words_(words),
       amountOfConfigs_(platform, keys::amountOfConfigs),
-      selectedConfig_(platform, selected) {}
+      selectedConfig_(platform, selected),
+      amountBinding_(amountOfConfigs_.onChange([this](const auto&) { changed(); })) {}
 
 void StylePreview::appear() {
   img_ = currentSlice(platform_, WidgetLocationImageNames::mediumTop);
@@ -23,10 +24,11 @@ void StylePreview::appear() {
 
 std::vector<std::optional<SliceName>> StylePreview::pages() const {
   std::vector<std::optional<SliceName>> pages;
-  const std::int64_t amount = amountOfConfigs_.getOrDefault();
-  for (std::int64_t style = 0; style < amount; ++style) {
-    auto whole = findSlice(platform_, WidgetLocationImageNames::fullImage, style, lightStyle);
-    if (!whole) whole = findSlice(platform_, WidgetLocationImageNames::fullImage, style, darkStyle);
+  const std::int64_t amount = wallpaperStyles(amountOfConfigs_.getOrDefault());
+  for (std::int64_t config = 0; config < amount; ++config) {
+    auto whole = findSlice(platform_, WidgetLocationImageNames::fullImage, config, lightStyle);
+    if (!whole)
+      whole = findSlice(platform_, WidgetLocationImageNames::fullImage, config, darkStyle);
     pages.push_back(std::move(whole));
   }
   return pages;

@@ -46,6 +46,7 @@ class StylePreview : public Screen {
   StoredValue<std::int64_t> amountOfConfigs_;
   StoredValue<std::int64_t> selectedConfig_;
   std::optional<SliceName> img_;
+  Subscription amountBinding_; ///< last, for it calls this screen
 };
 
 template <class Record>

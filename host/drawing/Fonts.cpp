@@ -2,6 +2,7 @@
 
 #include <fontconfig/fontconfig.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <map>
@@ -16,6 +17,9 @@ namespace vitrelle::host {
 namespace {
 
 constexpr const char* systemFamily = "Inter";
+
+/// No widget has room for a larger letter, and numbers in stored records may be anything.
+constexpr double largestSize = 1000;
 
 struct PatternDelete {
   void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
@@ -143,7 +147,8 @@ QFont faceOf(const Font& font, double pixelsPerPoint) {
     face.setWeight(static_cast<QFont::Weight>(font.weight));
   }
   face.setHintingPreference(QFont::PreferNoHinting);
-  face.setPixelSize(std::max(1, static_cast<int>(std::lround(font.size * pixelsPerPoint))));
+  face.setPixelSize(std::max(
+      1, static_cast<int>(std::lround(std::clamp(font.size, 0.0, largestSize) * pixelsPerPoint))));
   return face;
 }
 

@@ -15,6 +15,15 @@ namespace {
 /// Beyond all that is drawn, and still far from where the layout's fixed-point numbers end.
 constexpr double unboundedUnits = 1 << 20;
 
+/// More than a screen full of the smallest letters; what is behind it is not shown.
+constexpr qsizetype longestText = 8192;
+
+QString shortened(const QString& text) {
+  if (text.size() <= longestText) return text;
+  const bool splits = text[longestText - 1].isHighSurrogate();
+  return text.left(splits ? longestText - 1 : longestText) + QChar(0x2026);
+}
+
 double inUnits(double points) {
   return std::min(std::max(points, 0.0) * unitsPerPoint, unboundedUnits);
 }
@@ -76,8 +85,9 @@ TextLayout layOutText(const QString& text, const Font& font, const PointSize& ro
   const double height = inUnits(room.height);
   TextLayout result;
   double bottom = 0;
-  const QStringList paragraphs =
-      QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")).split(QLatin1Char('\n'));
+  const QStringList paragraphs = shortened(text)
+                                     .replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
+                                     .split(QLatin1Char('\n'));
   for (qsizetype i = 0; i < paragraphs.size(); ++i) {
     const QString& paragraph = paragraphs[i];
     QTextLayout layout(paragraph, face);

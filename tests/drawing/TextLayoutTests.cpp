@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <string>
 
 namespace vitrelle::host {
 namespace {
@@ -41,6 +42,16 @@ TEST(TextLayout, sizes_growWithTheFontAlone) {
   const double at80 = layOut("Vitrelle", endless, endless, 80).size.width;
   EXPECT_NEAR(at80, 4 * at20, 1.5);
   EXPECT_GT(layOut("Vitrelle", endless, endless, 0).size.height, 0);
+}
+
+TEST(TextLayout, hostileRecords_cannotAskForMoreThanCanBeShown) {
+  for (const double size : {-1e18, 1e9, 1e18, 4e300})
+    EXPECT_LT(layOut("x", 158, 158, size).size.height, 2000) << size;
+  const std::string endlessWord(1 << 20, 'w');
+  EXPECT_LE(layOut(endlessWord.c_str(), 158, 158, 10).lines.size(), 13U);
+  const TextLayout whole = layOut(endlessWord.c_str(), endless, endless, 10);
+  EXPECT_EQ(whole.lines.size(), 1U);
+  EXPECT_LT(whole.size.width, 100000);
 }
 
 TEST(TextLayout, direction_isThatOfTheParagraph) {

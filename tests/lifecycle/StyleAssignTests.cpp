@@ -32,6 +32,19 @@ TEST_F(StyleAssignTest, picker_offersNoneAndEveryWallpaperStyle) {
   EXPECT_TRUE(printed("[2]"));
 }
 
+TEST_F(StyleAssignTest, count_isFollowedUnlessItIsDamaged) {
+  const auto screen = assign(0);
+  int changes = 0;
+  const Subscription view = screen->onChange([&] { ++changes; });
+  ASSERT_TRUE(platform.defaults.set(Suite::group, "amountOfConfigs", std::int64_t{5}));
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(screen->options().size(), 6U);
+  setNumber("amountOfConfigs", std::int64_t{1} << 60);
+  EXPECT_LT(screen->options().size(), 1000U);
+  setNumber("amountOfConfigs", -3);
+  EXPECT_EQ(screen->options().size(), 1U);
+}
+
 TEST_F(StyleAssignTest, freeStyle_isLinked) {
   const auto screen = assign(1);
   screen->pick(3);

@@ -14,10 +14,8 @@ SheetPage {
 
     title: SharedWords.coloursTitle
     symbol: SharedWords.coloursSymbol
-    hasBack: true
-    hasClose: false
     spacing: 20
-    Component.onCompleted: editor.appear()
+    StackView.onActivating: editor.appear()
     StackView.onActivated: editor.settle()
 
     WidgetPreview {

@@ -16,10 +16,6 @@ class FormModel : public QAbstractListModel {
   QML_UNCREATABLE("an editor has it")
 
  public:
-  /// The control of a row, in the order of the logic's.
-  enum Control { Text, Font, Stepper, Toggle, Segments, ColourWell };
-  Q_ENUM(Control)
-
   explicit FormModel(StyleEditor& editor) : editor_(editor) {}
 
   int rowCount(const QModelIndex& parent = {}) const override;

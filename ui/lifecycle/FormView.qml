@@ -27,6 +27,7 @@ Column {
             required property list<string> symbols
 
             width: Shell.screenWidth - 60
+            // In the order of the controls that the logic has.
             sourceComponent: [textRow, fontRow, stepperRow, toggleRow, segmentsRow, colourRow][control]
 
             function set(now: var) {

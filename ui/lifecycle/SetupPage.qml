@@ -1,5 +1,6 @@
 // The first step of a family's editor.
 import QtQuick
+import QtQuick.Controls
 import Vitrelle
 
 SheetPage {
@@ -15,7 +16,7 @@ SheetPage {
     title: SharedWords.setupTitle
     symbol: SharedWords.setupSymbol
     spacing: 20
-    Component.onCompleted: editor.appear()
+    StackView.onActivating: editor.appear() // also on the way back from the colours
 
     WidgetPreview {
         anchors.horizontalCenter: parent.horizontalCenter

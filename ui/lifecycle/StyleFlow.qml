@@ -62,7 +62,11 @@ FocusScope {
             id: colourItem
             property GalleryScreen gallery: null
 
-            onBackAsked: stack.depth > 1 ? stack.pop() : flow.closed()
+            // A new style is made already; back in the form, its button would make another.
+            hasBack: gallery !== null
+            hasClose: gallery === null
+            onClosed: flow.closed()
+            onBackAsked: stack.pop()
             onSaved: {
                 if (!colourItem.gallery) {
                     flow.closed();
