@@ -150,8 +150,13 @@ TEST_F(FamilyPageTest, gallery_ticksAndLinksAndRefuses) {
   EXPECT_EQ(records()[0].textLinkedConfig, 13);
   driver->key(Qt::Key_Escape);
   EXPECT_TRUE(driver->isShown("assignPage")) << "Escape ends the alert alone";
-  driver->key(Qt::Key_Escape);
+  driver->click("assignPicker");
+  driver->key(Qt::Key_Left, Qt::AltModifier);
+  EXPECT_FALSE(driver->isShown("option2"));
+  EXPECT_TRUE(driver->isShown("assignPage")) << "the way back is one step";
+  driver->key(Qt::Key_Left, Qt::AltModifier);
   waitForEndOf("assignSheet");
+  EXPECT_TRUE(driver->isShown("galleryPage"));
 }
 
 TEST_F(FamilyPageTest, font_isPickedAndLeftAsItIs) {

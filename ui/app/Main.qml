@@ -10,6 +10,15 @@ Window {
     readonly property real phoneHeight: Shell.screenHeight + 2 * rim
     readonly property real fit: Shell.framed ? Math.min(1, (Screen.desktopAvailableHeight - 60) / phoneHeight) : 1
 
+    /// One step back from where the keys go: a menu, a sheet's page, a page.
+    function goBack() {
+        let item = activeFocusItem;
+        while (item && !item["goBack"])
+            item = item.parent;
+        if (item)
+            item["goBack"]();
+    }
+
     title: Shell.root.title
     width: phoneWidth * fit
     height: phoneHeight * fit
@@ -47,6 +56,6 @@ Window {
     }
     Shortcut {
         sequences: [StandardKey.Back]
-        onActivated: screens.back()
+        onActivated: window.goBack()
     }
 }

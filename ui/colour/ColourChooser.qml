@@ -39,6 +39,9 @@ FocusScope {
         opacityChosen = o;
         chosen(colour);
     }
+    function goBack() {
+        shown = false;
+    }
     function digits(of: color): string {
         return String(Qt.rgba(of.r, of.g, of.b, 1)).slice(1).toUpperCase();
     }
@@ -47,8 +50,8 @@ FocusScope {
     z: 2
     visible: box.y < height
     enabled: shown
-    Keys.onEscapePressed: shown = false
-    Keys.onBackPressed: shown = false
+    Keys.onEscapePressed: goBack()
+    Keys.onBackPressed: goBack()
 
     MouseArea {
         anchors.fill: parent

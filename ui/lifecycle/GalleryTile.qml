@@ -26,6 +26,7 @@ Pressable {
     }
     FaceView {
         anchors.fill: parent
+        bleed: 0 // a widget ends at its edge
         face: tile.face
     }
     Pressable {

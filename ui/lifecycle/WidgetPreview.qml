@@ -32,6 +32,7 @@ Column {
             id: faceView
             objectName: "previewFace"
             anchors.fill: parent
+            bleed: 0 // a widget ends at its edge
         }
     }
 }

@@ -11,6 +11,10 @@ FocusScope {
 
     signal dismissed
 
+    function goBack() {
+        dismissed();
+    }
+
     anchors.fill: parent
     visible: opacity > 0
     opacity: shown ? 1 : 0

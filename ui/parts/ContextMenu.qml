@@ -24,11 +24,15 @@ FocusScope {
             opener.forceActiveFocus();
     }
 
+    function goBack() {
+        close();
+    }
+
     anchors.fill: parent
     z: 2
     visible: shown
-    Keys.onEscapePressed: close()
-    Keys.onBackPressed: close()
+    Keys.onEscapePressed: goBack()
+    Keys.onBackPressed: goBack()
 
     MouseArea {
         anchors.fill: parent

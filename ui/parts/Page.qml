@@ -13,6 +13,10 @@ FocusScope {
 
     signal closed
 
+    function goBack() {
+        closed();
+    }
+
     Rectangle {
         anchors.fill: parent
         gradient: Gradient {

@@ -18,8 +18,15 @@ FocusScope {
     signal backAsked
     signal closed
 
-    Keys.onEscapePressed: hasBack ? backAsked() : closed()
-    Keys.onBackPressed: hasBack ? backAsked() : closed()
+    function goBack() {
+        if (hasBack)
+            backAsked();
+        else
+            closed();
+    }
+
+    Keys.onEscapePressed: goBack()
+    Keys.onBackPressed: goBack()
 
     Rectangle {
         anchors.fill: parent

@@ -12,6 +12,10 @@ FocusScope {
     signal picked(string postScriptName)
     signal closed
 
+    function goBack() {
+        closed();
+    }
+
     Keys.onEscapePressed: closed()
     Keys.onBackPressed: closed()
     Component.onCompleted: {
