@@ -11,12 +11,12 @@ Window {
     readonly property real fit: Shell.framed ? Math.min(1, (Screen.desktopAvailableHeight - 60) / phoneHeight) : 1
 
     /// One step back from where the keys go: a menu, a sheet's page, a page.
-    function goBack() {
-        let item = activeFocusItem;
-        while (item && !item["goBack"])
+    function goBack(from: var) {
+        let item = from;
+        while (item && !item.goBack)
             item = item.parent;
         if (item)
-            item["goBack"]();
+            item.goBack();
     }
 
     title: Shell.root.title
@@ -56,6 +56,6 @@ Window {
     }
     Shortcut {
         sequences: [StandardKey.Back]
-        onActivated: window.goBack()
+        onActivated: window.goBack(window.activeFocusItem)
     }
 }
