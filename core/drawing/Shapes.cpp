@@ -20,7 +20,8 @@ class Pen final {
  private:
   void add(PathCommand command, std::initializer_list<PathPoint> points) {
     path_.commands.push_back(command);
-    path_.points.insert(path_.points.end(), points);
+    for (const PathPoint& point : points)
+      path_.points.push_back(point);
   }
   Path path_;
 };
