@@ -10,13 +10,14 @@
 #include "core/store/Keys.h"
 
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <iostream>
 #include <memory>
 #include <optional>
-#include <regex>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace vitrelle::cli {
@@ -58,11 +59,20 @@ PointSize slotSize(const Platform& platform, WidgetLocationImageNames slot) {
   return {static_cast<double>(pixels.width) / scale, static_cast<double>(pixels.height) / scale};
 }
 
+/// "158x158", "98.25x40".
 std::optional<PointSize> parseFrame(const std::string& text) {
-  static const std::regex form("([0-9]{1,4}(?:\\.[0-9]+)?)x([0-9]{1,4}(?:\\.[0-9]+)?)");
-  std::smatch part;
-  if (!std::regex_match(text, part, form)) return std::nullopt;
-  return PointSize{std::stod(part[1]), std::stod(part[2])};
+  constexpr double largest = 9999;
+  const std::size_t times = text.find('x');
+  if (times == std::string::npos) return std::nullopt;
+  const auto number = [&](std::size_t from, std::size_t to) {
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data() + from, text.data() + to, value);
+    const bool whole = error == std::errc() && end == text.data() + to;
+    return whole && value > 0 && value <= largest ? value : 0;
+  };
+  const PointSize size{number(0, times), number(times + 1, text.size())};
+  if (size.width == 0 || size.height == 0) return std::nullopt;
+  return size;
 }
 
 std::string whyNoFrame(const std::string& text) {
@@ -77,8 +87,9 @@ std::string whyNoSlot(const std::string& text) {
 }
 
 bool isColour(const std::string& text) {
-  static const std::regex form("#?([0-9A-Fa-f]{6}|[0-9A-Fa-f]{8})");
-  return std::regex_match(text, form);
+  const std::string digits = text.substr(text.starts_with('#') ? 1 : 0);
+  return (digits.size() == 6 || digits.size() == 8) &&
+         digits.find_first_not_of("0123456789abcdefABCDEF") == std::string::npos;
 }
 
 std::string whyNoColour(const std::string& text) {

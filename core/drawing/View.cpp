@@ -37,8 +37,9 @@ PointRect aligned(const Alignment& alignment, const PointRect& box, const PointS
           box.y + placed(alignment.vertical, box.height, own.height), own.width, own.height};
 }
 
-bool anyFlexible(const std::vector<View>& parts) {
-  return std::ranges::any_of(parts, [](const View& part) { return part.node().isFlexible(); });
+bool anyFlexible(const std::vector<View>& parts, Axis axis) {
+  return std::ranges::any_of(parts,
+                             [axis](const View& part) { return part.node().isFlexible(axis); });
 }
 
 class TextNode final : public Node {
@@ -81,7 +82,7 @@ class StretchedNode : public Node {
   PointSize size(const Drawing&, const PointSize& room) const override {
     return {finite(room.width), finite(room.height)};
   }
-  bool isFlexible() const override { return true; }
+  bool isFlexible(Axis) const override { return true; }
 };
 
 class ShapeNode final : public StretchedNode {
@@ -127,14 +128,16 @@ class SpacerNode final : public StretchedNode {
 
 /// One direction of a stack: along it the parts follow each other, across it they are aligned.
 struct Direction {
+  Axis axis;
   double PointSize::*along;
   double PointSize::*across;
   double PointRect::*position;
   double PointRect::*crossPosition;
 };
-constexpr Direction alongRow{&PointSize::width, &PointSize::height, &PointRect::x, &PointRect::y};
-constexpr Direction alongColumn{&PointSize::height, &PointSize::width, &PointRect::y,
-                                &PointRect::x};
+constexpr Direction alongRow{Axis::horizontal, &PointSize::width, &PointSize::height, &PointRect::x,
+                             &PointRect::y};
+constexpr Direction alongColumn{Axis::vertical, &PointSize::height, &PointSize::width,
+                                &PointRect::y, &PointRect::x};
 
 class StackNode final : public Node {
  public:
@@ -168,7 +171,7 @@ class StackNode final : public Node {
     }
   }
 
-  bool isFlexible() const override { return anyFlexible(parts_); }
+  bool isFlexible(Axis axis) const override { return anyFlexible(parts_, axis); }
 
  private:
   struct Share {
@@ -191,7 +194,7 @@ class StackNode final : public Node {
       result[i].taken = parts_[i].node().size(drawing, result[i].offered);
     };
     for (std::size_t i = 0; i < parts_.size(); ++i) {
-      if (parts_[i].node().isFlexible()) {
+      if (parts_[i].node().isFlexible(direction_.axis)) {
         ++flexible;
         continue;
       }
@@ -199,7 +202,7 @@ class StackNode final : public Node {
       left -= result[i].taken.*direction_.along;
     }
     for (std::size_t i = 0; i < parts_.size(); ++i) {
-      if (parts_[i].node().isFlexible()) offer(i, left / flexible);
+      if (parts_[i].node().isFlexible(direction_.axis)) offer(i, left / flexible);
     }
     return result;
   }
@@ -230,7 +233,7 @@ class LayersNode final : public Node {
       part.node().draw(drawing, aligned(alignment_, box, own), room, to);
     }
   }
-  bool isFlexible() const override { return anyFlexible(parts_); }
+  bool isFlexible(Axis axis) const override { return anyFlexible(parts_, axis); }
 
  private:
   std::vector<View> parts_;
@@ -251,7 +254,7 @@ class PaddedNode final : public Node {
                       {box.x + insets_.leading, box.y + insets_.top, own.width, own.height},
                       within(room), to);
   }
-  bool isFlexible() const override { return view_.node().isFlexible(); }
+  bool isFlexible(Axis axis) const override { return view_.node().isFlexible(axis); }
 
  private:
   double across() const { return insets_.leading + insets_.trailing; }
@@ -278,7 +281,10 @@ class FramedNode final : public Node {
     const PointSize own = view_.node().size(drawing, within(room));
     view_.node().draw(drawing, aligned(alignment_, box, own), within(room), to);
   }
-  bool isFlexible() const override { return !(width_ && height_) && view_.node().isFlexible(); }
+  bool isFlexible(Axis axis) const override {
+    const bool told = axis == Axis::horizontal ? width_.has_value() : height_.has_value();
+    return !told && view_.node().isFlexible(axis);
+  }
 
  private:
   PointSize within(const PointSize& room) const {
@@ -304,7 +310,7 @@ class GroupNode final : public Node {
     view_.node().draw(drawing, box, room, group.items);
     to.push_back({std::move(group)});
   }
-  bool isFlexible() const override { return view_.node().isFlexible(); }
+  bool isFlexible(Axis axis) const override { return view_.node().isFlexible(axis); }
 
  private:
   View view_;

@@ -16,6 +16,8 @@ namespace vitrelle {
 /// Where in the room around it a smaller thing lies, in each direction.
 enum class Place { start, centre, end };
 
+enum class Axis { horizontal, vertical };
+
 struct Alignment {
   Place horizontal = Place::centre;
   Place vertical = Place::centre;
@@ -46,8 +48,8 @@ class View final {
     /// In a box of the size that it took of the room.
     virtual void draw(const Drawing& drawing, const PointRect& box, const PointSize& room,
                       DisplayList& to) const = 0;
-    /// Whether it takes all the room that a stack has left along its direction.
-    virtual bool isFlexible() const { return false; }
+    /// Whether it takes all the room that there is in a direction.
+    virtual bool isFlexible(Axis) const { return false; }
   };
 
   explicit View(std::shared_ptr<const Node> node) : node_(std::move(node)) {}

@@ -10,8 +10,12 @@
 #include <QRawFont>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
+#include <cstdlib>
 #include <memory>
+#include <new>
 #include <utility>
 
 namespace vitrelle::host {
@@ -73,9 +77,10 @@ QPainterPath outlineOf(const QPainterPath& path, const StrokeStyle& style) {
   return outline;
 }
 
-/// Whether the font's glyphs are pictures, which have no outline.
+/// Whether the font's glyphs are pictures or in several colours, which no outline is. The tables
+/// asked for are the small ones that come with such glyphs.
 bool isColoured(const QRawFont& font) {
-  return !font.fontTable("CBDT").isEmpty() || !font.fontTable("COLR").isEmpty() ||
+  return !font.fontTable("CBLC").isEmpty() || !font.fontTable("CPAL").isEmpty() ||
          !font.fontTable("sbix").isEmpty();
 }
 
@@ -86,10 +91,21 @@ QImage qImage(const Bitmap& bitmap) {
                 bitmap.opaque ? QImage::Format_RGBX8888 : QImage::Format_RGBA8888);
 }
 
+/// Zeros that the system hands out when they are first touched: most of a face is empty.
+std::uint8_t* zeros(std::size_t bytes) {
+  auto* memory = static_cast<std::uint8_t*>(std::calloc(bytes, 1));
+  if (memory == nullptr) throw std::bad_alloc();
+  return memory;
+}
+
+std::size_t bytesOf(const QSize& size) {
+  return static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()) * 4;
+}
+
 QImage transparent(const QSize& size) {
-  QImage canvas(size, QImage::Format_ARGB32_Premultiplied);
-  canvas.fill(Qt::transparent);
-  return canvas;
+  std::uint8_t* memory = zeros(bytesOf(size));
+  return QImage(memory, size.width(), size.height(), qsizetype{size.width()} * 4,
+                QImage::Format_ARGB32_Premultiplied, std::free, memory);
 }
 
 /// The pixels that are not transparent, as a rectangle around them.
@@ -115,8 +131,8 @@ QRect inkOf(const QImage& canvas) {
 }
 
 /// Draws what is on the canvas as a shadow, and moves it by whole pixels.
-void drawShadow(QPainter& painter, const QImage& canvas, const Shadow& shadow, double scale) {
-  const QRect ink = inkOf(canvas);
+void drawShadow(QPainter& painter, const QImage& canvas, const QRect& ink, const Shadow& shadow,
+                double scale) {
   if (ink.isEmpty()) return;
   const double deviation = shadow.radius * scale;
   const int reach = blurReach(deviation);
@@ -250,8 +266,9 @@ class Canvas final {
     Canvas(symbols_, whole, scale_).draw(group.items, toPixels);
     painter.resetTransform();
     painter.setOpacity(std::clamp(group.opacity, 0.0, 1.0));
-    if (group.shadow) drawShadow(painter, whole, *group.shadow, scale_);
-    painter.drawImage(0, 0, whole);
+    const QRect ink = inkOf(whole);
+    if (group.shadow) drawShadow(painter, whole, ink, *group.shadow, scale_);
+    painter.drawImage(ink.topLeft(), whole, ink);
     painter.setOpacity(1);
   }
 
@@ -262,11 +279,23 @@ class Canvas final {
 
 /// The pixels as the logic has them: straight alpha, in the order of their names.
 Image imageOf(const QImage& canvas) {
-  const auto pixels =
-      std::make_shared<const QImage>(canvas.convertToFormat(QImage::Format_RGBA8888));
-  return Image(Bitmap{.size = {pixels->width(), pixels->height()},
-                      .bytesPerRow = static_cast<std::size_t>(pixels->bytesPerLine()),
-                      .pixels = pixels->constBits(),
+  const std::shared_ptr<std::uint8_t> pixels(zeros(bytesOf(canvas.size())), std::free);
+  const auto bytesPerRow = static_cast<std::size_t>(canvas.width()) * 4;
+  for (int y = 0; y < canvas.height(); ++y) {
+    const auto* from = reinterpret_cast<const QRgb*>(canvas.constScanLine(y));
+    std::uint8_t* to = pixels.get() + static_cast<std::size_t>(y) * bytesPerRow;
+    for (int x = 0; x < canvas.width(); ++x, to += 4) {
+      if (from[x] == 0) continue;
+      const QRgb straight = qUnpremultiply(from[x]);
+      to[0] = static_cast<std::uint8_t>(qRed(straight));
+      to[1] = static_cast<std::uint8_t>(qGreen(straight));
+      to[2] = static_cast<std::uint8_t>(qBlue(straight));
+      to[3] = static_cast<std::uint8_t>(qAlpha(straight));
+    }
+  }
+  return Image(Bitmap{.size = {canvas.width(), canvas.height()},
+                      .bytesPerRow = bytesPerRow,
+                      .pixels = pixels.get(),
                       .opaque = false,
                       .owner = pixels});
 }

@@ -81,6 +81,13 @@ TEST_F(ViewTest, flexibleParts_shareWhatIsLeft) {
       << "a marker at the top edge";
 }
 
+TEST_F(ViewTest, fixedWidth_leavesTheRestOfARowToOthers) {
+  EXPECT_EQ(places(hstack({box(20, std::nullopt), spacer(), letters("ab")}, Place::centre, 0)),
+            "0,0-20,60 ab@90,25 ");
+  EXPECT_EQ(places(vstack({box(std::nullopt, 20), spacer(), letters("ab")}, Place::centre, 0)),
+            "0,0-100,20 ab@45,50 ");
+}
+
 TEST_F(ViewTest, shapes_takeTheRoomOrTenPoints) {
   EXPECT_EQ(size(filled(shapes::circle, white), {30, 40}), (PointSize{30, 40}));
   constexpr double endless = std::numeric_limits<double>::infinity();

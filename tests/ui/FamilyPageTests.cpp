@@ -159,6 +159,30 @@ TEST_F(FamilyPageTest, gallery_ticksAndLinksAndRefuses) {
   EXPECT_TRUE(driver->isShown("galleryPage"));
 }
 
+TEST_F(FamilyPageTest, tab_staysInWhatIsAbove) {
+  store(2);
+  openAt("ModernCustomTextView");
+  const auto isWithin = [&](const char* objectName) {
+    const QQuickItem* item = shell->window()->activeFocusItem();
+    while (item != nullptr && item->objectName() != QString::fromLatin1(objectName))
+      item = item->parentItem();
+    return item != nullptr;
+  };
+  const auto expectWithin = [&](const char* objectName) {
+    for (int i = 0; i < 12; ++i) {
+      EXPECT_TRUE(isWithin(objectName)) << objectName << " after " << i;
+      driver->key(Qt::Key_Tab);
+    }
+  };
+  driver->click("gallery");
+  waitFor("tile1");
+  expectWithin("gallerySheet");
+  driver->click("tile1", Qt::RightButton);
+  expectWithin("tileMenu");
+  driver->key(Qt::Key_Escape);
+  EXPECT_TRUE(isWithin("tile1")) << "the keys go back to where they were";
+}
+
 TEST_F(FamilyPageTest, font_isPickedAndLeftAsItIs) {
   openAt("ModernCustomTextSetupView");
   driver->click("fontRow");

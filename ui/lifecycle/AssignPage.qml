@@ -11,6 +11,7 @@ SheetPage {
     title: assign.words.assignTitle
     symbol: SharedWords.assignSymbol
     spacing: 20
+    covered: menu.shown || assign.alertTitle !== ""
     Component.onCompleted: assign.appear()
 
     WidgetPreview {

@@ -15,6 +15,7 @@ SheetPage {
     title: SharedWords.coloursTitle
     symbol: SharedWords.coloursSymbol
     spacing: 20
+    covered: chooser.shown
     StackView.onActivating: editor.appear()
     StackView.onActivated: editor.settle()
 

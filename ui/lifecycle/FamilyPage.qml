@@ -9,6 +9,7 @@ Page {
     required property FamilyScreen family
 
     title: family.words.entryTitle
+    covered: family.showCreate || family.showGallery || family.showPreview || family.alertTitle !== ""
     Component.onCompleted: family.appear()
 
     Column {

@@ -14,6 +14,7 @@ SheetPage {
     title: gallery.words.galleryTitle
     symbol: SharedWords.gallerySymbol
     spacing: 18
+    covered: menu.shown || gallery.showAssignSheet
     Component.onCompleted: gallery.appear()
 
     Connections {

@@ -12,6 +12,7 @@ SheetPage {
     title: SharedWords.preview
     symbol: preview.words.entrySymbol
     spacing: 22
+    covered: whole.shown
     Component.onCompleted: preview.appear()
 
     ListView {

@@ -16,6 +16,7 @@ SheetPage {
     title: SharedWords.setupTitle
     symbol: SharedWords.setupSymbol
     spacing: 20
+    covered: fontRow >= 0
     StackView.onActivating: editor.appear() // also on the way back from the colours
 
     WidgetPreview {

@@ -8,6 +8,7 @@ FocusScope {
     property string title
     property string backTitle: "Back"
     property bool hasBack: true
+    property bool covered: false // by what lies above it and takes the keys
     default property alias content: body.data
     property alias overlay: over.data // above everything else
 
@@ -26,6 +27,7 @@ FocusScope {
     }
     Item {
         id: bar
+        enabled: !page.covered
         y: Theme.topInset
         width: parent.width
         height: 44
@@ -62,6 +64,7 @@ FocusScope {
     }
     Item {
         id: body
+        enabled: !page.covered
         anchors.top: bar.bottom
         anchors.left: parent.left
         anchors.right: parent.right

@@ -12,6 +12,7 @@ FocusScope {
     property bool hasBack: false
     property bool hasClose: true
     property real spacing: 14
+    property bool covered: false // by what lies above it and takes the keys
     default property alias content: column.data
     property alias overlay: over.data // above everything else
 
@@ -41,6 +42,7 @@ FocusScope {
     }
     Item {
         id: header
+        enabled: !page.covered
         y: Theme.topInset
         width: parent.width
         height: 56
@@ -100,6 +102,7 @@ FocusScope {
     }
     Flickable {
         id: body
+        enabled: !page.covered
         anchors.top: header.bottom
         anchors.bottom: parent.bottom
         width: parent.width
