@@ -5,7 +5,6 @@
 #include "core/store/GroupStore.h"
 #include "core/store/Keys.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace vitrelle {
@@ -16,11 +15,6 @@ InterfaceStyle currentAppearance(const Platform& platform) {
 
 std::int64_t styleInUse(const Platform& platform) {
   return GroupStore(platform).valueOrDefault(keys::selectedConfig);
-}
-
-std::int64_t wallpaperStyles(std::int64_t amountOfConfigs) {
-  constexpr std::int64_t farBeyondTheLimit = 100;
-  return std::min(amountOfConfigs, farBeyondTheLimit);
 }
 
 std::optional<SliceName> findSlice(const Platform& platform, WidgetLocationImageNames slot,

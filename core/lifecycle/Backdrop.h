@@ -25,10 +25,6 @@ InterfaceStyle currentAppearance(const Platform& platform);
 /// The style in use; 0 where none is told.
 std::int64_t styleInUse(const Platform& platform);
 
-/// How many wallpaper styles a screen lists: the stored count, unless that is damaged beyond what
-/// can be shown.
-std::int64_t wallpaperStyles(std::int64_t amountOfConfigs);
-
 /// The slice's name if it can be loaded. Its pixels are not decoded.
 std::optional<SliceName> findSlice(const Platform& platform, WidgetLocationImageNames slot,
                                    std::int64_t config, InterfaceStyle style);

@@ -37,7 +37,7 @@ void StyleAssign::findInvalidConfigs() {
 
 std::vector<AssignOption> StyleAssign::options() const {
   std::vector<AssignOption> options{{std::string(familyWords::noStyle), noLinkedConfig}};
-  const std::int64_t amount = wallpaperStyles(amountOfConfigs_.getOrDefault());
+  const std::int64_t amount = std::min(amountOfConfigs_.getOrDefault(), mostListed);
   for (std::int64_t i = 0; i < amount; ++i)
     options.push_back({std::to_string(i + 1), i});
   return options;

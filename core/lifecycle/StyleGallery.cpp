@@ -1,5 +1,6 @@
 #include "core/lifecycle/StyleGallery.h"
 
+#include <algorithm>
 #include <string>
 
 namespace vitrelle {
@@ -27,7 +28,8 @@ std::optional<std::string_view> StyleGallery::placeholder() const {
 std::vector<GalleryTile> StyleGallery::tiles() const {
   std::vector<GalleryTile> tiles;
   const std::int64_t current = selectedConfig_.getOrDefault();
-  for (std::size_t i = 0; i < amount_; ++i) {
+  const std::size_t shown = std::min(amount_, static_cast<std::size_t>(mostListed));
+  for (std::size_t i = 0; i < shown; ++i) {
     tiles.push_back({.backdrop = backdrop(i),
                      .face = face(i, {tileSide(), tileSide()}),
                      .current = static_cast<std::int64_t>(i) == current});

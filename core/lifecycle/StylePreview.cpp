@@ -2,6 +2,8 @@
 
 #include "core/store/Keys.h"
 
+#include <algorithm>
+
 namespace vitrelle {
 
 StylePreview::StylePreview(const Platform& platform, const FamilyDescription& words,
@@ -24,7 +26,7 @@ void StylePreview::appear() {
 
 std::vector<std::optional<SliceName>> StylePreview::pages() const {
   std::vector<std::optional<SliceName>> pages;
-  const std::int64_t amount = wallpaperStyles(amountOfConfigs_.getOrDefault());
+  const std::int64_t amount = std::min(amountOfConfigs_.getOrDefault(), mostListed);
   for (std::int64_t config = 0; config < amount; ++config) {
     auto whole = findSlice(platform_, WidgetLocationImageNames::fullImage, config, lightStyle);
     if (!whole)

@@ -82,6 +82,13 @@ TEST_F(StyleGalleryTest, menu_opensTheEditorAndTheLinking) {
   EXPECT_EQ(gallery->needToEdit(), 0);
 }
 
+TEST_F(StyleGalleryTest, damagedArrayOfThousands_isShownInPart) {
+  storeStyles(3000);
+  gallery->appear();
+  EXPECT_EQ(gallery->amount(), 3000U);
+  EXPECT_EQ(gallery->tiles().size(), 100U);
+}
+
 TEST_F(StyleGalleryTest, everyFamily_listsItsRecords) {
   forEachFamily([&](const auto& family) {
     auto records = GroupStore(platform).loadRecords(family);
