@@ -30,6 +30,7 @@ enum class FormControl {
 struct NumberRange {
   std::int64_t lowest = 10;
   std::int64_t highest = 80;
+  bool operator==(const NumberRange&) const = default;
 };
 
 /// One row of a family's form, over the record that the form edits.
@@ -64,10 +65,7 @@ struct ShownRow {
   FormValue value;
   NumberRange range;
   std::vector<std::string_view> symbols;
-  bool operator==(const ShownRow& other) const {
-    return row == other.row && title == other.title && control == other.control &&
-           value == other.value;
-  }
+  bool operator==(const ShownRow&) const = default;
 };
 
 /// What a font row shows for a name.

@@ -1,5 +1,6 @@
 #include "core/lifecycle/StyleColours.h"
 
+#include "core/platform/FatalError.h"
 #include "core/slicing/ImageLoader.h"
 
 namespace vitrelle {

@@ -4,7 +4,6 @@
 
 #include "core/colour/SuggestedColours.h"
 #include "core/lifecycle/StyleEditor.h"
-#include "core/platform/FatalError.h"
 #include "core/store/StoredValue.h"
 
 namespace vitrelle {
@@ -55,16 +54,13 @@ class StyleColours final : public StyleSecondStep {
     return form_.face(platform(), FaceUse::second, frame);
   }
 
-  /// A new record that the store did not take has no colours to be written, and the flow ends as if
-  /// it had.
+  /// Where the store lost the record since the step before, nothing is written, and the flow ends
+  /// as if it were.
   void save() override {
-    Record* record = stored_.at(index());
-    if (record != nullptr) {
+    if (Record* record = stored_.at(index())) {
       family_.copySecond(form_.record, *record);
       stored_.save();
       selected_.set(index());
-    } else if (task().mode == EditorMode::edit) {
-      fatalError("there is no widget style to colour at this index");
     }
     platform().haptics.success();
   }

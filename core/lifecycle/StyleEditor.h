@@ -34,7 +34,7 @@ class StyleEditor : public Screen {
   virtual void setValue(std::size_t row, const FormValue& value) = 0;
   /// The record as it is edited, in the middle of the frame.
   virtual DisplayList face(const PointSize& frame) const = 0;
-  /// Writes the records. Editing a record that is not there is a fatal error.
+  /// Writes the records.
   virtual void save() = 0;
 
   const FamilyDescription& words() const { return words_; }

@@ -36,6 +36,7 @@ class StyleSetup final : public StyleEditor {
   }
 
   /// The colours of a new record are white, and it is linked to nothing, until the steps after.
+  /// Editing a record that is not there is a fatal error.
   void save() override {
     platform().haptics.lightImpact();
     if (task().mode == EditorMode::create) {

@@ -24,6 +24,21 @@ QString shortened(const QString& text) {
   return text.left(splits ? longestText - 1 : longestText) + QChar(0x2026);
 }
 
+/// The paragraphs of a text, without characters that are there to control a device.
+QStringList paragraphsOf(const QString& text) {
+  QString plain;
+  for (const QChar c : shortened(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"))) {
+    const bool breaks =
+        c == QLatin1Char('\n') || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+    if (breaks) {
+      plain += QLatin1Char('\n');
+    } else if (c.category() != QChar::Other_Control || c == QLatin1Char('\t')) {
+      plain += c;
+    }
+  }
+  return plain.split(QLatin1Char('\n'));
+}
+
 double inUnits(double points) {
   return std::min(std::max(points, 0.0) * unitsPerPoint, unboundedUnits);
 }
@@ -85,9 +100,7 @@ TextLayout layOutText(const QString& text, const Font& font, const PointSize& ro
   const double height = inUnits(room.height);
   TextLayout result;
   double bottom = 0;
-  const QStringList paragraphs = shortened(text)
-                                     .replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
-                                     .split(QLatin1Char('\n'));
+  const QStringList paragraphs = paragraphsOf(text);
   for (qsizetype i = 0; i < paragraphs.size(); ++i) {
     const QString& paragraph = paragraphs[i];
     QTextLayout layout(paragraph, face);

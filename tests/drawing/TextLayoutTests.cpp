@@ -54,6 +54,15 @@ TEST(TextLayout, hostileRecords_cannotAskForMoreThanCanBeShown) {
   EXPECT_LT(whole.size.width, 100000);
 }
 
+TEST(TextLayout, controlCharacters_areLeftOutAndSeparatorsBreak) {
+  EXPECT_EQ(layOut("a\x01\x07\x1b"
+                   "b",
+                   endless, endless)
+                .size,
+            layOut("ab", endless, endless).size);
+  EXPECT_EQ(layOut("a\u2028b\u2029c", endless, endless).lines.size(), 3U);
+}
+
 TEST(TextLayout, direction_isThatOfTheParagraph) {
   const TextLayout mixed = layOut("abc\nשלום abc", endless, endless);
   EXPECT_FALSE(mixed.lines[0].rightToLeft);

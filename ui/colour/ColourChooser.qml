@@ -19,9 +19,14 @@ FocusScope {
 
     signal chosen(color now)
 
+    property Item opener // gets the keys back
+
+    onShownChanged: if (!shown && opener) opener.forceActiveFocus()
+
     function open(now: color, words: string) {
         take(now);
         title = words;
+        opener = Window.window ? Window.window.activeFocusItem : null;
         shown = true;
         field.forceActiveFocus();
     }

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <limits>
 
 namespace vitrelle::ui {
 
@@ -23,7 +24,11 @@ enum Role {
 QVariant qValue(const FormValue& value) {
   struct Converter {
     QVariant operator()(bool on) const { return on; }
-    QVariant operator()(std::int64_t number) const { return QVariant::fromValue(number); }
+    /// A number in QML has 32 bits, one in a damaged record may have more.
+    QVariant operator()(std::int64_t number) const {
+      constexpr std::int64_t largest = std::numeric_limits<int>::max();
+      return static_cast<int>(std::clamp(number, -largest, largest));
+    }
     QVariant operator()(const std::string& words) const { return QString::fromStdString(words); }
     QVariant operator()(const Colour& colour) const {
       return QColor::fromRgbF(colour.red, colour.green, colour.blue, colour.alpha);

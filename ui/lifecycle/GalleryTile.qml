@@ -42,6 +42,7 @@ Pressable {
         Accessible.checkable: true
         Accessible.checked: tile.current
         onPressed: tile.gallery.tapTick(tile.index)
+        onMenuAsked: position => tile.menuAsked(mapToItem(tile, position))
 
         Rectangle { // the tick's own, which shows on any wallpaper
             anchors.centerIn: parent

@@ -16,7 +16,7 @@ FocusScope {
         const spot = item.mapToItem(menu, position.x, position.y);
         at = Qt.point(Math.max(8, Math.min(spot.x, width - box.width - 8)), Math.max(8, Math.min(spot.y, height - box.height - 8)));
         shown = true;
-        column.children[0].forceActiveFocus();
+        column.focusFrom(0, 1);
     }
     function close() {
         shown = false;
@@ -62,16 +62,20 @@ FocusScope {
                 id: column
                 width: parent.width
 
-                function move(step: int) {
-                    let now = 0;
-                    while (children[now] && !children[now].activeFocus)
-                        ++now;
-                    for (now += step; children[now]; now += step) {
+                /// The first entry that can have the keys, from an index on.
+                function focusFrom(start: int, step: int) {
+                    for (let now = start; children[now]; now += step) {
                         if (!children[now].activeFocusOnTab || !children[now].visible || !children[now].enabled)
                             continue;
                         children[now].forceActiveFocus();
                         return;
                     }
+                }
+                function move(step: int) {
+                    let now = 0;
+                    while (children[now] && !children[now].activeFocus)
+                        ++now;
+                    focusFrom(now + step, step);
                 }
                 Keys.onUpPressed: move(-1)
                 Keys.onDownPressed: move(1)

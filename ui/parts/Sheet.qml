@@ -1,5 +1,6 @@
 // A page that comes up from below and covers the screen: rounded at the corners, on black.
 import QtQuick
+import QtQuick.Window
 import Vitrelle
 
 FocusScope {
@@ -7,6 +8,7 @@ FocusScope {
 
     property bool shown: false
     property bool present: false // also while it goes away
+    property Item opener // gets the keys back
     default property alias content: body.data
 
     signal dismissed
@@ -17,8 +19,12 @@ FocusScope {
     visible: present
     enabled: shown
     onShownChanged: {
-        if (!shown)
+        if (!shown) {
+            if (opener)
+                opener.forceActiveFocus();
             return;
+        }
+        opener = Window.window ? Window.window.activeFocusItem : null;
         present = true;
         forceActiveFocus();
     }
