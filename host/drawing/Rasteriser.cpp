@@ -13,9 +13,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
-#include <new>
 #include <utility>
 
 namespace vitrelle::host {
@@ -91,21 +89,10 @@ QImage qImage(const Bitmap& bitmap) {
                 bitmap.opaque ? QImage::Format_RGBX8888 : QImage::Format_RGBA8888);
 }
 
-/// Zeros that the system hands out when they are first touched: most of a face is empty.
-std::uint8_t* zeros(std::size_t bytes) {
-  auto* memory = static_cast<std::uint8_t*>(std::calloc(bytes, 1));
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-
-std::size_t bytesOf(const QSize& size) {
-  return static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()) * 4;
-}
-
 QImage transparent(const QSize& size) {
-  std::uint8_t* memory = zeros(bytesOf(size));
-  return QImage(memory, size.width(), size.height(), qsizetype{size.width()} * 4,
-                QImage::Format_ARGB32_Premultiplied, std::free, memory);
+  QImage canvas(size, QImage::Format_ARGB32_Premultiplied);
+  canvas.fill(Qt::transparent);
+  return canvas;
 }
 
 /// The pixels that are not transparent, as a rectangle around them.
@@ -278,24 +265,12 @@ class Canvas final {
 };
 
 /// The pixels as the logic has them: straight alpha, in the order of their names.
-Image imageOf(const QImage& canvas) {
-  const std::shared_ptr<std::uint8_t> pixels(zeros(bytesOf(canvas.size())), std::free);
-  const auto bytesPerRow = static_cast<std::size_t>(canvas.width()) * 4;
-  for (int y = 0; y < canvas.height(); ++y) {
-    const auto* from = reinterpret_cast<const QRgb*>(canvas.constScanLine(y));
-    std::uint8_t* to = pixels.get() + static_cast<std::size_t>(y) * bytesPerRow;
-    for (int x = 0; x < canvas.width(); ++x, to += 4) {
-      if (from[x] == 0) continue;
-      const QRgb straight = qUnpremultiply(from[x]);
-      to[0] = static_cast<std::uint8_t>(qRed(straight));
-      to[1] = static_cast<std::uint8_t>(qGreen(straight));
-      to[2] = static_cast<std::uint8_t>(qBlue(straight));
-      to[3] = static_cast<std::uint8_t>(qAlpha(straight));
-    }
-  }
-  return Image(Bitmap{.size = {canvas.width(), canvas.height()},
-                      .bytesPerRow = bytesPerRow,
-                      .pixels = pixels.get(),
+Image imageOf(QImage&& canvas) {
+  const auto pixels = std::make_shared<const QImage>(
+      std::move(canvas).convertToFormat(QImage::Format_RGBA8888)); // in place
+  return Image(Bitmap{.size = {pixels->width(), pixels->height()},
+                      .bytesPerRow = static_cast<std::size_t>(pixels->bytesPerLine()),
+                      .pixels = pixels->constBits(),
                       .opaque = false,
                       .owner = pixels});
 }
@@ -320,7 +295,7 @@ Result<Image> render(const Symbols& symbols, std::span<const DisplayList> layers
     Canvas(symbols, layer, scale).draw(layers[i], toPixels);
     QPainter(&canvas).drawImage(0, 0, layer);
   }
-  return imageOf(canvas);
+  return imageOf(std::move(canvas));
 }
 
 } // namespace
