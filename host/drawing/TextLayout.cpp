@@ -26,8 +26,9 @@ QString shortened(const QString& text) {
 
 /// The paragraphs of a text, without characters that are there to control a device.
 QStringList paragraphsOf(const QString& text) {
+  const QString whole = shortened(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
   QString plain;
-  for (const QChar c : shortened(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"))) {
+  for (const QChar c : whole) {
     const bool breaks =
         c == QLatin1Char('\n') || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
     if (breaks) {
