@@ -11,9 +11,6 @@ namespace vitrelle::host {
 
 namespace {
 
-/// How long a writer waits for another.
-constexpr int busyMilliseconds = 5000;
-
 /// By the index of the value's alternative in `StoreValue`.
 constexpr std::array<const char*, std::variant_size_v<StoreValue>> typeNames{
     "Int", "Double", "Bool", "String", "Data", "Date"};
@@ -39,6 +36,39 @@ std::string bytes(sqlite3_stmt* statement, int column) {
   return blob ? std::string(static_cast<const char*>(blob), length) : std::string();
 }
 
+/// A path as the URI of a database that is only read and never changes.
+std::string frozenUri(const std::string& path) {
+  std::string uri = "file:";
+  for (const char character : path) {
+    constexpr const char* digits = "0123456789abcdef";
+    const auto byte = static_cast<unsigned char>(character);
+    if (std::strchr("%?#", character) != nullptr) {
+      uri += {'%', digits[byte >> 4], digits[byte & 15]};
+    } else {
+      uri += character;
+    }
+  }
+  return uri + "?immutable=1";
+}
+
+/// What stands in a column, by its own kind.
+std::optional<StoreValue> plain(sqlite3_stmt* statement, int column) {
+  switch (sqlite3_column_type(statement, column)) {
+  case SQLITE_INTEGER:
+    return std::int64_t{sqlite3_column_int64(statement, column)};
+  case SQLITE_FLOAT:
+    return sqlite3_column_double(statement, column);
+  case SQLITE_TEXT:
+    return bytes(statement, column);
+  case SQLITE_BLOB: {
+    const std::string content = bytes(statement, column);
+    return Data(content.begin(), content.end());
+  }
+  default:
+    return std::nullopt;
+  }
+}
+
 /// SQLite keeps not-a-number as NULL.
 std::optional<double> real(sqlite3_stmt* statement, int column) {
   switch (sqlite3_column_type(statement, column)) {
@@ -58,29 +88,37 @@ void SqliteConnection::Close::operator()(sqlite3* database) const {
   sqlite3_close(database);
 }
 
-Result<SqliteConnection> SqliteConnection::open(const std::string& path) {
+Result<SqliteConnection> SqliteConnection::open(const std::string& path, SqliteAccess access,
+                                                int patience) {
   SqliteConnection connection;
   connection.path_ = path;
+  const bool frozen = access == SqliteAccess::frozen;
+  const int mode = frozen ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI : SQLITE_OPEN_READWRITE;
   sqlite3* database = nullptr;
-  const int code =
-      sqlite3_open_v2(path.c_str(), &database,
-                      SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
+  const int code = sqlite3_open_v2((frozen ? frozenUri(path) : path).c_str(), &database,
+                                   mode | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
   connection.database_.reset(database);
   if (code != SQLITE_OK) return connection.failure();
-  sqlite3_busy_timeout(database, busyMilliseconds);
+  connection.setPatience(patience);
   // The file may come from anywhere: nothing that its schema holds is run.
   sqlite3_db_config(database, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
   sqlite3_db_config(database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
   sqlite3_db_config(database, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
   sqlite3_db_config(database, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
-  const Status prepared = connection.execute("PRAGMA synchronous=FULL; PRAGMA cell_size_check=ON");
-  if (!prepared) return prepared.failure();
   return connection;
+}
+
+Status SqliteConnection::begin() {
+  return execute("PRAGMA synchronous=FULL; PRAGMA cell_size_check=ON");
 }
 
 Status SqliteConnection::execute(const char* sql) {
   if (sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) return failure();
   return success();
+}
+
+void SqliteConnection::setPatience(int milliseconds) {
+  sqlite3_busy_timeout(database_.get(), milliseconds);
 }
 
 Failure SqliteConnection::failure() const {
@@ -91,6 +129,18 @@ Failure SqliteConnection::failure() const {
   const int systemError = sqlite3_system_errno(database_.get());
   if (code == SQLITE_CANTOPEN && systemError != 0) return {path_, std::strerror(systemError)};
   return {path_, sqlite3_errmsg(database_.get())};
+}
+
+bool SqliteConnection::missesFiles() const {
+  switch (sqlite3_extended_errcode(database_.get()) & 0xFF) {
+  case SQLITE_CANTOPEN:
+  case SQLITE_READONLY:
+  case SQLITE_IOERR:
+  case SQLITE_FULL:
+    return true;
+  default:
+    return false;
+  }
 }
 
 void SqliteStatement::Finalise::operator()(sqlite3_stmt* statement) const {
@@ -168,24 +218,17 @@ std::int64_t SqliteRun::integer(int column) const {
 std::optional<StoreValue> SqliteRun::typed(int column) const {
   const std::string type = text(column);
   const int valueColumn = column + 1;
-  const int stored = sqlite3_column_type(statement_, valueColumn);
-  if (type == "Int" && stored == SQLITE_INTEGER) {
-    return std::int64_t{sqlite3_column_int64(statement_, valueColumn)};
-  }
-  if (type == "Bool" && stored == SQLITE_INTEGER) {
+  if (type == "Bool" && sqlite3_column_type(statement_, valueColumn) == SQLITE_INTEGER) {
     const std::int64_t flag = sqlite3_column_int64(statement_, valueColumn);
     if (flag == 0 || flag == 1) return flag == 1;
   }
-  if (type == "Double") return real(statement_, valueColumn);
+  if (type == "Double") {
+    if (const auto number = real(statement_, valueColumn)) return *number;
+  }
   if (type == "Date") {
     if (const auto seconds = real(statement_, valueColumn)) return Date{*seconds};
   }
-  if (type == "String" && stored == SQLITE_TEXT) return bytes(statement_, valueColumn);
-  if (type == "Data" && stored == SQLITE_BLOB) {
-    const std::string content = bytes(statement_, valueColumn);
-    return Data(content.begin(), content.end());
-  }
-  return std::nullopt;
+  return plain(statement_, valueColumn);
 }
 
 } // namespace vitrelle::host

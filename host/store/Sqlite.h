@@ -14,14 +14,28 @@ struct sqlite3_stmt;
 
 namespace vitrelle::host {
 
+/// How a file is opened.
+enum class SqliteAccess {
+  shared, ///< beside other programs that may write
+  frozen, ///< for reading alone, of a file that nobody writes: makes no files beside it
+};
+
 class SqliteConnection final {
  public:
-  /// The file must exist; an empty one becomes a database at the first change.
-  static Result<SqliteConnection> open(const std::string& path);
+  /// The file must exist; an empty one becomes a database at the first change. `patience` is how
+  /// long another program's lock is waited for, in milliseconds.
+  static Result<SqliteConnection> open(const std::string& path, SqliteAccess access, int patience);
 
+  /// Looks into the file for the first time. Comes before all else.
+  Status begin();
   Status execute(const char* sql);
+  void setPatience(int milliseconds);
   /// What went wrong last, in words.
   Failure failure() const;
+  /// Whether what went wrong last may come of files beside the database that can't be made.
+  bool missesFiles() const;
+  /// Keeps the database open until the process ends: closing would touch what is no longer there.
+  void abandon() { static_cast<void>(database_.release()); }
 
  private:
   friend class SqliteStatement;
@@ -36,6 +50,8 @@ class SqliteConnection final {
 class SqliteStatement final {
  public:
   static Result<SqliteStatement> prepare(SqliteConnection& connection, const char* sql);
+  /// Goes with a connection that is abandoned.
+  void abandon() { static_cast<void>(statement_.release()); }
 
  private:
   friend class SqliteRun;
@@ -65,8 +81,9 @@ class SqliteRun final {
   // Columns of the present row, from 0.
   std::string text(int column) const;
   std::int64_t integer(int column) const;
-  /// The value in the column after `column`, where the name of its kind stands. Nothing if it is
-  /// not of that kind.
+  /// The value in the column after `column`, where the name of its kind stands. One that is not of
+  /// that kind is given as what it is, for its readers to refuse; nothing in its place if it is no
+  /// value at all.
   std::optional<StoreValue> typed(int column) const;
 
  private:

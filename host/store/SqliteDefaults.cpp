@@ -6,6 +6,7 @@
 #include <memory>
 #include <mutex>
 #include <set>
+#include <utility>
 
 #include <sys/inotify.h>
 #include <unistd.h>
@@ -18,25 +19,47 @@ namespace {
 constexpr double slowPollSeconds = 1;
 
 class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults> {
+  struct Watched {
+    Watched(const std::string& home, const char* name) : file(home, name) {}
+    SuiteFile file;
+    /// Why the last read failed. Until one works again nothing is written: whoever writes may be
+    /// about to put a little in the place of much that only could not be read.
+    std::optional<Failure> unreadable;
+    std::set<std::string>
+        missed; ///< keys whose value could not be read when it was to be delivered
+    SeenChanges seen;
+    std::set<std::string> known; ///< every key seen so far in the present file
+    Subscribers<const std::string&> subscribers;
+  };
+
+  template <class Method, class... Arguments>
+  static auto readIn(Watched& watch, Method method, Arguments&... arguments) {
+    auto result = (watch.file.*method)(arguments...);
+    watch.unreadable = result ? std::nullopt : std::optional(result.failure());
+    watch.file.setPatient(result.ok());
+    return result;
+  }
+
  public:
   SqliteDefaults(std::string home, EventLoop loop)
       : home_(std::move(home)),
         loop_(std::move(loop)),
-        suites_{Watched(SuiteFile(home_, groupIdentifier)), Watched(SuiteFile(home_, "standard"))} {
-  }
+        suites_{Watched(home_, groupIdentifier), Watched(home_, "standard")} {}
   ~SqliteDefaults() { stopListening(); }
   SqliteDefaults(const SqliteDefaults&) = delete;
   SqliteDefaults& operator=(const SqliteDefaults&) = delete;
 
-  /// Runs a method of the suite's file, alone.
+  /// Runs a reading method of the suite's file, alone.
   template <class Method, class... Arguments>
-  auto access(Suite suite, Method method, const Arguments&... arguments) {
+  auto read(Suite suite, Method method, const Arguments&... arguments) {
     const std::lock_guard lock(mutex_);
-    return (watched(suite).file.*method)(arguments...);
+    return readIn(watched(suite), method, arguments...);
   }
 
   Status write(Suite suite, const std::string& key, const StoreValue* value) {
     const std::lock_guard lock(mutex_);
+    const std::optional<Failure>& unreadable = watched(suite).unreadable;
+    if (unreadable) return *unreadable;
     SuiteFile& file = watched(suite).file;
     Status written = value ? file.set(key, *value) : file.remove(key);
     if (written) {
@@ -50,9 +73,11 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
                      const std::function<void(const std::optional<StoreValue>&)>& subscriber) {
     Subscription subscription =
         watchKeys(suite, [this, suite, key, subscriber](const auto& changed) {
-          if (changed == key) subscriber(present(suite, key));
+          if (changed == key) deliver(suite, key, subscriber);
         });
-    subscriber(present(suite, key));
+    const auto present = read(suite, &SuiteFile::value, key);
+    if (!present) watched(suite).missed.insert(key);
+    subscriber(present ? *present : std::nullopt);
     return subscription;
   }
 
@@ -72,28 +97,26 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
   }
 
  private:
-  struct Watched {
-    explicit Watched(SuiteFile suiteFile) : file(std::move(suiteFile)) {}
-    SuiteFile file;
-    SeenChanges seen;
-    std::set<std::string> known; ///< every key seen so far in the present file
-    Subscribers<const std::string&> subscribers;
-  };
-
   Watched& watched(Suite suite) { return suites_[suite == Suite::group ? 0 : 1]; }
 
-  std::optional<StoreValue> present(Suite suite, const std::string& key) {
-    Result<std::optional<StoreValue>> value = access(suite, &SuiteFile::value, key);
-    return value ? std::move(value).value() : std::nullopt;
+  /// What can't be read now is delivered when it can.
+  void deliver(Suite suite, const std::string& key,
+               const std::function<void(const std::optional<StoreValue>&)>& subscriber) {
+    const auto value = read(suite, &SuiteFile::value, key);
+    value ? subscriber(*value) : static_cast<void>(watched(suite).missed.insert(key));
   }
 
   /// The keys that changed since the last call; with another file, also those of the old one.
   std::set<std::string> news(Watched& watch) {
     const std::lock_guard lock(mutex_);
     const std::uint64_t fileBefore = watch.seen.file;
-    const auto changes = watch.file.changes(watch.seen);
+    const bool couldBeRead = !watch.unreadable;
+    const auto changes = readIn(watch, &SuiteFile::changes, watch.seen);
     if (!changes) return {};
     std::set<std::string> keys(changes->begin(), changes->end());
+    keys.merge(std::exchange(watch.missed, {}));
+    // Whoever read meanwhile was told of an absence that was none.
+    if (!couldBeRead) keys.insert(watch.known.begin(), watch.known.end());
     std::set<std::string> known = keys;
     known.merge(watch.known);
     if (watch.seen.file == fileBefore) {
@@ -137,7 +160,7 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
 
   void drain() {
     std::array<char, 4096> events{};
-    while (read(inotify_, events.data(), events.size()) > 0) {
+    while (::read(inotify_, events.data(), events.size()) > 0) {
     }
     deliverNews();
   }
@@ -178,13 +201,13 @@ Defaults makeSqliteDefaults(std::string home, EventLoop loop) {
   return {
       .value =
           [store](Suite suite, const std::string& key) {
-            return store->access(suite, &SuiteFile::value, key);
+            return store->read(suite, &SuiteFile::value, key);
           },
       .set = [store](Suite suite, const std::string& key,
                      const StoreValue& value) { return store->write(suite, key, &value); },
       .remove = [store](Suite suite,
                         const std::string& key) { return store->write(suite, key, nullptr); },
-      .keys = [store](Suite suite) { return store->access(suite, &SuiteFile::keys); },
+      .keys = [store](Suite suite) { return store->read(suite, &SuiteFile::keys); },
       .watch =
           [store](Suite suite, const std::string& key,
                   std::function<void(const std::optional<StoreValue>&)> subscriber) {

@@ -1,7 +1,4 @@
-#include "host/desktop/PollLoop.h"
-#include "host/store/SqliteDefaults.h"
-
-#include <gtest/gtest.h>
+#include "tests/store/SqliteDefaultsTest.h"
 
 #include <cmath>
 #include <csignal>
@@ -13,7 +10,6 @@
 #include <random>
 #include <string>
 
-#include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -22,53 +18,6 @@
 
 namespace vitrelle::host {
 namespace {
-
-namespace fs = std::filesystem;
-
-class SqliteDefaultsTest : public testing::Test {
- protected:
-  SqliteDefaultsTest() {
-    std::string pattern = fs::temp_directory_path() / "store-tests.XXXXXX";
-    folder = mkdtemp(pattern.data());
-    home = folder + "/deep/home";
-  }
-  ~SqliteDefaultsTest() override { fs::remove_all(folder); }
-
-  Defaults open() { return makeSqliteDefaults(home, loop.operations()); }
-  std::string groupFile() const { return home + "/" + groupIdentifier + ".sqlite"; }
-
-  /// A process of its own; its exit status is whether `work` succeeds.
-  static pid_t start(const std::function<bool()>& work) {
-    const pid_t child = fork();
-    if (child == 0) _exit(work() ? 0 : 1);
-    return child;
-  }
-  static bool succeeded(pid_t child) {
-    int status = 0;
-    return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
-  }
-
-  /// Runs the loop until `done`, for ten seconds at most.
-  bool runUntil(const std::function<bool()>& done) {
-    int ticks = 0;
-    const Subscription timer = loop.operations().every(0.002, [&] {
-      if (done() || ++ticks == 5000) loop.stop();
-    });
-    loop.run();
-    return done();
-  }
-
-  PollLoop loop;
-  std::string folder;
-  std::string home;
-};
-
-/// The value, or a string that tells why there is none.
-StoreValue read(const Defaults& defaults, Suite suite, const std::string& key) {
-  const auto value = defaults.value(suite, key);
-  if (!value) return value.failure().what + ": " + value.failure().why;
-  return value->value_or(StoreValue(std::string("absent")));
-}
 
 TEST_F(SqliteDefaultsTest, everyKindOfValue_comesBackInAnotherStoreObject) {
   const StoreValue values[] = {
@@ -154,21 +103,19 @@ TEST_F(SqliteDefaultsTest, removedOrReplacedFile_isNoticedAtTheNextAccess) {
 }
 
 TEST_F(SqliteDefaultsTest, fileThatIsNoStore_failsInWordsAndStaysAsItIs) {
-  for (const std::string content :
-       {"", "not a database, but long enough to have a header of one. "
-            "It goes on and on until a hundred bytes are full of it."}) {
-    fs::create_directories(home);
-    std::ofstream(groupFile()) << content;
-    const Defaults defaults = open();
-    EXPECT_FALSE(defaults.value(Suite::group, "key"));
-    EXPECT_FALSE(defaults.keys(Suite::group));
-    const Status written = defaults.set(Suite::group, "key", true);
-    ASSERT_FALSE(written);
-    EXPECT_EQ(written.failure().what, groupFile());
-    EXPECT_FALSE(written.failure().why.empty());
-    EXPECT_EQ(fs::file_size(groupFile()), content.size());
-    EXPECT_TRUE(defaults.set(Suite::standard, "key", true)) << "the other suite is unharmed";
-  }
+  const std::string content = "not a database, but long enough to have a header of one. "
+                              "It goes on and on until a hundred bytes are full of it.";
+  fs::create_directories(home);
+  std::ofstream(groupFile()) << content;
+  const Defaults defaults = open();
+  EXPECT_FALSE(defaults.value(Suite::group, "key"));
+  EXPECT_FALSE(defaults.keys(Suite::group));
+  const Status written = defaults.set(Suite::group, "key", true);
+  ASSERT_FALSE(written);
+  EXPECT_EQ(written.failure().what, groupFile());
+  EXPECT_FALSE(written.failure().why.empty());
+  EXPECT_EQ(fs::file_size(groupFile()), content.size());
+  EXPECT_TRUE(defaults.set(Suite::standard, "key", true)) << "the other suite is unharmed";
 }
 
 TEST_F(SqliteDefaultsTest, fileThatLacksAPageOrMore_failsAndNeverCrashes) {
@@ -209,16 +156,11 @@ TEST_F(SqliteDefaultsTest, fullDisk_failsAndKeepsWhatIsStored) {
 
 TEST_F(SqliteDefaultsTest, diskFullAtTheFirstWrite_leavesNoStoreOrAGoodOne) {
   fs::create_directories(home);
-  // Without the right to mount, as in most containers, there is no small disk to try it on.
-  constexpr int unableToMount = 77;
+  if (!canMount()) GTEST_SKIP() << "no right to mount";
   const pid_t child = fork();
   if (child == 0) {
     for (int kilobytes = 4; kilobytes <= 160; kilobytes += 4) {
-      const std::string size = "size=" + std::to_string(kilobytes) + "k";
-      if (unshare(CLONE_NEWNS) != 0 || mount("", "/", "", MS_REC | MS_PRIVATE, "") != 0 ||
-          mount("tmpfs", home.c_str(), "tmpfs", 0, size.c_str()) != 0) {
-        _exit(unableToMount);
-      }
+      if (!mountDisk("size=" + std::to_string(kilobytes) + "k")) _exit(kilobytes);
       const bool written = open().set(Suite::group, "key", true).ok();
       mount("tmpfs", home.c_str(), "tmpfs", MS_REMOUNT, "size=1m");
       const StoreValue value = read(open(), Suite::group, "key");
@@ -231,7 +173,6 @@ TEST_F(SqliteDefaultsTest, diskFullAtTheFirstWrite_leavesNoStoreOrAGoodOne) {
   int status = 0;
   waitpid(child, &status, 0);
   ASSERT_TRUE(WIFEXITED(status));
-  if (WEXITSTATUS(status) == unableToMount) GTEST_SKIP() << "no right to mount";
   EXPECT_EQ(WEXITSTATUS(status), 0) << "the disk's size in kilobytes";
 }
 
