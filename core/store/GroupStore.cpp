@@ -15,8 +15,20 @@ std::optional<T> decoded(const std::optional<StoreValue>& stored) {
 
 template <class T>
 std::optional<T> GroupStore::value(const Key<T>& key) const {
+  const auto stored = read(key);
+  return stored ? *stored : std::nullopt;
+}
+
+template <class T>
+Result<std::optional<T>> GroupStore::read(const Key<T>& key) const {
   const auto stored = platform_->defaults.value(key.suite, key.name);
-  return stored ? decoded<T>(*stored) : std::nullopt;
+  if (!stored) return stored.failure();
+  return decoded<T>(*stored);
+}
+
+Status GroupStore::check(Suite suite) const {
+  const auto keys = platform_->defaults.keys(suite);
+  return keys ? success() : Status(keys.failure());
 }
 
 template <class T>
@@ -35,9 +47,21 @@ Subscription GroupStore::subscribe(const Key<T>& key,
 
 template <class Record>
 std::vector<Record> GroupStore::loadRecords(const Family<Record>& family) const {
-  const std::optional<Data> json = value(family.records);
-  if (!json) return {};
-  return decodeRecords<Record>(*json).value_or(std::vector<Record>());
+  const auto records = readRecords(family);
+  return records ? *records : std::vector<Record>();
+}
+
+template <class Record>
+Result<std::vector<Record>> GroupStore::readRecords(const Family<Record>& family) const {
+  const auto json = read(family.records);
+  if (!json) return json.failure();
+  if (!*json) return std::vector<Record>();
+  auto records = decodeRecords<Record>(**json).value_or(std::vector<Record>());
+  if (records.size() > mostRecords) {
+    return Failure{family.records.name, "it has more records than the " +
+                                            std::to_string(mostRecords) + " that are read"};
+  }
+  return records;
 }
 
 template <class Record>
@@ -55,6 +79,7 @@ void GroupStore::saveRecords(const Family<Record>& family,
 
 #define VITRELLE_STORED(T)                                                                         \
   template std::optional<T> GroupStore::value(const Key<T>&) const;                                \
+  template Result<std::optional<T>> GroupStore::read(const Key<T>&) const;                         \
   template void GroupStore::set(const Key<T>&, const T&) const;                                    \
   template Subscription GroupStore::subscribe(const Key<T>&,                                       \
                                               std::function<void(const std::optional<T>&)>) const
@@ -68,6 +93,7 @@ VITRELLE_STORED(Date);
 
 #define VITRELLE_RECORDED(Record)                                                                  \
   template std::vector<Record> GroupStore::loadRecords(const Family<Record>&) const;               \
+  template Result<std::vector<Record>> GroupStore::readRecords(const Family<Record>&) const;       \
   template void GroupStore::saveRecords(const Family<Record>&, const std::vector<Record>&) const
 
 VITRELLE_RECORDED(textWidgetData);

@@ -23,6 +23,14 @@ class GroupStore final {
   template <class T>
   std::optional<T> value(const Key<T>& key) const;
 
+  /// The same, told apart from a store that can't be read: what decides over a write asks this way,
+  /// so that nothing takes the place of what only could not be read.
+  template <class T>
+  Result<std::optional<T>> read(const Key<T>& key) const;
+
+  /// Why the suite can't be read, if it can't.
+  Status check(Suite suite) const;
+
   /// The key's default, or an empty value if it has none, in the place of absence.
   template <class T>
   T valueOrDefault(const Key<T>& key) const {
@@ -47,10 +55,17 @@ class GroupStore final {
   template <class Record>
   std::vector<Record> loadRecords(const Family<Record>& family) const;
 
+  /// The same, told apart from an array that can't be taken in: of a store that can't be read, or
+  /// of more records than are read.
+  template <class Record>
+  Result<std::vector<Record>> readRecords(const Family<Record>& family) const;
+
   /// Replaces the family's array and reloads the widgets, even when the store can't be opened. An
   /// array that can't be encoded is reported on the debug console, and nothing else happens.
   template <class Record>
   void saveRecords(const Family<Record>& family, const std::vector<Record>& records) const;
+  /// What is left of a save that may not write.
+  void reloadWidgets() const { platform_->widgetCenter.reloadAllTimelines(); }
 
  private:
   const Platform* platform_;

@@ -4,8 +4,13 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <string>
+#include <tuple>
+#include <type_traits>
+#include <utility>
 
 namespace vitrelle {
 
@@ -55,24 +60,95 @@ bool read(const Json& json, Colour& value) {
   return true;
 }
 
+/// Takes records in as the text is read: no tree of it is made, however large it is or however
+/// deeply it nests.
 template <class Record>
-bool readRecord(const Json& json, Record& record) {
-  if (!json.is_object()) return false;
-  bool complete = true;
-  forEachField<Record>([&](const auto& field) {
-    const auto found = json.find(field.name);
-    complete = complete && found != json.end() && read(*found, record.*field.member);
-  });
-  return complete;
-}
+class RecordReader final : public nlohmann::json_sax<Json> {
+ public:
+  bool null() override { return take(nullptr); }
+  bool boolean(bool value) override { return take(value); }
+  bool number_integer(number_integer_t value) override { return take(value); }
+  bool number_unsigned(number_unsigned_t value) override { return take(value); }
+  bool number_float(number_float_t value, const string_t& /*text*/) override { return take(value); }
+  bool string(string_t& value) override { return take(std::move(value)); }
+  bool binary(binary_t& /*value*/) override { return false; }
 
-/// No field of a record is an array or an object, so those are dropped as they are parsed: however
-/// deeply a hostile text nests, nothing of it is kept.
-bool keepFlat(int depth, Json::parse_event_t event, Json& /*value*/) {
-  const bool opens =
-      event == Json::parse_event_t::object_start || event == Json::parse_event_t::array_start;
-  return !opens || depth < 2;
-}
+  bool start_array(std::size_t /*size*/) override { return open(depth_ == outside); }
+  bool end_array() override {
+    --depth_;
+    return true;
+  }
+  bool start_object(std::size_t /*size*/) override {
+    if (depth_ == inArray) {
+      records_.emplace_back();
+      fields_.fill(Field::missing);
+    }
+    return open(depth_ == inArray);
+  }
+  bool key(string_t& name) override {
+    if (depth_ != inRecord) return true;
+    field_ = fieldCount;
+    std::size_t index = 0;
+    forEachField<Record>([&](const auto& field) {
+      if (name == field.name) field_ = index;
+      ++index;
+    });
+    return true;
+  }
+  bool end_object() override {
+    if (--depth_ != inArray) return true;
+    const bool complete =
+        std::ranges::all_of(fields_, [](Field field) { return field == Field::read; });
+    tooMany_ = complete && records_.size() > mostRecords;
+    return complete && !tooMany_;
+  }
+  bool parse_error(std::size_t /*at*/, const std::string& /*token*/,
+                   const Json::exception& /*error*/) override {
+    return false;
+  }
+
+  /// Whether the reading ended because there are enough.
+  bool tooMany() const { return tooMany_; }
+  std::vector<Record> records() && { return std::move(records_); }
+
+ private:
+  enum class Field { missing, unreadable, read };
+  static constexpr std::size_t fieldCount =
+      std::tuple_size_v<std::remove_cvref_t<decltype(RecordFields<Record>::all)>>;
+  static constexpr std::size_t outside = 0;
+  static constexpr std::size_t inArray = 1;
+  static constexpr std::size_t inRecord = 2;
+
+  /// An array or an object begins, where one is `expected` or as the value of a field, which has
+  /// neither.
+  bool open(bool expected) {
+    if (!expected && depth_ < inRecord) return false;
+    if (depth_ == inRecord && field_ < fieldCount) fields_[field_] = Field::unreadable;
+    ++depth_;
+    return true;
+  }
+
+  template <class Value>
+  bool take(Value&& value) {
+    if (depth_ < inRecord) return false;
+    if (depth_ > inRecord || field_ == fieldCount) return true;
+    const Json json(std::forward<Value>(value));
+    std::size_t index = 0;
+    forEachField<Record>([&](const auto& field) {
+      if (index++ == field_) {
+        const bool isRead = read(json, records_.back().*field.member);
+        fields_[field_] = isRead ? Field::read : Field::unreadable;
+      }
+    });
+    return true;
+  }
+
+  std::vector<Record> records_;
+  std::array<Field, fieldCount> fields_{}; ///< of the last record
+  std::size_t field_ = fieldCount;         ///< whose value comes next; the count for an unknown one
+  std::size_t depth_ = outside;            ///< of arrays and objects
+  bool tooMany_ = false;
+};
 
 } // namespace
 
@@ -101,13 +177,10 @@ Result<Data> encodeRecords(const std::vector<Record>& records) {
 
 template <class Record>
 std::optional<std::vector<Record>> decodeRecords(const Data& bytes) {
-  const Json array = Json::parse(bytes.begin(), bytes.end(), keepFlat, /*allow_exceptions=*/false);
-  if (!array.is_array()) return std::nullopt;
-  std::vector<Record> records(array.size());
-  for (std::size_t i = 0; i < records.size(); ++i) {
-    if (!readRecord(array[i], records[i])) return std::nullopt;
-  }
-  return records;
+  RecordReader<Record> reader;
+  const bool whole = Json::sax_parse(bytes.begin(), bytes.end(), &reader);
+  if (!whole && !reader.tooMany()) return std::nullopt;
+  return std::move(reader).records();
 }
 
 #define VITRELLE_CODED(Record)                                                                     \

@@ -5,6 +5,7 @@
 #include "core/platform/Result.h"
 #include "core/store/Records.h"
 
+#include <cstddef>
 #include <optional>
 #include <vector>
 
@@ -15,8 +16,14 @@ namespace vitrelle {
 template <class Record>
 Result<Data> encodeRecords(const std::vector<Record>& records);
 
+/// No family is read beyond so many records: a dozen can be made, and a store may come from
+/// anywhere.
+inline constexpr std::size_t mostRecords = 1000;
+
 /// Nothing unless every record has every field in its right type; fields of other names are
-/// ignored. An integer may be written with a fraction of zero.
+/// ignored, and of fields of one name the last counts. An integer may be written with a fraction of
+/// zero. Ends behind the first record too many, so that whoever gets more than the most has not got
+/// all. Takes time in proportion to the text.
 template <class Record>
 std::optional<std::vector<Record>> decodeRecords(const Data& json);
 

@@ -13,6 +13,8 @@ class StoredValue final {
 
   /// Nothing when the key is absent or its value is of another type.
   std::optional<T> get() const { return store_.value(key_); }
+  /// The same, told apart from a store that can't be read.
+  Result<std::optional<T>> read() const { return store_.read(key_); }
   T getOrDefault() const { return store_.valueOrDefault(key_); }
   void set(const T& value) const { store_.set(key_, value); }
 

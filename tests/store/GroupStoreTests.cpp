@@ -66,6 +66,21 @@ TEST_F(GroupStoreTest, damagedArray_readsAsEmptyAndTheNextSaveReplacesIt) {
   EXPECT_EQ(store.loadRecords(families::text).size(), 1U);
 }
 
+TEST_F(GroupStoreTest, whatCannotBeRead_isToldFromWhatIsNotThere) {
+  EXPECT_EQ(*store.read(keys::amountOfConfigs), std::nullopt);
+  EXPECT_TRUE(store.readRecords(families::text)->empty());
+  EXPECT_TRUE(store.check(Suite::group));
+  group()["savedTextWidgetData"] = Data{'['};
+  EXPECT_TRUE(store.readRecords(families::text)->empty()) << "damage is no failure to read";
+  group()["savedTextWidgetData"] = *encodeRecords(std::vector<textWidgetData>(mostRecords + 1));
+  EXPECT_FALSE(store.readRecords(families::text));
+  EXPECT_TRUE(store.loadRecords(families::text).empty());
+  defaults.broken = true;
+  EXPECT_FALSE(store.read(keys::amountOfConfigs));
+  EXPECT_FALSE(store.readRecords(families::image));
+  EXPECT_FALSE(store.check(Suite::group));
+}
+
 TEST_F(GroupStoreTest, unencodableRecord_isReportedAndNothingElseHappens) {
   store.saveRecords(families::text, {textWidgetData{}});
   const auto before = group();

@@ -109,6 +109,9 @@ TEST(RecordCoding, oneFieldAmiss_failsTheWholeArray) {
       {"2,", "\"2\",", false},
       {"2,", "null,", false},
       {"2,", "[2],", false},
+      {"2,", R"([2],"imageSize":2,)", true},
+      {"2,", R"(2,"imageSize":{},)", false},
+      {"2,", R"("x","imageSize":2,)", true},
       {"true", "1", false},
       {"true", "null", false},
       {"\"centre\"", "null", false},
@@ -149,9 +152,20 @@ TEST(RecordCoding, transparentColour_comesBackOpaque) {
   EXPECT_EQ(decoded->at(0).musicColourOfSongName, (Colour{1, 0, 0, 1}));
 }
 
+TEST(RecordCoding, manyRecords_areReadToOneBeyondTheMost) {
+  const auto array = [](std::size_t count, const std::string& rest) {
+    const std::string whole = encoded(std::vector<imageWidgetData>(count));
+    return bytes(whole.substr(0, whole.size() - 1) + rest);
+  };
+  EXPECT_EQ(decodeRecords<imageWidgetData>(array(mostRecords, "]"))->size(), mostRecords);
+  EXPECT_EQ(decodeRecords<imageWidgetData>(array(mostRecords + 1, ",garbage"))->size(),
+            mostRecords + 1);
+  EXPECT_EQ(decodeRecords<imageWidgetData>(array(mostRecords, ",garbage")), std::nullopt);
+}
+
 TEST(RecordCoding, deepAndLongTexts_areRefusedWithoutHarm) {
   constexpr std::size_t length = 1'000'000;
-  for (const char* piece : {"[", "{\"a\":", "[[{\"id\":", "[0,"}) {
+  for (const char* piece : {"[", "{\"a\":", "[[{\"id\":", "[0,", "[{\"a\":["}) {
     std::string text;
     while (text.size() < length)
       text += piece;
