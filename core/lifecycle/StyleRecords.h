@@ -1,5 +1,6 @@
 // One family's records as the shared screens see them: a screen's own copy, made when it appears
-// and written back whole. Of two copies, the one that is saved last wins.
+// and written back whole. Of two copies, the one that is saved last wins; one that could not be
+// read is never saved.
 #pragma once
 
 #include "core/store/GroupStore.h"
@@ -7,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace vitrelle {
@@ -33,8 +35,14 @@ class FamilyRecords final : public StyleRecords {
   FamilyRecords(const Platform& platform, const Family<Record>& family)
       : store_(platform), family_(family) {}
 
-  void load() override { records = store_.loadRecords(family_); }
-  void save() const override { store_.saveRecords(family_, records); }
+  void load() override {
+    auto loaded = store_.readRecords(family_);
+    loaded_ = loaded.ok();
+    records = loaded ? std::move(loaded).value() : std::vector<Record>();
+  }
+  void save() const override {
+    loaded_ ? store_.saveRecords(family_, records) : store_.reloadWidgets();
+  }
   std::size_t count() const override { return records.size(); }
   std::int64_t tag(std::size_t index) const override { return records[index].*family_.tag; }
   std::int64_t linked(std::size_t index) const override { return records[index].*family_.linked; }
@@ -53,6 +61,7 @@ class FamilyRecords final : public StyleRecords {
  private:
   GroupStore store_;
   const Family<Record>& family_;
+  bool loaded_ = false;
 };
 
 } // namespace vitrelle
