@@ -1,6 +1,7 @@
 #include "host/files/HomeFolder.h"
 
 #include "core/platform/Defaults.h"
+#include "host/files/HomeLock.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -37,12 +38,14 @@ std::string HomeFolder::groupFolder() const {
 }
 
 Files HomeFolder::files() const {
-  return {.groupContainer = [folder = groupFolder()] { return std::optional(folder); },
-          .fileExists =
-              [](const std::string& path) {
-                struct stat status {};
-                return stat(path.c_str(), &status) == 0;
-              }};
+  return {
+      .groupContainer = [folder = groupFolder()] { return std::optional(folder); },
+      .fileExists =
+          [](const std::string& path) {
+            struct stat status {};
+            return stat(path.c_str(), &status) == 0;
+          },
+      .lock = [home = *this](double patienceSeconds) { return lockHome(home, patienceSeconds); }};
 }
 
 Status makeFolder(const std::string& path) {

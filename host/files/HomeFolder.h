@@ -23,6 +23,8 @@ class HomeFolder final {
   std::string pendingFolder() const { return path_ + "/tmp"; }
   /// Rewritten at each request that the widgets be drawn anew.
   std::string timelinesFile() const { return path_ + "/timelines"; }
+  /// Locked by whoever changes what belongs together.
+  std::string lockFile() const { return path_ + "/lock"; }
   /// The phone that is stood for.
   std::string phoneFile() const { return path_ + "/phone"; }
 

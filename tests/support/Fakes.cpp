@@ -75,7 +75,13 @@ void FakeFolder::use(Platform& platform) {
         if (!exists) return std::nullopt;
         return root;
       },
-      .fileExists = [this](const std::string& path) { return images.contains(fileName(path)); }};
+      .fileExists = [this](const std::string& path) { return images.contains(fileName(path)); },
+      .lock = [this](double) -> Result<HomeLock> {
+        if (lock.lock()) return Failure{root, "another program is changing its styles"};
+        const auto held = std::make_shared<const int>();
+        lock = held;
+        return HomeLock(held);
+      }};
   platform.images.load = [this](const std::string& path) -> Result<Image> {
     const auto found = images.find(fileName(path));
     if (found == images.end()) return Failure{path, "no such file"};

@@ -5,6 +5,7 @@
 #include "core/platform/Platform.h"
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -38,6 +39,7 @@ class FakeFolder final {
   std::map<std::string, Image> images; ///< by file name
   std::vector<std::string> written;    ///< file names in the order of writing
   std::set<std::string> refused;
+  std::weak_ptr<const void> lock; ///< whoever holds it keeps others out at once
   static constexpr const char* root = "/group";
 };
 
