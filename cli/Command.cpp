@@ -3,11 +3,22 @@
 #include "core/slicing/DeviceNames.h"
 
 #include <cstdio>
+#include <utility>
 
 namespace vitrelle::cli {
 
 std::string phoneName(const Platform& platform) {
   return modelName(platform.phoneBook.current().identifier, platform.device);
+}
+
+HomeLock lockHome(const Platform& platform) {
+  // Commands hold it for well under a second, but several may wait; the application holds it while
+  // a style is made by hand, which is not waited for.
+  constexpr double patienceSeconds = 30;
+  auto lock = platform.files.lock(patienceSeconds);
+  if (lock) return *std::move(lock);
+  complain(lock.failure());
+  return nullptr;
 }
 
 void complain(const Failure& failure) {

@@ -36,6 +36,10 @@ struct CommandContext {
 /// The name of the phone that is stood for.
 std::string phoneName(const Platform& platform);
 
+/// Keeps other programs from changing styles meanwhile. Waits for one that does; null, with a
+/// complaint, when that takes too long or the home can't be written.
+HomeLock lockHome(const Platform& platform);
+
 /// "vitrelle: what: why" on stderr.
 void complain(const Failure& failure);
 

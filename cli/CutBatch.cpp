@@ -1,6 +1,7 @@
 #include "cli/CutBatch.h"
 
 #include "cli/CutStyle.h"
+#include "cli/Interruption.h"
 
 #include <nlohmann/json.hpp>
 
@@ -99,11 +100,16 @@ Exit cutBatch(const CommandContext& context, const std::string& from, const std:
     return Exit::failed;
   }
   const Platform platform = intoFolder(context.platform(), into);
+  const Interruption interruption;
   const Progress progress(pairs->size());
   auto list = nlohmann::ordered_json::array();
   std::int64_t style = 0;
   bool complete = true;
   for (const auto& [name, screenshots] : *pairs) {
+    if (Interruption::came()) {
+      complete = false;
+      break;
+    }
     progress.show(static_cast<std::size_t>(style), name);
     const std::int64_t number = style++;
     if (!screenshots.light || !screenshots.dark) {

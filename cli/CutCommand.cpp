@@ -1,17 +1,17 @@
 #include "cli/Command.h"
 #include "cli/CutBatch.h"
 #include "cli/CutStyle.h"
+#include "cli/Interruption.h"
+#include "cli/Numbers.h"
 #include "core/slicing/Measurements.h"
 #include "core/slicing/SlotOverview.h"
 
 #include <nlohmann/json.hpp>
 
-#include <charconv>
 #include <chrono>
 #include <cstdio>
 #include <memory>
 #include <string>
-#include <system_error>
 
 namespace vitrelle::cli {
 
@@ -84,8 +84,11 @@ bool writeOverview(const Platform& platform, const CutArguments& arguments) {
 }
 
 Exit cutOne(const CommandContext& context, const CutArguments& arguments) {
-  const auto start = Clock::now();
+  const Interruption interruption;
   const Platform& platform = context.platform();
+  const auto lock = lockHome(platform);
+  if (!lock) return Exit::failed;
+  const auto start = Clock::now();
   const Result<CutStyle> cut = cutStyle(platform, arguments.style, arguments.screenshots);
   if (!cut) {
     complain(cut.failure());
@@ -96,15 +99,6 @@ Exit cutOne(const CommandContext& context, const CutArguments& arguments) {
   arguments.json ? printJson(platform, *cut, seconds.count()) : printLines(*cut);
   const bool drawn = arguments.overview.empty() || writeOverview(platform, arguments);
   return complete && drawn ? Exit::done : Exit::failed;
-}
-
-/// Empty for a number that a style may have.
-std::string whyNoStyle(const std::string& text) {
-  std::int64_t number = -1;
-  const char* const end = text.data() + text.size();
-  const auto [behind, error] = std::from_chars(text.data(), end, number);
-  if (error == std::errc() && behind == end && number >= 0) return "";
-  return "'" + text + "' is no style's number, which is 0 or above";
 }
 
 /// What the options' own checks can't say.
@@ -142,7 +136,7 @@ void addCutCommand(CLI::App& program, CommandContext& context) {
   CLI::Option* style =
       command->add_option("--style", arguments->style, "The style's number, from 0")
           ->type_name("N")
-          ->check(CLI::Validator(whyNoStyle, ""));
+          ->check(styleNumber());
   const auto addScreenshot = [&](const char* name, std::optional<std::string>& path,
                                  const char* description) {
     command

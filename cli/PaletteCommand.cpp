@@ -1,4 +1,5 @@
 #include "cli/Command.h"
+#include "cli/Numbers.h"
 
 #include "core/colour/ColorThief.h"
 
@@ -71,10 +72,10 @@ void addPaletteCommand(CLI::App& program, CommandContext& context) {
   command
       ->add_option("--colours", options->colours,
                    "How many to look for; the palette may have one fewer, or one more than 2 or 3")
-      ->check(CLI::Range(MMCQ::minimumColorCount, MMCQ::maximumColorCount))
+      ->check(wholeNumber(MMCQ::minimumColorCount, MMCQ::maximumColorCount))
       ->capture_default_str();
   command->add_option("--quality", options->quality, "Looks at every Nth pixel")
-      ->check(CLI::Range(std::int64_t{1}, std::numeric_limits<std::int64_t>::max()))
+      ->check(wholeNumber(1, std::numeric_limits<std::int64_t>::max()))
       ->capture_default_str();
   command->add_flag("--keep-white", options->keepWhite, "Counts nearly white pixels too");
   command->add_flag("--json", options->json, "Prints one JSON document");

@@ -46,12 +46,13 @@ void print(const std::vector<Record>& records) {
 
 template <class Record>
 Exit run(const Platform& platform, const Family<Record>& family, bool json) {
+  const auto read = GroupStore(platform).readRecords(family);
   const auto stored = platform.defaults.value(Suite::group, family.records.name);
-  if (!stored) {
-    complain(stored.failure());
+  if (!read || !stored) {
+    complain(read ? stored.failure() : read.failure());
     return Exit::failed;
   }
-  const std::vector<Record> records = GroupStore(platform).loadRecords(family);
+  const std::vector<Record>& records = *read;
   const auto* bytes = *stored ? std::get_if<Data>(&**stored) : nullptr;
   if (*stored && !(bytes && decodeRecords<Record>(*bytes))) {
     complain({family.records.name, "it is damaged and reads as empty"});

@@ -14,8 +14,13 @@ namespace vitrelle::cli {
 namespace {
 
 Exit printOptions(const Platform& platform) {
+  const auto amount = GroupStore(platform).read(keys::amountOfConfigs);
+  if (!amount) {
+    complain(amount.failure());
+    return Exit::failed;
+  }
   // The action itself ends the program here; a person at a terminal is told why.
-  if (GroupStore(platform).valueOrDefault(keys::amountOfConfigs) < 1) {
+  if (amount->value_or(0) < 1) {
     complain({"shortcut", "there is no style yet; 'vitrelle style new' makes one"});
     return Exit::failed;
   }
@@ -26,13 +31,23 @@ Exit printOptions(const Platform& platform) {
 
 Exit runAction(const Platform& platform, const std::optional<std::string>& style) {
   using Intent = ChangeVitrelleConfigIntent;
-  const auto outcome = Intent(platform).perform(style);
+  std::optional<Failure> refused;
+  Platform noting = platform;
+  noting.defaults.set = [&](Suite suite, const std::string& key, const StoreValue& value) {
+    Status written = platform.defaults.set(suite, key, value);
+    if (!written) refused = written.failure();
+    return written;
+  };
+  const auto outcome = Intent(noting).perform(style);
   if (const auto* question = std::get_if<Intent::NeedsValue>(&outcome)) {
     std::fprintf(stderr, "%s\n", std::string(question->dialog).c_str());
     return Exit::usage;
   }
   std::printf("%s\n", std::string(std::get<Intent::Done>(outcome).value).c_str());
-  return Exit::done;
+  // The action says so whatever happened; the exit status does not.
+  if (!refused) return Exit::done;
+  complain(*refused);
+  return Exit::failed;
 }
 
 } // namespace

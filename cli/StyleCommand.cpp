@@ -1,12 +1,14 @@
 #include "cli/Command.h"
 #include "cli/CutStyle.h"
+#include "cli/Interruption.h"
+#include "cli/Numbers.h"
 #include "core/app/ModernContentView.h"
-#include "core/slicing/WallpaperIntake.h"
 #include "core/store/GroupStore.h"
 #include "core/store/Keys.h"
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -28,6 +30,10 @@ std::string describe(PixelSize size) {
 
 /// The styles as the application lists them: without those whose screenshots are not both there.
 Exit list(const Platform& platform, bool json) {
+  if (const Status readable = GroupStore(platform).check(Suite::group); !readable) {
+    complain(readable.failure());
+    return Exit::failed;
+  }
   ModernContentView root(platform);
   root.reloadConfigs();
   auto styles = nlohmann::ordered_json::array();
@@ -53,62 +59,97 @@ Exit list(const Platform& platform, bool json) {
   return Exit::done;
 }
 
-Exit store(const Platform& platform, WallpaperIntake& screen, const Screenshots& screenshots) {
-  const auto cut = cutScreenshots(platform, screenshots, [&](const Image& image, auto style) {
-    screen.choose(style);
-    return screen.pick(image);
-  });
+/// Cuts the screenshots into the style, and complains of what went wrong. Whether it can be used:
+/// slots that lie outside of a screenshot are no hindrance.
+bool store(const Platform& platform, std::int64_t number, const Screenshots& screenshots) {
+  const auto cut = cutStyle(platform, number, screenshots);
   if (!cut) {
     complain(cut.failure());
-    return Exit::failed;
+    return false;
   }
-  return complainOf(*cut) ? Exit::done : Exit::failed;
+  complainOf(*cut);
+  return std::ranges::all_of(cut->files, [](const StoredSlice& file) { return file.bytes.ok(); });
 }
 
-/// By way of the application's own screen, with its counting and its taking back.
-Exit makeNew(const Platform& platform, const Screenshots& screenshots) {
+/// Sets the key; complains if it is not stored then.
+template <class T>
+bool stored(const Platform& platform, const Key<T>& key, const T& value) {
   const GroupStore store(platform);
-  const auto amount = store.value(keys::amountOfConfigs);
-  if (amount.value_or(0) >= ModernContentView::maximumStyles) {
+  store.set(key, value);
+  const auto present = store.read(key);
+  if (present && *present == value) return true;
+  complain(present ? Failure{key.name, "the store did not take it"} : present.failure());
+  return false;
+}
+
+/// What the application's first start would write, which else would begin to count at 0 again.
+bool prepareStore(const Platform& platform, bool hasAmount) {
+  const auto version = GroupStore(platform).read(keys::lastUsedAppVersion);
+  if (!version) {
+    complain(version.failure());
+    return false;
+  }
+  const auto current = platform.bundle.shortVersion();
+  return (hasAmount || (stored(platform, keys::amountOfConfigs, std::int64_t{0}) &&
+                        stored(platform, keys::selectedConfig, std::int64_t{0}))) &&
+         (*version || !current || stored(platform, keys::lastUsedAppVersion, *current));
+}
+
+/// The style counts last: whatever ends the program before, its number is the next one's again.
+Exit makeNew(const Platform& platform, const Screenshots& screenshots) {
+  const Interruption interruption;
+  const auto lock = lockHome(platform);
+  if (!lock) return Exit::failed;
+  const auto amount = GroupStore(platform).read(keys::amountOfConfigs);
+  if (!amount) {
+    complain(amount.failure());
+    return Exit::failed;
+  }
+  const std::int64_t number = amount->value_or(0);
+  if (number < 0) {
+    complain({keys::amountOfConfigs.name, "there can't be " + std::to_string(number) + " styles"});
+    return Exit::failed;
+  }
+  if (number >= ModernContentView::maximumStyles) {
     complain({"style new", "there are twelve styles already, and no more can be made"});
     return Exit::failed;
   }
-  // As the application's first start would, which else would begin to count at 0 again.
-  if (!amount) {
-    store.set(keys::amountOfConfigs, std::int64_t{0});
-    store.set(keys::selectedConfig, std::int64_t{0});
-  }
-  if (const auto version = platform.bundle.shortVersion();
-      version && !store.value(keys::lastUsedAppVersion)) {
-    store.set(keys::lastUsedAppVersion, *version);
-  }
-  if (!store.value(keys::amountOfConfigs)) {
-    complain({"style new", "the store can't be written"});
+  if (!prepareStore(platform, amount->has_value())) return Exit::failed;
+  if (!store(platform, number, screenshots) || Interruption::came() ||
+      !stored(platform, keys::amountOfConfigs, number + 1)) {
+    complain({"style new", "no style was made"});
     return Exit::failed;
   }
-  ModernNewLightDark screen(platform);
-  screen.appear();
-  const std::int64_t number = screen.styleNumber();
-  const Exit exit = cli::store(platform, screen, screenshots);
-  screen.disappear();
-  if (exit == Exit::done) std::printf("%lld\n", static_cast<long long>(number));
-  return exit;
+  std::printf("%lld\n", static_cast<long long>(number));
+  return Exit::done;
 }
 
 /// Whether there is such a style; complains if not.
 bool exists(const Platform& platform, std::int64_t number) {
-  const std::int64_t amount = GroupStore(platform).valueOrDefault(keys::amountOfConfigs);
+  const auto stored = GroupStore(platform).read(keys::amountOfConfigs);
+  if (!stored) {
+    complain(stored.failure());
+    return false;
+  }
+  const std::int64_t amount = stored->value_or(0);
   if (number >= 0 && number < amount) return true;
   complain({"style " + std::to_string(number),
-            amount == 0 ? "there is no style yet"
+            amount <= 0 ? "there is no style yet"
                         : "there are only the styles 0 to " + std::to_string(amount - 1)});
   return false;
 }
 
 Exit change(const Platform& platform, const StyleArguments& arguments) {
-  if (!exists(platform, arguments.number)) return Exit::failed;
-  ModernChangeLightDark screen(platform, arguments.number);
-  return store(platform, screen, arguments.screenshots);
+  const Interruption interruption;
+  const auto lock = lockHome(platform);
+  if (!lock || !exists(platform, arguments.number)) return Exit::failed;
+  const auto cut = cutStyle(platform, arguments.number, arguments.screenshots);
+  if (!cut) {
+    complain(cut.failure());
+    return Exit::failed;
+  }
+  // Slots that could not be cut still show the wallpaper of before.
+  return complainOf(*cut) ? Exit::done : Exit::failed;
 }
 
 Exit select(const Platform& platform, std::int64_t number) {
@@ -143,7 +184,9 @@ void addStyleCommand(CLI::App& program, CommandContext& context) {
   CLI::App* changing = command->add_subcommand("change", "Replace screenshots of a style");
   CLI::App* selecting = command->add_subcommand("select", "Put a style to use");
   for (CLI::App* numbered : {changing, selecting}) {
-    numbered->add_option("N", arguments->number, "The style's number, from 0")->required();
+    numbered->add_option("N", arguments->number, "The style's number, from 0")
+        ->required()
+        ->check(styleNumber());
   }
   for (CLI::App* taking : {making, changing}) {
     const bool both = taking == making;

@@ -5,6 +5,7 @@
 #include "core/store/StoredValue.h"
 
 #include <charconv>
+#include <limits>
 
 namespace vitrelle {
 
@@ -12,13 +13,14 @@ namespace {
 
 constexpr std::string_view prefix = "Style ";
 
-/// 0 for what is no whole number, or none of 64 bits.
+/// 0 for what is no whole number, or none of 64 bits with another below it.
 std::int64_t wholeNumber(std::string_view text) {
   if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   std::int64_t number = 0;
   const char* const end = text.data() + text.size();
   const auto [behind, error] = std::from_chars(text.data(), end, number);
-  return error == std::errc() && behind == end ? number : 0;
+  const bool isNumber = error == std::errc() && behind == end;
+  return isNumber && number != std::numeric_limits<std::int64_t>::min() ? number : 0;
 }
 
 } // namespace
@@ -38,7 +40,7 @@ ChangeVitrelleConfigIntent::perform(const std::optional<std::string>& style) con
   std::string rest = *style;
   for (auto at = rest.find(prefix); at != std::string::npos; at = rest.find(prefix, at))
     rest.erase(at, prefix.size());
-  StoredValue<std::int64_t>(platform_, keys::selectedConfig).set(checkedAdd(wholeNumber(rest), -1));
+  StoredValue<std::int64_t>(platform_, keys::selectedConfig).set(wholeNumber(rest) - 1);
   platform_.widgetCenter.reloadAllTimelines();
   return Done{};
 }
