@@ -1,7 +1,10 @@
 #include "host/imaging/LibpngReader.h"
 
 #include "host/imaging/PixelBuffer.h"
+#include "host/imaging/PngChunks.h"
+#include "host/imaging/PngFormat.h"
 
+#include <algorithm>
 #include <csetjmp>
 #include <cstdio>
 #include <cstring>
@@ -15,8 +18,8 @@ namespace {
 
 /// What libpng's callbacks work on. It has no destructor, so that a jump may pass over it.
 struct Reading {
-  const std::uint8_t* next;
-  std::size_t left;
+  PngChunks chunks;
+  std::span<const std::uint8_t> next; ///< to be read before the chunks that follow
   char complaint[128];
 };
 
@@ -24,12 +27,26 @@ Reading& reading(png_structp png) {
   return *static_cast<Reading*>(png_get_error_ptr(png));
 }
 
+/// libpng reads and inflates all that it is given, however little of it is asked for.
+bool concernsPixels(const PngChunk& chunk) {
+  constexpr std::uint32_t types[] = {png::IHDR, png::PLTE, png::tRNS, png::IEND};
+  return chunk.type == png::IDAT ? !chunk.data.empty() : std::ranges::count(types, chunk.type) != 0;
+}
+
 void supply(png_structp png, png_bytep out, std::size_t size) {
   auto& from = *static_cast<Reading*>(png_get_io_ptr(png));
-  if (size > from.left) png_error(png, "the file is incomplete");
-  std::memcpy(out, from.next, size);
-  from.next += size;
-  from.left -= size;
+  while (size > 0) {
+    while (from.next.empty()) {
+      const auto chunk = from.chunks.next();
+      if (!chunk) png_error(png, "the file is incomplete");
+      if (concernsPixels(*chunk)) from.next = bytesOf(*chunk);
+    }
+    const std::size_t count = std::min(size, from.next.size());
+    std::memcpy(out, from.next.data(), count);
+    from.next = from.next.subspan(count);
+    out += count;
+    size -= count;
+  }
 }
 
 [[noreturn]] void fail(png_structp png, png_const_charp words) {
@@ -49,14 +66,17 @@ void askForRgba(png_structp png, png_infop info) {
   png_read_update_info(png, info);
 }
 
-/// Where the rows go: made after the layout is known, by the caller, outside of any jump.
+/// Where the rows go: made by the caller, outside of any jump.
 struct Rows {
+  PixelSize size;
   png_bytepp pointers;
   std::size_t bytesPerRow;
 };
 
 bool readRows(png_structp png, png_infop info, const Rows& rows) {
   if (setjmp(png_jmpbuf(png)) != 0) return false;
+  png_set_user_limits(png, static_cast<png_uint_32>(rows.size.width),
+                      static_cast<png_uint_32>(rows.size.height));
   png_read_info(png, info);
   askForRgba(png, info);
   if (png_get_rowbytes(png, info) != rows.bytesPerRow) png_error(png, "the header is damaged");
@@ -75,20 +95,15 @@ Result<Bitmap> decodeWithLibpng(std::span<const std::uint8_t> bytes, PixelSize s
   for (std::size_t y = 0; y < height; ++y)
     rows[y] = pixels.get() + y * bytesPerRow;
 
-  Reading from{.next = bytes.data(), .left = bytes.size(), .complaint = ""};
+  Reading from{.chunks = PngChunks(bytes), .next = png::signature, .complaint = ""};
   png_structp png = png_create_read_struct(PNG_LIBPNG_VER_STRING, &from, fail, ignore);
   png_infop info = png == nullptr ? nullptr : png_create_info_struct(png);
   if (info == nullptr) {
     png_destroy_read_struct(&png, nullptr, nullptr);
     return Failure{"PNG", "not enough memory"};
   }
-  // Text and other chunks that we don't read may not take memory either.
-  png_set_user_limits(png, static_cast<png_uint_32>(size.width),
-                      static_cast<png_uint_32>(size.height));
-  png_set_chunk_malloc_max(png, png_alloc_size_t{8} << 20);
-  png_set_keep_unknown_chunks(png, PNG_HANDLE_CHUNK_NEVER, nullptr, 0);
   png_set_read_fn(png, &from, supply);
-  const bool read = readRows(png, info, {rows.data(), bytesPerRow});
+  const bool read = readRows(png, info, {size, rows.data(), bytesPerRow});
   png_destroy_read_struct(&png, &info, nullptr);
   if (!read) return Failure{"PNG", std::string("the picture is damaged (") + from.complaint + ")"};
   return Bitmap{.size = size,

@@ -73,6 +73,10 @@ bool isIntact(const PngChunk& chunk) {
   return libdeflate_crc32(0, chunk.data.data() - 4, chunk.data.size() + 4) == chunk.checksum;
 }
 
+std::span<const std::uint8_t> bytesOf(const PngChunk& chunk) {
+  return {chunk.data.data() - 8, chunk.data.size() + 12};
+}
+
 void readColourChunk(const PngChunk& chunk, ColourProfile& profile) {
   const auto& data = chunk.data;
   if (!isColourChunk(chunk.type) || !isIntact(chunk)) return;

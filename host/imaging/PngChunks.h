@@ -18,6 +18,9 @@ struct PngChunk {
 /// Whether the checksum is right.
 bool isIntact(const PngChunk& chunk);
 
+/// The chunk as it stands in the file, with its length, type and checksum.
+std::span<const std::uint8_t> bytesOf(const PngChunk& chunk);
+
 /// Walks through the chunks of a file.
 class PngChunks final {
  public:

@@ -25,6 +25,7 @@ constexpr std::uint32_t chunkType(const char (&letters)[5]) {
 inline constexpr std::uint32_t IHDR = chunkType("IHDR");
 inline constexpr std::uint32_t IDAT = chunkType("IDAT");
 inline constexpr std::uint32_t IEND = chunkType("IEND");
+inline constexpr std::uint32_t PLTE = chunkType("PLTE");
 inline constexpr std::uint32_t tRNS = chunkType("tRNS");
 inline constexpr std::uint32_t iCCP = chunkType("iCCP");
 inline constexpr std::uint32_t sRGB = chunkType("sRGB");

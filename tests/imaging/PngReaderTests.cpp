@@ -7,7 +7,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <random>
+#include <string_view>
 
 #include <libdeflate.h>
 
@@ -33,6 +35,22 @@ void expectSameAsLibpng(const Data& file, const std::string& what) {
   for (std::size_t alpha = 3; alpha < expected.size(); alpha += 4)
     seeThrough = seeThrough || expected[alpha] != 255;
   EXPECT_FALSE(picture->bitmap.opaque && seeThrough) << what << " would lose its alpha";
+}
+
+/// The file with more of it behind its header.
+Data withChunks(Data file, const Data& chunks) {
+  file.insert(file.begin() + pngHeaderBytes, chunks.begin(), chunks.end());
+  return file;
+}
+
+Data chunk(std::string_view type, const Data& content) {
+  Data bytes(4);
+  writeBigEndian32(bytes.data(), static_cast<std::uint32_t>(content.size()));
+  bytes.insert(bytes.end(), type.begin(), type.end());
+  bytes.insert(bytes.end(), content.begin(), content.end());
+  bytes.resize(bytes.size() + 4);
+  writeBigEndian32(&bytes[8 + content.size()], libdeflate_crc32(0, &bytes[4], 4 + content.size()));
+  return bytes;
 }
 
 TEST(PngReader, everyKindOfFile_hasLibpngsPixels) {
@@ -88,6 +106,18 @@ TEST(PngReader, pixelsInManySmallChunks_areJoined) {
   }
 }
 
+TEST(PngReader, emptyChunksAroundThePixels_changeNothing) {
+  for (const int colourType : {PNG_COLOR_TYPE_RGB, PNG_COLOR_TYPE_GRAY}) {
+    Data file = test::writeWithLibpng(90, 33, {8, colourType});
+    const Data empty = chunk("IDAT", {});
+    for (int i = 0; i < 1000; ++i) {
+      file = withChunks(std::move(file), empty);
+      file.insert(file.end() - 12, empty.begin(), empty.end()); // before IEND
+    }
+    expectSameAsLibpng(file, "type " + std::to_string(colourType));
+  }
+}
+
 TEST(PngReader, transparentColour_becomesAlpha) {
   const PngKind kinds[] = {{1, PNG_COLOR_TYPE_GRAY},    {4, PNG_COLOR_TYPE_GRAY},
                            {8, PNG_COLOR_TYPE_GRAY},    {16, PNG_COLOR_TYPE_GRAY},
@@ -115,6 +145,46 @@ TEST(PngReader, colourChunks_areCarried) {
   EXPECT_EQ(picture->profile.gamma, 45455U);
   ASSERT_TRUE(picture->profile.chromaticities);
   EXPECT_EQ((*picture->profile.chromaticities)[2], 68000U);
+}
+
+/// What compressed chunks hold: a name, then a zlib stream of the content.
+Data named(const Data& content) {
+  libdeflate_compressor* compressor = libdeflate_alloc_compressor(6);
+  Data bytes(3 + libdeflate_zlib_compress_bound(compressor, content.size()));
+  bytes[0] = 'n';
+  bytes.resize(3 + libdeflate_zlib_compress(compressor, content.data(), content.size(), &bytes[3],
+                                            bytes.size() - 3));
+  libdeflate_free_compressor(compressor);
+  return bytes;
+}
+
+/// Bytes that pass for a profile, the last of which tells it from others.
+Data profile(std::size_t size, std::uint8_t last) {
+  Data bytes(size);
+  writeBigEndian32(bytes.data(), static_cast<std::uint32_t>(size));
+  std::ranges::copy(std::string_view("RGB "), bytes.begin() + 16);
+  std::ranges::copy(std::string_view("acsp"), bytes.begin() + 36);
+  bytes.back() = last;
+  return bytes;
+}
+
+TEST(PngReader, thousandsOfCompressedChunks_takeNoTime) {
+  // Megabytes each: inflating all of any kind takes many seconds.
+  const Data large = named(profile(std::size_t{4} << 20, 1));
+  const std::pair<const char*, Data> bombs[] = {{"zTXt", large}};
+  for (const auto& [type, content] : bombs) {
+    const Data one = chunk(type, content);
+    Data all;
+    for (int i = 0; i < 2000; ++i)
+      all.insert(all.end(), one.begin(), one.end());
+    for (const PngKind& kind : {PngKind(), {16, PNG_COLOR_TYPE_RGB}, {8, PNG_COLOR_TYPE_PALETTE}}) {
+      const Data file = withChunks(test::writeWithLibpng(9, 9, kind), all);
+      const auto start = std::chrono::steady_clock::now();
+      ASSERT_TRUE(decodePng(file)) << type;
+      EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1))
+          << type << ' ' << describe(9, 9, kind);
+    }
+  }
 }
 
 TEST(PngReader, orientationFlagAndTrailingBytes_changeNothing) {
