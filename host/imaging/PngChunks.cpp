@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 #include <libdeflate.h>
 
@@ -43,10 +44,41 @@ Data readIccChunk(std::span<const std::uint8_t> data) {
   return {};
 }
 
-bool isColourChunk(std::uint32_t type) {
-  return type == png::iCCP || type == png::sRGB || type == png::gAMA || type == png::cHRM ||
-         type == png::cICP;
+void readIcc(std::span<const std::uint8_t> data, ColourProfile& profile) {
+  profile.icc = readIccChunk(data);
 }
+
+void readIntent(std::span<const std::uint8_t> data, ColourProfile& profile) {
+  if (data.size() == 1 && data[0] <= 3) profile.srgbIntent = data[0];
+}
+
+void readGamma(std::span<const std::uint8_t> data, ColourProfile& profile) {
+  if (data.size() == 4 && readBigEndian32(data.data()) != 0) {
+    profile.gamma = readBigEndian32(data.data());
+  }
+}
+
+void readChromaticities(std::span<const std::uint8_t> data, ColourProfile& profile) {
+  if (data.size() != 32) return;
+  auto& values = profile.chromaticities.emplace();
+  for (std::size_t i = 0; i < 8; ++i)
+    values[i] = readBigEndian32(data.data() + 4 * i);
+}
+
+void readCicp(std::span<const std::uint8_t> data, ColourProfile& profile) {
+  if (data.size() == 4) profile.cicp = {data[0], data[1], data[2], data[3]};
+}
+
+struct ColourChunkType {
+  std::uint32_t type;
+  void (*read)(std::span<const std::uint8_t>, ColourProfile&);
+};
+
+constexpr ColourChunkType colourChunkTypes[] = {{png::iCCP, readIcc},
+                                                {png::sRGB, readIntent},
+                                                {png::gAMA, readGamma},
+                                                {png::cHRM, readChromaticities},
+                                                {png::cICP, readCicp}};
 
 } // namespace
 
@@ -77,22 +109,14 @@ std::span<const std::uint8_t> bytesOf(const PngChunk& chunk) {
   return {chunk.data.data() - 8, chunk.data.size() + 12};
 }
 
-void readColourChunk(const PngChunk& chunk, ColourProfile& profile) {
-  const auto& data = chunk.data;
-  if (!isColourChunk(chunk.type) || !isIntact(chunk)) return;
-  if (chunk.type == png::iCCP) {
-    profile.icc = readIccChunk(data);
-  } else if (chunk.type == png::sRGB && data.size() == 1 && data[0] <= 3) {
-    profile.srgbIntent = data[0];
-  } else if (chunk.type == png::gAMA && data.size() == 4 && readBigEndian32(data.data()) != 0) {
-    profile.gamma = readBigEndian32(data.data());
-  } else if (chunk.type == png::cHRM && data.size() == 32) {
-    auto& values = profile.chromaticities.emplace();
-    for (std::size_t i = 0; i < 8; ++i)
-      values[i] = readBigEndian32(data.data() + 4 * i);
-  } else if (chunk.type == png::cICP && data.size() == 4) {
-    profile.cicp = {data[0], data[1], data[2], data[3]};
+void ColourChunks::take(const PngChunk& chunk) {
+  const auto kind = std::ranges::find(colourChunkTypes, chunk.type, &ColourChunkType::type);
+  if (kind == std::end(colourChunkTypes) || std::ranges::count(taken_, chunk.type) != 0 ||
+      !isIntact(chunk)) {
+    return;
   }
+  taken_.push_back(chunk.type);
+  kind->read(chunk.data, profile_);
 }
 
 } // namespace vitrelle::host

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <vector>
 
 namespace vitrelle::host {
 
@@ -32,7 +33,17 @@ class PngChunks final {
   std::span<const std::uint8_t> rest_;
 };
 
-/// Takes over what the chunk says about colours, if it is one that does and if it is sound.
-void readColourChunk(const PngChunk& chunk, ColourProfile& profile);
+/// What the chunks before the pixels say about colours. Of several of one type the first counts, so
+/// that one profile at most is inflated.
+class ColourChunks final {
+ public:
+  /// Passes over chunks of other types and damaged ones.
+  void take(const PngChunk& chunk);
+  const ColourProfile& profile() const { return profile_; }
+
+ private:
+  ColourProfile profile_;
+  std::vector<std::uint32_t> taken_; ///< types
+};
 
 } // namespace vitrelle::host

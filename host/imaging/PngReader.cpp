@@ -31,8 +31,8 @@ Failure refused(std::string why) {
 
 /// What the chunks up to the end of the pixels hold.
 struct Contents {
-  ColourProfile profile;
-  std::vector<std::span<const std::uint8_t>> pixels; ///< the parts of the compressed pixels
+  ColourChunks colours;
+  std::optional<PngChunks> pixels; ///< from the first part of the compressed pixels on
   std::size_t compressedBytes = 0;
   bool transparentColour = false;
 };
@@ -40,13 +40,14 @@ struct Contents {
 Contents readContents(std::span<const std::uint8_t> file) {
   Contents contents;
   PngChunks chunks(file);
-  while (const auto chunk = chunks.next()) {
+  PngChunks here = chunks;
+  for (; const auto chunk = chunks.next(); here = chunks) {
     if (chunk->type == png::IDAT) {
-      contents.pixels.push_back(chunk->data);
+      if (!contents.pixels) contents.pixels = here;
       contents.compressedBytes += chunk->data.size();
-    } else if (contents.pixels.empty()) {
+    } else if (!contents.pixels) {
       contents.transparentColour = contents.transparentColour || chunk->type == png::tRNS;
-      readColourChunk(*chunk, contents.profile);
+      contents.colours.take(*chunk);
     } else {
       break;
     }
@@ -78,12 +79,14 @@ bool isPlain(const PngHeader& header, const Contents& contents) {
 /// The pixels' parts as one; `memory` holds them if they had to be joined. Empty without memory.
 std::span<const std::uint8_t> joined(const Contents& contents,
                                      std::shared_ptr<std::uint8_t>& memory) {
-  if (contents.pixels.size() == 1) return contents.pixels.front();
+  PngChunks chunks = *contents.pixels;
+  auto part = chunks.next();
+  if (part->data.size() == contents.compressedBytes) return part->data;
   memory = allocatePixels(contents.compressedBytes);
   if (!memory) return {};
   std::uint8_t* end = memory.get();
-  for (const auto& part : contents.pixels)
-    end = std::ranges::copy(part, end).out;
+  for (; part && part->type == png::IDAT; part = chunks.next())
+    end = std::ranges::copy(part->data, end).out;
   return {memory.get(), contents.compressedBytes};
 }
 
@@ -191,18 +194,18 @@ Result<DecodedPicture> decodePng(std::span<const std::uint8_t> bytes) {
   const Result<PngHeader> header = readPngHeader(bytes);
   if (!header) return header.failure();
   const Contents contents = readContents(bytes);
-  if (contents.pixels.empty() || isTooShort(*header, contents.compressedBytes)) {
+  if (!contents.pixels || isTooShort(*header, contents.compressedBytes)) {
     return refused("the file is incomplete");
   }
   if (isPlain(*header, contents)) {
     if (auto bitmap = decodePlain(*header, contents)) {
-      return DecodedPicture{*std::move(bitmap), contents.profile};
+      return DecodedPicture{*std::move(bitmap), contents.colours.profile()};
     }
   }
   // Every other kind, and files that are not quite as they should be.
   Result<Bitmap> bitmap = decodeWithLibpng(bytes, header->size);
   if (!bitmap) return bitmap.failure();
-  return DecodedPicture{*std::move(bitmap), contents.profile};
+  return DecodedPicture{*std::move(bitmap), contents.colours.profile()};
 }
 
 } // namespace vitrelle::host

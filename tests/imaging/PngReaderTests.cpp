@@ -168,10 +168,27 @@ Data profile(std::size_t size, std::uint8_t last) {
   return bytes;
 }
 
+TEST(PngReader, firstProfile_isTheOneCarried) {
+  Data damaged = chunk("iCCP", named(profile(200, 1)));
+  damaged.back() ^= 1;
+  Data chunks = damaged;
+  for (const std::size_t size : {200U, 300U}) {
+    const Data next = chunk("iCCP", named(profile(size, 2)));
+    chunks.insert(chunks.end(), next.begin(), next.end());
+  }
+  for (const int colourType : {PNG_COLOR_TYPE_RGBA, PNG_COLOR_TYPE_GRAY}) {
+    const auto picture =
+        decodePng(withChunks(test::writeWithLibpng(5, 5, {8, colourType}), chunks));
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(picture->profile.icc, profile(200, 2)) << "type " << colourType;
+  }
+}
+
 TEST(PngReader, thousandsOfCompressedChunks_takeNoTime) {
   // Megabytes each: inflating all of any kind takes many seconds.
   const Data large = named(profile(std::size_t{4} << 20, 1));
-  const std::pair<const char*, Data> bombs[] = {{"zTXt", large}};
+  const std::pair<const char*, Data> bombs[] = {
+      {"zTXt", large}, {"iCCP", large}, {"iCCP", named(Data(std::size_t{4} << 20))}};
   for (const auto& [type, content] : bombs) {
     const Data one = chunk(type, content);
     Data all;
