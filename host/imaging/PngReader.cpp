@@ -1,7 +1,6 @@
 #include "host/imaging/PngReader.h"
 
 #include "host/imaging/BigEndian.h"
-#include "host/imaging/Inflate.h"
 #include "host/imaging/LibpngReader.h"
 #include "host/imaging/PictureBounds.h"
 #include "host/imaging/PixelBuffer.h"
@@ -10,14 +9,10 @@
 #include "host/imaging/PngUnfilter.h"
 
 #include <algorithm>
-#include <atomic>
 #include <memory>
 #include <optional>
 #include <string>
-#include <system_error>
-#include <thread>
 #include <utility>
-#include <vector>
 
 #include <libdeflate.h>
 
@@ -90,43 +85,20 @@ std::span<const std::uint8_t> joined(const Contents& contents,
   return {memory.get(), contents.compressedBytes};
 }
 
-/// Inflates into the rows while another thread unfilters those that are complete.
-bool inflateAndUnfilter(std::span<const std::uint8_t> compressed, std::uint8_t* rows,
-                        const FilteredRows& layout, PngUnfilter& unfilter) {
-  constexpr std::size_t stillRead = std::size_t{32} << 10;
-  constexpr std::size_t failed = ~std::size_t{0};
-  const std::size_t size = layout.bytesPerRow * layout.height;
-  std::atomic<std::size_t> rowsReady{0};
-  bool unfiltered = true;
-  const auto follow = [&] {
-    std::size_t done = 0;
-    while (unfiltered && done < layout.height) {
-      rowsReady.wait(done);
-      done = rowsReady.load();
-      unfiltered = done != failed && unfilter.advance(done);
-    }
-  };
-  const auto tell = [&](std::size_t ready) {
-    rowsReady.store(ready);
-    rowsReady.notify_one();
-  };
-
-  std::jthread follower;
-  try {
-    follower = std::jthread(follow);
-  } catch (const std::system_error&) {
-    // The system has no more threads; this one unfilters when it is done.
-  }
-  const bool inflated = inflateZlib(compressed, rows, size, [&](std::size_t bytes) {
-    if (bytes > stillRead) tell((bytes - stillRead) / layout.bytesPerRow);
-  });
-  tell(inflated ? layout.height : failed);
-  if (follower.joinable()) {
-    follower.join();
-  } else {
-    follow();
-  }
-  return unfiltered;
+/// Whether the zlib stream holds exactly the bytes that `out` has room for, and their checksum.
+bool inflate(std::span<const std::uint8_t> stream, std::span<std::uint8_t> out) {
+  const std::unique_ptr<libdeflate_decompressor, void (*)(libdeflate_decompressor*)> decompressor(
+      libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
+  if (!decompressor) return false;
+#ifdef FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION
+  constexpr std::size_t zlibHeader = 2;
+  return stream.size() > zlibHeader &&
+         libdeflate_deflate_decompress(decompressor.get(), stream.data() + zlibHeader,
+                                       stream.size() - zlibHeader, out.data(), out.size(),
+                                       nullptr) == LIBDEFLATE_SUCCESS;
+#endif
+  return libdeflate_zlib_decompress(decompressor.get(), stream.data(), stream.size(), out.data(),
+                                    out.size(), nullptr) == LIBDEFLATE_SUCCESS;
 }
 
 /// Nothing when the pixels are not just as they should be.
@@ -135,34 +107,32 @@ std::optional<Bitmap> decodePlain(const PngHeader& header, const Contents& conte
   const auto height = static_cast<std::size_t>(header.size.height);
   const bool hasAlpha = header.colourType == png::rgba;
   const std::size_t filteredBytesPerRow = rowBytes(header) + 1;
-  const auto raw = allocatePixels(filteredBytesPerRow * height);
-  if (!raw) return std::nullopt;
+  const std::size_t filteredBytes = filteredBytesPerRow * height;
 
-  // RGBA rows stay where they are; RGB rows grow into a second buffer.
-  std::shared_ptr<std::uint8_t> owner = raw;
-  std::uint8_t* out = raw.get() + 1;
-  std::size_t bytesPerRow = filteredBytesPerRow;
-  if (!hasAlpha) {
-    bytesPerRow = 4 * width;
-    owner = allocatePixels(bytesPerRow * height);
-    if (!owner) return std::nullopt;
-    out = owner.get();
+  // Rows are unfiltered where they lie. RGBA rows stay there, so each begins a byte further than
+  // aligned. RGB rows grow, and lie at the end, where those that are written don't reach them.
+  const std::size_t bytesPerRow = hasAlpha ? filteredBytesPerRow : 4 * width;
+  const std::size_t size = hasAlpha ? filteredBytes : bytesPerRow * height + rgbHeadStart(width);
+  const auto memory = allocatePixels(size);
+  if (!memory) return std::nullopt;
+  std::uint8_t* const rows = memory.get() + size - filteredBytes;
+  {
+    std::shared_ptr<std::uint8_t> parts;
+    if (!inflate(joined(contents, parts), {rows, filteredBytes})) return std::nullopt;
   }
-  const FilteredRows layout{.rows = raw.get(),
-                            .bytesPerRow = filteredBytesPerRow,
-                            .width = width,
-                            .height = height,
-                            .bytesPerPixel = hasAlpha ? 4 : 3};
-  PngUnfilter unfilter(layout, out, bytesPerRow);
-  std::shared_ptr<std::uint8_t> memory;
-  if (!inflateAndUnfilter(joined(contents, memory), raw.get(), layout, unfilter)) {
-    return std::nullopt;
-  }
+  std::uint8_t* const out = hasAlpha ? rows + 1 : memory.get();
+  const Unfiltered unfiltered = unfilter({.rows = rows,
+                                          .bytesPerRow = filteredBytesPerRow,
+                                          .width = width,
+                                          .height = height,
+                                          .bytesPerPixel = hasAlpha ? 4 : 3},
+                                         out, bytesPerRow);
+  if (unfiltered == Unfiltered::damaged) return std::nullopt;
   return Bitmap{.size = header.size,
                 .bytesPerRow = bytesPerRow,
                 .pixels = out,
-                .opaque = unfilter.isOpaque(),
-                .owner = std::move(owner)};
+                .opaque = unfiltered == Unfiltered::opaque,
+                .owner = memory};
 }
 
 } // namespace

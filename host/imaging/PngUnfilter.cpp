@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <utility>
+#include <vector>
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -173,50 +174,42 @@ constexpr std::array<OneRow, sizeof...(numbers)> oneRowTable(std::index_sequence
   return {oneRow<numbers, bytesPerPixel>...};
 }
 
-} // namespace
-
-PngUnfilter::PngUnfilter(const FilteredRows& filtered, std::uint8_t* out,
-                         std::size_t outBytesPerRow)
-    : filtered_(filtered),
-      out_(out),
-      outBytesPerRow_(outBytesPerRow),
-      zeros_(4 * filtered.width),
-      above_(zeros_.data()),
-      alpha_(alphaMask) {}
-
-bool PngUnfilter::advance(std::size_t end) {
-  return filtered_.bytesPerPixel == 3 ? advanceRows<3>(end) : advanceRows<4>(end);
-}
-
-bool PngUnfilter::isOpaque() const {
-  return alpha_ == alphaMask;
-}
-
 template <int bytesPerPixel>
-bool PngUnfilter::advanceRows(std::size_t end) {
+Unfiltered unfilterRows(const FilteredRows& filtered, std::uint8_t* out,
+                        std::size_t outBytesPerRow) {
   static constexpr auto pairs =
       twoRowsTable<bytesPerPixel>(std::make_index_sequence<filterCount * filterCount>());
   static constexpr auto singles =
       oneRowTable<bytesPerPixel>(std::make_index_sequence<filterCount>());
   const auto place = [&](std::size_t y) {
-    return RowPlace{filtered_.rows + y * filtered_.bytesPerRow + 1, out_ + y * outBytesPerRow_};
+    return RowPlace{filtered.rows + y * filtered.bytesPerRow + 1, out + y * outBytesPerRow};
   };
-  const auto filterOf = [&](std::size_t y) { return filtered_.rows[y * filtered_.bytesPerRow]; };
+  const auto filterOf = [&](std::size_t y) { return filtered.rows[y * filtered.bytesPerRow]; };
 
-  for (; next_ + 2 <= end; next_ += 2) {
-    const std::uint8_t upper = filterOf(next_);
-    const std::uint8_t lower = filterOf(next_ + 1);
-    if (upper >= filterCount || lower >= filterCount) return false;
+  const std::vector<std::uint8_t> zeros(4 * filtered.width);
+  const std::uint8_t* above = zeros.data();
+  std::uint32_t alpha = alphaMask;
+  std::size_t y = 0;
+  for (; y + 2 <= filtered.height; y += 2) {
+    const std::uint8_t upper = filterOf(y);
+    const std::uint8_t lower = filterOf(y + 1);
+    if (upper >= filterCount || lower >= filterCount) return Unfiltered::damaged;
     const std::size_t pair = std::size_t{upper} * filterCount + lower;
-    alpha_ &= pairs[pair](place(next_), place(next_ + 1), above_, filtered_.width);
-    above_ = place(next_ + 1).out;
+    alpha &= pairs[pair](place(y), place(y + 1), above, filtered.width);
+    above = place(y + 1).out;
   }
-  if (end == filtered_.height && next_ < end) {
-    if (filterOf(next_) >= filterCount) return false;
-    alpha_ &= singles[filterOf(next_)](place(next_), above_, filtered_.width);
-    ++next_;
+  if (y < filtered.height) {
+    if (filterOf(y) >= filterCount) return Unfiltered::damaged;
+    alpha &= singles[filterOf(y)](place(y), above, filtered.width);
   }
-  return true;
+  return alpha == alphaMask ? Unfiltered::opaque : Unfiltered::seeThrough;
+}
+
+} // namespace
+
+Unfiltered unfilter(const FilteredRows& filtered, std::uint8_t* out, std::size_t outBytesPerRow) {
+  return filtered.bytesPerPixel == 3 ? unfilterRows<3>(filtered, out, outBytesPerRow)
+                                     : unfilterRows<4>(filtered, out, outBytesPerRow);
 }
 
 } // namespace vitrelle::host

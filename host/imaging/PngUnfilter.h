@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 namespace vitrelle::host {
 
@@ -16,31 +15,21 @@ struct FilteredRows {
   int bytesPerPixel = 0; ///< 3 (RGB) or 4 (RGBA)
 };
 
-/// Unfilters the rows of one picture from top to bottom, as they come. For one thread.
-class PngUnfilter final {
- public:
-  /// Writes RGBA rows to `out`, `outBytesPerRow` apart; alpha is 255 where the file has none. RGBA
-  /// rows may be written over themselves: `out` one byte behind `rows`, at the same distance.
-  PngUnfilter(const FilteredRows& filtered, std::uint8_t* out, std::size_t outBytesPerRow);
-
-  /// Does the rows before `end`, save that an odd one may wait for its neighbour until `end` is
-  /// the height. False when a filter's number is not known.
-  bool advance(std::size_t end);
-
-  /// Whether every alpha sample so far is 255.
-  bool isOpaque() const;
-
- private:
-  template <int bytesPerPixel>
-  bool advanceRows(std::size_t end);
-
-  FilteredRows filtered_;
-  std::uint8_t* out_;
-  std::size_t outBytesPerRow_;
-  std::size_t next_ = 0; ///< row
-  std::vector<std::uint8_t> zeros_;
-  const std::uint8_t* above_; ///< the row before the next, unfiltered
-  std::uint32_t alpha_;
+enum class Unfiltered {
+  damaged, ///< a filter's number is not known
+  opaque,  ///< every alpha sample is 255
+  seeThrough,
 };
+
+/// How far behind the unfiltered rows' end filtered RGB rows end that are written over: two rows
+/// are worked on at a time.
+constexpr std::size_t rgbHeadStart(std::size_t width) {
+  return 4 * width;
+}
+
+/// Writes RGBA rows to `out`, `outBytesPerRow` apart; alpha is 255 where the file has none. They
+/// may take the place of the filtered ones: RGBA samples where they were, RGB rows without gaps and
+/// with the head start.
+Unfiltered unfilter(const FilteredRows& filtered, std::uint8_t* out, std::size_t outBytesPerRow);
 
 } // namespace vitrelle::host

@@ -53,6 +53,15 @@ Data chunk(std::string_view type, const Data& content) {
   return bytes;
 }
 
+Data zlibStream(const Data& content) {
+  libdeflate_compressor* compressor = libdeflate_alloc_compressor(6);
+  Data bytes(libdeflate_zlib_compress_bound(compressor, content.size()));
+  bytes.resize(libdeflate_zlib_compress(compressor, content.data(), content.size(), bytes.data(),
+                                        bytes.size()));
+  libdeflate_free_compressor(compressor);
+  return bytes;
+}
+
 TEST(PngReader, everyKindOfFile_hasLibpngsPixels) {
   const std::pair<int, std::vector<int>> kinds[] = {{PNG_COLOR_TYPE_GRAY, {1, 2, 4, 8, 16}},
                                                     {PNG_COLOR_TYPE_RGB, {8, 16}},
@@ -149,12 +158,9 @@ TEST(PngReader, colourChunks_areCarried) {
 
 /// What compressed chunks hold: a name, then a zlib stream of the content.
 Data named(const Data& content) {
-  libdeflate_compressor* compressor = libdeflate_alloc_compressor(6);
-  Data bytes(3 + libdeflate_zlib_compress_bound(compressor, content.size()));
-  bytes[0] = 'n';
-  bytes.resize(3 + libdeflate_zlib_compress(compressor, content.data(), content.size(), &bytes[3],
-                                            bytes.size() - 3));
-  libdeflate_free_compressor(compressor);
+  Data bytes = {'n', 0, 0};
+  const Data stream = zlibStream(content);
+  bytes.insert(bytes.end(), stream.begin(), stream.end());
   return bytes;
 }
 
@@ -222,6 +228,43 @@ TEST(PngReader, incompleteFile_isRefusedAtEveryLength) {
     for (std::size_t length = 0; length < pixelsEnd; length += 1 + length / 50) {
       EXPECT_FALSE(decodePng(std::span(file).first(length))) << length << " of " << file.size();
     }
+  }
+}
+
+TEST(PngReader, streamOfAnotherLength_givesThePixelsOrIsRefused) {
+  const std::size_t width = 8;
+  const std::size_t height = 8;
+  for (const std::size_t channels : {3U, 4U}) {
+    const PngKind kind{8, channels == 3 ? PNG_COLOR_TYPE_RGB : PNG_COLOR_TYPE_RGBA};
+    const Data header = test::writeWithLibpng(width, height, kind);
+    Data rows((width * channels + 1) * height, 4); // each of filter 4
+    const auto decode = [&](const Data& stream) {
+      Data file(header.begin(), header.begin() + pngHeaderBytes);
+      for (const Data& part : {chunk("IDAT", stream), chunk("IEND", {})})
+        file.insert(file.end(), part.begin(), part.end());
+      return decodePng(file);
+    };
+    Data stream = zlibStream(rows);
+    const auto picture = decode(stream);
+    ASSERT_TRUE(picture) << picture.failure().why;
+    const Data pixels = test::packedPixels(picture->bitmap);
+    const auto expectPixels = [&](const Data& longer, const char* what) {
+      const auto same = decode(longer);
+      ASSERT_TRUE(same) << what << ": " << same.failure().why;
+      EXPECT_EQ(test::packedPixels(same->bitmap), pixels) << what;
+    };
+    Data longer = stream;
+    longer.resize(stream.size() + 100, 7);
+    expectPixels(longer, "bytes behind the stream");
+    rows.resize(rows.size() + 1000);
+    expectPixels(zlibStream(rows), "rows behind the picture");
+
+    rows.resize((width * channels + 1) * height - 1);
+    EXPECT_FALSE(decode(zlibStream(rows))) << "a sample is missing";
+    stream.back() ^= 1;
+    EXPECT_FALSE(decode(stream)) << "a wrong checksum";
+    stream.pop_back();
+    EXPECT_FALSE(decode(stream)) << "half a checksum";
   }
 }
 
