@@ -33,18 +33,20 @@ bool looksLikeIdentifier(std::string_view text) {
          comma + 1 != text.end() && std::all_of(comma + 1, text.end(), isDigit);
 }
 
-std::string takePhone(const std::string& text) {
+// Each is told by whom it is told, the option or the variable, to blame it.
+
+std::string takePhone(const char* name, const std::string& text) {
   const auto identifier = phoneIdentifier(text);
   if (!identifier) {
-    throw CLI::ValidationError("--phone",
+    throw CLI::ValidationError(name,
                                "there is no phone '" + text + "'; 'vitrelle phones' lists them");
   }
   return *identifier;
 }
 
-OsVersion takeOs(const std::string& text) {
+OsVersion takeOs(const char* name, const std::string& text) {
   const auto version = parseOsVersion(text);
-  if (!version) throw CLI::ValidationError("--os", "'" + text + "' is no version such as 18.0");
+  if (!version) throw CLI::ValidationError(name, "'" + text + "' is no version such as 18.0");
   return *version;
 }
 
@@ -58,10 +60,10 @@ bool takeBool(const char* name, const std::string& text) {
   throw CLI::ValidationError(name, "'" + text + "' is neither true nor false");
 }
 
-Appearance takeAppearance(const std::string& text) {
+Appearance takeAppearance(const char* name, const std::string& text) {
   if (text == "light") return Appearance::light;
   if (text == "dark") return Appearance::dark;
-  throw CLI::ValidationError("--appearance", "'" + text + "' is neither light nor dark");
+  throw CLI::ValidationError(name, "'" + text + "' is neither light nor dark");
 }
 
 } // namespace
@@ -82,7 +84,7 @@ void addOptions(CLI::App& program, Options& options) {
       .add_option_function<std::string>(
           "--phone",
           [&](const std::string& text) {
-            options.phoneIdentifier = takePhone(text);
+            options.phoneIdentifier = takePhone("--phone", text);
             options.phoneTold = true;
           },
           "The phone, by name or machine identifier ($VITRELLE_PHONE)")
@@ -92,7 +94,7 @@ void addOptions(CLI::App& program, Options& options) {
       .add_option_function<std::string>(
           "--os",
           [&](const std::string& text) {
-            options.os = takeOs(text);
+            options.os = takeOs("--os", text);
             options.phoneTold = true;
           },
           "The version of its operating system ($VITRELLE_OS)")
@@ -115,7 +117,9 @@ void addOptions(CLI::App& program, Options& options) {
   program
       .add_option_function<std::string>(
           "--appearance",
-          [&](const std::string& text) { options.appearance = takeAppearance(text); },
+          [&](const std::string& text) {
+            options.appearance = takeAppearance("--appearance", text);
+          },
           "light or dark ($VITRELLE_APPEARANCE)")
       ->type_name("NAME")
       ->group(group);
@@ -124,16 +128,16 @@ void addOptions(CLI::App& program, Options& options) {
 
 void readEnvironment(Options& options) {
   if (const auto text = environment("VITRELLE_PHONE"); text && !options.phoneIdentifier) {
-    options.phoneIdentifier = takePhone(*text);
+    options.phoneIdentifier = takePhone("VITRELLE_PHONE", *text);
   }
   if (const auto text = environment("VITRELLE_OS"); text && !options.os) {
-    options.os = takeOs(*text);
+    options.os = takeOs("VITRELLE_OS", *text);
   }
   if (const auto text = environment("VITRELLE_ZOOMED"); text && !options.zoomed) {
     options.zoomed = takeBool("VITRELLE_ZOOMED", *text);
   }
   if (const auto text = environment("VITRELLE_APPEARANCE"); text && !options.appearance) {
-    options.appearance = takeAppearance(*text);
+    options.appearance = takeAppearance("VITRELLE_APPEARANCE", *text);
   }
   // The host reads VITRELLE_HOME.
 }

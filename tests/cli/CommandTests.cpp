@@ -34,7 +34,16 @@ TEST_F(CommandTest, phone_isToldByOptionThenEnvironmentThenSavedChoice) {
   EXPECT_EQ(current({}), "iPhone 12 Mini 17.2.1 zoomed") << "the environment is not saved";
   EXPECT_EQ(current({"--phone", "iPhone16,2"}, environment), "iPhone 15 Pro Max 18.0");
   EXPECT_EQ(run({"phone", "No Phone"}).status, 2);
-  EXPECT_EQ(run({"phones"}, {{"VITRELLE_ZOOMED", "perhaps"}}).status, 2);
+}
+
+TEST_F(CommandTest, badVariable_isBlamedByItsName) {
+  for (const char* name :
+       {"VITRELLE_PHONE", "VITRELLE_OS", "VITRELLE_ZOOMED", "VITRELLE_APPEARANCE"}) {
+    const Outcome outcome = run({"phones"}, {{name, "perhaps"}});
+    EXPECT_EQ(outcome.status, 2) << name;
+    EXPECT_TRUE(outcome.complaints.starts_with(std::string("vitrelle: ") + name + ": "))
+        << outcome.complaints;
+  }
 }
 
 TEST_F(CommandTest, garbledPhoneFile_standsForThePhoneOfToday) {
