@@ -5,10 +5,8 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <fstream>
-
-#include <sys/utsname.h>
+#include <string_view>
 
 namespace vitrelle::host {
 
@@ -27,7 +25,9 @@ PhoneChoice savedChoice(const HomeFolder& home) {
     const std::string key = line.substr(0, equals);
     const std::string value = line.substr(equals + 1);
     const bool printable = std::ranges::all_of(value, [](char c) { return c > ' ' && c <= '~'; });
-    if (key == "identifier" && !value.empty() && printable) choice.identifier = value;
+    // One without a comma is no phone's; a simulator's would simulate itself.
+    const bool likely = printable && value.find(',') != std::string::npos;
+    if (key == "identifier" && likely) choice.identifier = value;
     if (key == "zoomed") choice.zoomed = value == "true";
     long long major = 0;
     long long minor = 0;
@@ -49,14 +49,16 @@ Status saveChoice(const HomeFolder& home, const PhoneChoice& choice) {
   return replaceFile(home, home.phoneFile(), {bytes, text.size()});
 }
 
-MachineField machineOfThisComputer() {
+/// What a simulator answers. Not the kernel's own word, which differs between kernels and under
+/// personalities ("i686", "armv8l") where the program is the same.
+MachineField simulatorMachine() {
+#ifdef __aarch64__
+  constexpr std::string_view machine = "arm64";
+#else
+  constexpr std::string_view machine = "x86_64";
+#endif
   MachineField field{};
-  utsname names{};
-  if (uname(&names) != 0) return field;
-  // The phones' kernel calls this architecture by another name than ours.
-  const char* machine = std::strcmp(names.machine, "aarch64") == 0 ? "arm64" : names.machine;
-  const std::size_t length = std::min(std::strlen(machine), field.size());
-  std::copy_n(machine, length, field.begin());
+  std::ranges::copy(machine, field.begin());
   return field;
 }
 
@@ -78,7 +80,7 @@ PhoneBook makePhoneBook(const HomeFolder& home, const PhoneChoice& choice) {
 Device makeDevice(const PhoneChoice& choice, bool dark) {
   const PhoneModel model = phoneModel(choice.identifier);
   const ScreenMode screen = choice.zoomed ? model.zoomed : model.standard;
-  return {.machine = machineOfThisComputer,
+  return {.machine = simulatorMachine,
           .environment = [identifier = choice.identifier](
                              const std::string& name) -> std::optional<std::string> {
             if (name != "SIMULATOR_MODEL_IDENTIFIER") return std::nullopt;

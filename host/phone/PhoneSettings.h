@@ -22,8 +22,7 @@ PhoneChoice choosePhone(const HomeFolder& home, const PhoneOverrides& overrides)
 
 PhoneBook makePhoneBook(const HomeFolder& home, const PhoneChoice& choice);
 
-/// The kernel's machine field is this computer's, whose architecture the logic takes for a
-/// simulator's; the model that is simulated is the phone chosen.
+/// A simulator of the phone chosen, as the logic knows them.
 Device makeDevice(const PhoneChoice& choice, bool dark);
 
 } // namespace vitrelle::host

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <fstream>
 
+#include <sys/personality.h>
 #include <sys/wait.h>
 
 namespace vitrelle {
@@ -48,11 +49,20 @@ TEST_F(CommandTest, badVariable_isBlamedByItsName) {
 
 TEST_F(CommandTest, garbledPhoneFile_standsForThePhoneOfToday) {
   ASSERT_EQ(run({"phone", "iPhone 14", "--os", "17.2", "--zoomed"}).status, 0);
-  for (const char* text : {"", "identifier=\nos=seventeen\nzoomed=2", "\0\xFF\n=\n"}) {
+  for (const char* text : {"", "identifier=\nos=seventeen\nzoomed=2", "\0\xFF\n=\n",
+                           "identifier=x86_64", "identifier=arm64"}) {
     std::ofstream(home() + "/phone") << text;
     EXPECT_EQ(run({"phone"}).output, "iPhone 15 Pro (iPhone16,1), OS 18.0, standard display\n")
         << text;
   }
+}
+
+TEST_F(CommandTest, kernelOfAnotherName_findsThePhone) {
+  const std::string screenshot = writePicture("a.png", test::positionImage(1179, 2556));
+  const int before = personality(PER_LINUX32); // as setarch does; the program inherits it
+  const Outcome outcome = run({"cut", "--style", "0", "--light", screenshot});
+  personality(static_cast<unsigned long>(before));
+  EXPECT_EQ(outcome.status, 0) << outcome.complaints;
 }
 
 TEST_F(CommandTest, options_goBeforeOrAfterTheCommand) {
