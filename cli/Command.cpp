@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "cli/OneLine.h"
 #include "core/slicing/DeviceNames.h"
 
 #include <cstdio>
@@ -22,7 +23,8 @@ HomeLock lockHome(const Platform& platform) {
 }
 
 void complain(const Failure& failure) {
-  std::fprintf(stderr, "vitrelle: %s: %s\n", failure.what.c_str(), failure.why.c_str());
+  std::fprintf(stderr, "vitrelle: %s: %s\n", oneLine(failure.what).c_str(),
+               oneLine(failure.why).c_str());
 }
 
 } // namespace vitrelle::cli

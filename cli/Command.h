@@ -40,7 +40,7 @@ std::string phoneName(const Platform& platform);
 /// complaint, when that takes too long or the home can't be written.
 HomeLock lockHome(const Platform& platform);
 
-/// "vitrelle: what: why" on stderr.
+/// "vitrelle: what: why" on stderr, in one line whatever the two hold.
 void complain(const Failure& failure);
 
 // One for each command, in a file of its own. Each adds its subcommand, whose callback runs it.

@@ -2,6 +2,7 @@
 
 #include "cli/CutStyle.h"
 #include "cli/Interruption.h"
+#include "cli/OneLine.h"
 
 #include <nlohmann/json.hpp>
 
@@ -70,7 +71,7 @@ class Progress final {
     constexpr std::size_t width = 24;
     const std::size_t filled = width * done / count_;
     std::fprintf(stderr, "\r\x1b[K[%s%s] %zu of %zu  %s", std::string(filled, '#').c_str(),
-                 std::string(width - filled, '.').c_str(), done, count_, name.c_str());
+                 std::string(width - filled, '.').c_str(), done, count_, oneLine(name).c_str());
     std::fflush(stderr);
   }
   void clear() const {
@@ -132,8 +133,8 @@ Exit cutBatch(const CommandContext& context, const std::string& from, const std:
                       {"files", writtenFiles(*cut)},
                       {"bytes", totalBytes(*cut)}});
     } else {
-      std::printf("%3lld  %s  %zu files  %zu bytes\n", static_cast<long long>(number), name.c_str(),
-                  writtenFiles(*cut), totalBytes(*cut));
+      std::printf("%3lld  %s  %zu files  %zu bytes\n", static_cast<long long>(number),
+                  oneLine(name).c_str(), writtenFiles(*cut), totalBytes(*cut));
       std::fflush(stdout);
     }
   }

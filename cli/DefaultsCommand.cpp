@@ -1,4 +1,5 @@
 #include "cli/Command.h"
+#include "cli/OneLine.h"
 
 #include <nlohmann/json.hpp>
 
@@ -12,6 +13,8 @@
 #include <memory>
 #include <optional>
 #include <utility>
+
+#include <unistd.h>
 
 namespace vitrelle::cli {
 
@@ -62,10 +65,6 @@ std::string isoDate(Date date) {
   return buffer.data();
 }
 
-std::string quoted(const std::string& text) {
-  return Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
 struct Kind {
   const char* name;
   /// As in a list, where a string is quoted and a blob stands in angle brackets.
@@ -78,7 +77,7 @@ Kind describe(const StoreValue& value) {
     Kind operator()(std::int64_t number) const { return {"Int", std::to_string(number), number}; }
     Kind operator()(double number) const { return {"Double", shortest(number), number}; }
     Kind operator()(bool flag) const { return {"Bool", flag ? "true" : "false", flag}; }
-    Kind operator()(const std::string& text) const { return {"String", quoted(text), text}; }
+    Kind operator()(const std::string& text) const { return {"String", quotedLine(text), text}; }
     Kind operator()(const Data& data) const {
       const std::string digits = hexadecimal(data);
       return {"Data", "<" + digits + ">", digits};
@@ -201,7 +200,8 @@ Exit readOne(const Platform& platform, const DefaultsArguments& options) {
   if (options.json) {
     printJson(json(*value));
   } else if (const auto* text = std::get_if<std::string>(&**value)) {
-    std::cout << *text << '\n';
+    // Whole for a script, and harmless for a person.
+    std::cout << (isatty(STDOUT_FILENO) == 1 ? oneLine(*text) : *text) << '\n';
   } else if (const auto* data = std::get_if<Data>(&**value)) {
     std::cout << hexadecimal(*data) << '\n';
   } else {
@@ -224,7 +224,7 @@ Exit readAll(const Platform& platform, const DefaultsArguments& options) {
     } else if (options.json) {
       all[key] = json(*value);
     } else {
-      std::cout << key << " = " << describe(**value).text << '\n';
+      std::cout << oneLine(key) << " = " << describe(**value).text << '\n';
     }
   }
   if (options.json) printJson(all);
@@ -238,7 +238,7 @@ void printChange(const DefaultsArguments& options, const std::string& key,
     line.update(value ? json(value) : Json{{"type", nullptr}, {"value", nullptr}});
     printJson(line);
   } else {
-    std::cout << key << " = " << (value ? describe(*value).text : "absent") << std::endl;
+    std::cout << oneLine(key) << " = " << (value ? describe(*value).text : "absent") << std::endl;
   }
 }
 

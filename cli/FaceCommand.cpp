@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "cli/OneLine.h"
 #include "core/drawing/Describe.h"
 #include "core/drawing/Shapes.h"
 #include "core/drawing/View.h"
@@ -16,6 +17,7 @@
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -119,11 +121,18 @@ Result<DisplayList> background(const Platform& platform, const Sheet& sheet,
   return DisplayList{{DrawnImage{.image = *slice, .box = box}}};
 }
 
+/// One by one, for the words and names in them are whatever they are.
+void printLines(const std::string& text) {
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);)
+    std::cout << oneLine(line) << '\n';
+}
+
 Status draw(const Platform& platform, const Sheet& sheet, const View& view) {
   const PointSize frame = sheet.frame.empty() ? slotSize(platform, *widgetLocation(sheet.slot))
                                               : *parseFrame(sheet.frame);
   const DisplayList face = layOut(view, frame, platform.drawing);
-  if (sheet.list) std::cout << describe(face);
+  if (sheet.list) printLines(describe(face));
   if (sheet.file.empty()) return success();
   const auto behind = background(platform, sheet, frame);
   if (!behind) return behind.failure();

@@ -1,5 +1,7 @@
 #include "cli/Program.h"
 
+#include "cli/OneLine.h"
+
 #include <cstdio>
 #include <exception>
 #include <iostream>
@@ -16,8 +18,13 @@ int complainOfUsage(const CLI::App& parser, const CLI::ParseError& error) {
   const std::vector<std::string> unknown = parser.remaining();
   const bool noCommand = parser.get_subcommands().empty() && !unknown.empty();
   const std::string why = noCommand ? "there is no '" + unknown.front() + "'" : error.what();
-  std::fprintf(stderr, "vitrelle: %s (see 'vitrelle --help')\n", why.c_str());
+  std::fprintf(stderr, "vitrelle: %s (see 'vitrelle --help')\n", oneLine(why).c_str());
   return static_cast<int>(Exit::usage);
+}
+
+/// What it prints may name files.
+void showInLines(DebugConsole& console) {
+  console.print = [print = console.print](const std::string& line) { print(oneLine(line)); };
 }
 
 int run(int argc, char** argv, const Program& program) {
@@ -33,6 +40,7 @@ int run(int argc, char** argv, const Program& program) {
                            if (!platform) {
                              readEnvironment(options);
                              platform = program.makePlatform(options);
+                             showInLines(platform->debugConsole);
                            }
                            return *platform;
                          },
@@ -64,7 +72,7 @@ int runProgram(int argc, char** argv, const Program& program) {
   try {
     return run(argc, argv, program);
   } catch (const std::exception& error) { // such as a lack of memory
-    std::fprintf(stderr, "vitrelle: the program can't go on: %s\n", error.what());
+    std::fprintf(stderr, "vitrelle: the program can't go on: %s\n", oneLine(error.what()).c_str());
     return static_cast<int>(Exit::failed);
   }
 }

@@ -116,6 +116,22 @@ TEST_F(CommandTest, defaultsAndRecords_shareTheStore) {
   EXPECT_EQ(run({"records", "poetry"}).status, 2);
 }
 
+TEST_F(CommandTest, foreignText_isShownInOneLineAndToldExactly) {
+  const std::string key = "k\ney\u009b";
+  const std::string value = "v\x1b[2J\nw\u202e\"";
+  ASSERT_EQ(run({"defaults", "write", key, "-string", value}).status, 0);
+  EXPECT_EQ(run({"defaults", "read"}).output, "k\\ney\\u009b = \"v\\x1b[2J\\nw\\u202e\\\"\"\n");
+  EXPECT_EQ(run({"defaults", "read", key}).output, value + "\n") << "scripts get it whole";
+  EXPECT_EQ(Json::parse(run({"defaults", "read", "--json"}).output)[key]["value"], value);
+
+  EXPECT_EQ(run({"palette", "no\x1b[31m\n.png"}).complaints,
+            "vitrelle: no\\x1b[31m\\n.png: No such file or directory\n");
+  EXPECT_EQ(run({"sl\x1b[31m\nice"}).complaints,
+            "vitrelle: there is no 'sl\\x1b[31m\\nice' (see 'vitrelle --help')\n");
+  const std::string words = run({"face", "text", "--text", "a\x1b[1mb", "--list"}).output;
+  EXPECT_NE(words.find("text \"a\\x1b[1mb\""), std::string::npos) << words;
+}
+
 TEST_F(CommandTest, palette_listsTheColoursOfAPicture) {
   const std::string path = writePicture("a.png", test::positionImage(64, 64));
   const Outcome lines = run({"palette", path, "--colours", "2"});
