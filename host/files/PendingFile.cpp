@@ -3,11 +3,11 @@
 #include <atomic>
 #include <cerrno>
 #include <cstring>
-#include <ctime>
 #include <filesystem>
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -26,17 +26,29 @@ std::string waitingPrefix(const HomeFolder& home, const std::string& place) {
   return folderOf(place) + "/.vitrelle-";
 }
 
-/// Opens a new file, in a folder that is made when it is not there. Gives -1 and `errno`.
-int openNew(const std::string& prefix, std::string& path) {
+/// Locks a file that has just been made; false when someone who clears up was faster.
+bool lockNew(const Descriptor& file) {
+  if (flock(file.get(), LOCK_EX | LOCK_NB) != 0) return errno != EWOULDBLOCK;
+  struct stat status {};
+  return fstat(file.get(), &status) == 0 && status.st_nlink != 0;
+}
+
+/// Opens and locks a new file, in a folder that is made when it is not there. Gives none, and
+/// `errno`.
+Descriptor openNew(const std::string& prefix, std::string& path) {
   for (int attempt = 0; attempt < 100; ++attempt) {
     path = prefix + uniqueName();
-    const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-    if (file >= 0) return file;
+    Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (file && lockNew(file)) return file;
+    if (file) { // its name goes, or is gone
+      errno = EAGAIN;
+      continue;
+    }
     // Another process with our number may have left a file of that name.
     if (errno == EEXIST) continue;
     if (errno != ENOENT || !makeFolder(folderOf(prefix))) break;
   }
-  return -1;
+  return {};
 }
 
 bool writeAll(int file, std::span<const std::uint8_t> bytes) {
@@ -54,22 +66,24 @@ bool writeAll(int file, std::span<const std::uint8_t> bytes) {
 Result<PendingFile> PendingFile::write(const HomeFolder& home, const std::string& place,
                                        std::span<const std::uint8_t> bytes) {
   std::string path;
-  const int file = openNew(waitingPrefix(home, place), path);
-  if (file < 0) return Failure{place, std::strerror(errno)};
-  PendingFile pending(path, place);
-  const bool written = writeAll(file, bytes) && fdatasync(file) == 0;
-  const int error = errno;
-  close(file);
-  if (!written) return Failure{place, std::strerror(error)};
+  Descriptor file = openNew(waitingPrefix(home, place), path);
+  if (!file) return Failure{place, std::strerror(errno)};
+  PendingFile pending(std::move(file), path, place);
+  if (!writeAll(pending.file_.get(), bytes) || fdatasync(pending.file_.get()) != 0) {
+    return Failure{place, std::strerror(errno)};
+  }
   return pending;
 }
 
 PendingFile::PendingFile(PendingFile&& other) noexcept
-    : path_(std::exchange(other.path_, "")), place_(std::move(other.place_)) {}
+    : file_(std::move(other.file_)),
+      path_(std::exchange(other.path_, "")),
+      place_(std::move(other.place_)) {}
 
 PendingFile& PendingFile::operator=(PendingFile&& other) noexcept {
   if (this != &other) {
     discard();
+    file_ = std::move(other.file_);
     path_ = std::exchange(other.path_, "");
     place_ = std::move(other.place_);
   }
@@ -120,12 +134,19 @@ Status replaceFile(const HomeFolder& home, const std::string& path,
 }
 
 void removeAbandonedFiles(const HomeFolder& home) {
-  constexpr std::time_t hour = 3600;
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(home.pendingFolder(), error)) {
-    struct stat status {};
-    if (lstat(entry.path().c_str(), &status) != 0 || !S_ISREG(status.st_mode)) continue;
-    if (std::time(nullptr) - status.st_mtime > hour) unlink(entry.path().c_str());
+    const char* path = entry.path().c_str();
+    const Descriptor file(open(path, O_WRONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
+    struct stat opened {};
+    struct stat named {};
+    // Whoever writes to it now goes on under the lock; a name that is put into place meanwhile is
+    // gone, or another's.
+    if (file && fstat(file.get(), &opened) == 0 && S_ISREG(opened.st_mode) &&
+        flock(file.get(), LOCK_EX | LOCK_NB) == 0 && lstat(path, &named) == 0 &&
+        named.st_ino == opened.st_ino) {
+      unlink(path);
+    }
   }
 }
 

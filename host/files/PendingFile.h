@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/platform/Result.h"
+#include "host/files/Descriptor.h"
 #include "host/files/HomeFolder.h"
 
 #include <cstdint>
@@ -13,7 +14,8 @@ namespace vitrelle::host {
 
 /// A file that is written, and durable, under a name of its own until it is put into place: in the
 /// pending folder, or, where the place lies outside of the home, which may be on another file
-/// system, hidden beside it. Removed when it is not put into place.
+/// system, hidden beside it. Removed when it is not put into place. Until then it is locked, by
+/// which others tell it from one that a killed process left.
 class [[nodiscard]] PendingFile final {
  public:
   static Result<PendingFile> write(const HomeFolder& home, const std::string& place,
@@ -27,10 +29,11 @@ class [[nodiscard]] PendingFile final {
   Status moveIntoPlace();
 
  private:
-  PendingFile(std::string path, std::string place)
-      : path_(std::move(path)), place_(std::move(place)) {}
+  PendingFile(Descriptor file, std::string path, std::string place)
+      : file_(std::move(file)), path_(std::move(path)), place_(std::move(place)) {}
   void discard();
 
+  Descriptor file_;  ///< open for the sake of its lock
   std::string path_; ///< empty once it is in place
   std::string place_;
 };
@@ -45,7 +48,8 @@ void syncFolder(const std::string& path);
 Status replaceFile(const HomeFolder& home, const std::string& path,
                    std::span<const std::uint8_t> bytes);
 
-/// Removes what killed processes left in the pending folder more than an hour ago.
+/// Removes what killed processes left in the pending folder: the files that nobody has locked.
+/// Where the file system knows no locks, nothing.
 void removeAbandonedFiles(const HomeFolder& home);
 
 } // namespace vitrelle::host
