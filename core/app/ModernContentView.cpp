@@ -6,6 +6,7 @@
 #include "core/slicing/ImageLoader.h"
 #include "core/slicing/Measurements.h"
 #include "core/store/Keys.h"
+#include "core/store/Listing.h"
 
 #include <string>
 
@@ -97,7 +98,7 @@ void ModernContentView::moveLegacyImages() const {
 void ModernContentView::reloadConfigs() {
   vitrelleConfigs_.clear();
   const ImageLoader loader(platform_);
-  const std::int64_t amount = amountOfConfigs();
+  const std::int64_t amount = listed(amountOfConfigs());
   for (std::int64_t number = 0; number < amount; ++number) {
     const auto light = loader.loadSlice("original", lightStyle, number);
     const auto dark = loader.loadSlice("original", darkStyle, number);
@@ -139,8 +140,8 @@ void ModernContentView::dismissUpdateFromOne() {
 }
 
 std::int64_t ModernContentView::pageCount() const {
-  const std::int64_t amount = amountOfConfigs();
-  return amount == maximumStyles ? amount : checkedAdd(amount, 1);
+  const std::int64_t amount = listed(amountOfConfigs());
+  return amount == maximumStyles ? amount : amount + 1;
 }
 
 double ModernContentView::pageWidth() const {

@@ -2,6 +2,7 @@
 
 #include "core/platform/FatalError.h"
 #include "core/store/Keys.h"
+#include "core/store/Listing.h"
 #include "core/store/StoredValue.h"
 
 #include <charconv>
@@ -29,7 +30,7 @@ std::vector<std::string> ViewStringOptionsProvider::results() const {
   const auto amount = StoredValue<std::int64_t>(platform_, keys::amountOfConfigs).get();
   if (!amount || *amount < 1) fatalError("there is no style to choose from");
   std::vector<std::string> names;
-  for (std::int64_t number = 1; number <= *amount; ++number)
+  for (std::int64_t number = 1; number <= listed(*amount); ++number)
     names.push_back(std::string(prefix) + std::to_string(number));
   return names;
 }

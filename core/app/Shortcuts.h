@@ -17,7 +17,8 @@ class ViewStringOptionsProvider final {
  public:
   explicit ViewStringOptionsProvider(const Platform& platform) : platform_(platform) {}
 
-  /// "Style 1" up to the count of styles. Without any style a fatal error.
+  /// "Style 1" up to the count of styles, as far as styles are listed. Without any style a fatal
+  /// error.
   std::vector<std::string> results() const;
 
  private:

@@ -4,16 +4,12 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <string_view>
 
 namespace vitrelle {
 
 /// A family holds no more widget styles than this, and they can't be removed.
 inline constexpr std::size_t maximumWidgetStyles = 12;
-
-/// No screen lists more wallpaper or widget styles: a store holds a dozen, unless it is damaged.
-inline constexpr std::int64_t mostListed = 100;
 
 struct FamilyDescription {
   std::string_view name; ///< as in the store's table

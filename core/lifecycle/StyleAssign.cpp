@@ -1,5 +1,7 @@
 #include "core/lifecycle/StyleAssign.h"
 
+#include "core/store/Listing.h"
+
 #include <algorithm>
 
 namespace vitrelle {
@@ -7,7 +9,7 @@ namespace vitrelle {
 namespace {
 
 /// As the debug console shows a list: "[0, 2]".
-std::string listed(const std::vector<std::int64_t>& numbers) {
+std::string inWords(const std::vector<std::int64_t>& numbers) {
   std::string text = "[";
   for (const std::int64_t number : numbers)
     text += (text.size() > 1 ? ", " : "") + std::to_string(number);
@@ -28,16 +30,17 @@ void StyleAssign::appear() {
 
 void StyleAssign::findInvalidConfigs() {
   invalidConfigs_.clear();
+  const std::int64_t amount = amountOfConfigs_.getOrDefault();
   for (std::size_t i = 0; i < stored().count(); ++i) {
     const std::int64_t linked = stored().linked(i);
-    if (linked >= 0 && linked < amountOfConfigs_.getOrDefault()) invalidConfigs_.push_back(linked);
+    if (linked >= 0 && linked < amount) invalidConfigs_.push_back(linked);
   }
-  platform_.debugConsole.print(listed(invalidConfigs_));
+  platform_.debugConsole.print(inWords(invalidConfigs_));
 }
 
 std::vector<AssignOption> StyleAssign::options() const {
   std::vector<AssignOption> options{{std::string(familyWords::noStyle), noLinkedConfig}};
-  const std::int64_t amount = std::min(amountOfConfigs_.getOrDefault(), mostListed);
+  const std::int64_t amount = listed(amountOfConfigs_.getOrDefault());
   for (std::int64_t i = 0; i < amount; ++i)
     options.push_back({std::to_string(i + 1), i});
   return options;

@@ -1,6 +1,7 @@
 #include "core/lifecycle/StyleGallery.h"
 
-#include <algorithm>
+#include "core/store/Listing.h"
+
 #include <string>
 
 namespace vitrelle {
@@ -28,7 +29,7 @@ std::optional<std::string_view> StyleGallery::placeholder() const {
 std::vector<GalleryTile> StyleGallery::tiles() const {
   std::vector<GalleryTile> tiles;
   const std::int64_t current = selectedConfig_.getOrDefault();
-  const std::size_t shown = std::min(amount_, static_cast<std::size_t>(mostListed));
+  const auto shown = static_cast<std::size_t>(listed(static_cast<std::int64_t>(amount_)));
   for (std::size_t i = 0; i < shown; ++i) {
     tiles.push_back({.backdrop = backdrop(i),
                      .face = face(i, {tileSide(), tileSide()}),

@@ -1,8 +1,7 @@
 #include "core/lifecycle/StylePreview.h"
 
 #include "core/store/Keys.h"
-
-#include <algorithm>
+#include "core/store/Listing.h"
 
 namespace vitrelle {
 
@@ -26,7 +25,7 @@ void StylePreview::appear() {
 
 std::vector<std::optional<SliceName>> StylePreview::pages() const {
   std::vector<std::optional<SliceName>> pages;
-  const std::int64_t amount = std::min(amountOfConfigs_.getOrDefault(), mostListed);
+  const std::int64_t amount = listed(amountOfConfigs_.getOrDefault());
   for (std::int64_t config = 0; config < amount; ++config) {
     auto whole = findSlice(platform_, WidgetLocationImageNames::fullImage, config, lightStyle);
     if (!whole)

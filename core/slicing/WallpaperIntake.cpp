@@ -6,6 +6,7 @@
 #include "core/slicing/WallpaperInterface.h"
 #include "core/store/Keys.h"
 
+#include <limits>
 #include <string>
 
 namespace vitrelle {
@@ -16,6 +17,17 @@ std::int64_t required(const StoredValue<std::int64_t>& amount) {
   const auto stored = amount.get();
   if (!stored) fatalError("amountOfConfigs is missing");
   return *stored;
+}
+
+/// Whether the newest of so many styles has both its screenshots.
+bool newestIsComplete(const Platform& platform, std::int64_t amount) {
+  if (amount == std::numeric_limits<std::int64_t>::min()) return false; // no number is less
+  const ImageLoader loader(platform);
+  const auto exists = [&](InterfaceStyle style) {
+    return loader.loadSlice(rawValue(WidgetLocationImageNames::fullImage), style, amount - 1)
+        .has_value();
+  };
+  return exists(lightStyle) && exists(darkStyle);
 }
 
 } // namespace
@@ -82,15 +94,8 @@ void ModernNewLightDark::tap(double x) {
 }
 
 void ModernNewLightDark::disappear() {
-  const std::int64_t newest = checkedAdd(configAmount_.getOrDefault(), -1);
-  const ImageLoader loader(platform());
-  const auto exists = [&](InterfaceStyle style) {
-    return loader.loadSlice(rawValue(WidgetLocationImageNames::fullImage), style, newest)
-        .has_value();
-  };
-  if (!exists(lightStyle) || !exists(darkStyle)) {
+  if (!newestIsComplete(platform(), configAmount_.getOrDefault()))
     configAmount_.set(checkedAdd(maxConfigAmount_, -1));
-  }
 }
 
 std::int64_t ModernNewLightDark::styleNumber() const {

@@ -3,6 +3,9 @@
 
 #include "tests/app/AppTest.h"
 
+#include <limits>
+#include <tuple>
+
 namespace vitrelle {
 namespace {
 
@@ -162,6 +165,28 @@ TEST_F(ModernContentViewTest, twelveStyles_leaveNoRoomForAnother) {
     const ModernContentView root(platform);
     EXPECT_EQ(root.showsCreateCard(), amount <= 11) << amount;
     EXPECT_EQ(root.pageCount(), amount == 12 ? 12 : amount + 1) << amount;
+  }
+}
+
+TEST_F(ModernContentViewTest, damagedCount_isListedInPart) {
+  using Limits = std::numeric_limits<std::int64_t>;
+  setStoredVersion("2.2");
+  addStyle(0);
+  addStyle(99);
+  addStyle(100);
+  const std::tuple<std::int64_t, std::vector<std::int64_t>, std::int64_t> cases[] = {
+      {Limits::max(), {0, 99}, 101},
+      {3'000'000, {0, 99}, 101},
+      {-5, {}, 1},
+      {Limits::min(), {}, 1}};
+  for (const auto& [amount, numbers, pages] : cases) {
+    setNumber("amountOfConfigs", amount);
+    ModernContentView root(platform);
+    root.appear();
+    root.contentAppear();
+    EXPECT_EQ(listed(root), numbers) << amount;
+    EXPECT_EQ(root.pageCount(), pages) << amount;
+    EXPECT_EQ(number("amountOfConfigs"), amount);
   }
 }
 

@@ -2,6 +2,8 @@
 
 #include "tests/app/AppTest.h"
 
+#include <limits>
+
 namespace vitrelle {
 namespace {
 
@@ -12,6 +14,8 @@ TEST_F(ShortcutsTest, options_nameTheStylesFromOne) {
   setNumber("amountOfConfigs", 3);
   EXPECT_EQ(ViewStringOptionsProvider(platform).results(),
             (std::vector<std::string>{"Style 1", "Style 2", "Style 3"}));
+  setNumber("amountOfConfigs", std::numeric_limits<std::int64_t>::max());
+  EXPECT_EQ(ViewStringOptionsProvider(platform).results().size(), 100U) << "a damaged count";
 }
 
 TEST_F(ShortcutsTest, anyText_choosesAStyleUnchecked) {

@@ -2,6 +2,8 @@
 
 #include "tests/app/AppTest.h"
 
+#include <limits>
+
 namespace vitrelle {
 namespace {
 
@@ -66,6 +68,20 @@ TEST_F(WallpaperIntakeTest, visitWithoutATap_changesNoCount) {
     screen.appear();
     screen.disappear();
     EXPECT_EQ(number("amountOfConfigs"), 1) << complete;
+  }
+}
+
+TEST_F(WallpaperIntakeTest, negativeCounts_endNothing) {
+  for (const std::int64_t amount : {std::numeric_limits<std::int64_t>::min(), std::int64_t{-5}}) {
+    setNumber("amountOfConfigs", amount);
+    ModernNewLightDark screen(platform);
+    screen.appear();
+    screen.disappear();
+    EXPECT_EQ(number("amountOfConfigs"), amount);
+    screen.tap(leftHalf);
+    EXPECT_EQ(number("amountOfConfigs"), amount + 1);
+    screen.disappear();
+    EXPECT_EQ(number("amountOfConfigs"), amount);
   }
 }
 
