@@ -22,7 +22,9 @@ class StyleSetup final : public StyleEditor {
     readImg();
     stored_.load();
     if (task().mode == EditorMode::edit) {
-      if (const Record* record = stored_.at(task().configNumber)) form_.record = *record;
+      // Colours are none of this screen's: its preview is white, as that of a new style is.
+      if (const Record* record = stored_.at(task().configNumber))
+        family_.copySetup(*record, form_.record);
     }
     changed();
   }

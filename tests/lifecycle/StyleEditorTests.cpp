@@ -57,6 +57,7 @@ TEST_F(StyleEditorTest, setup_changesARecordButNotItsColourAndLink) {
   auto editor = setup(edit(1));
   editor.appear();
   EXPECT_EQ(editor.rows()[0].value, FormValue(std::string("1")));
+  EXPECT_NE(drawn(editor).find("18 FFFFFF"), std::string::npos) << "colours are the next step's";
   fill(editor);
   editor.save();
   records[1].textWidgetText = "Hello";
