@@ -21,13 +21,9 @@ class ScreensOf final : public FamilyScreens {
     return std::make_unique<StyleEntry>(
         platform, words(), std::make_unique<FamilyRecords<Record>>(platform, family_.store));
   }
-  std::unique_ptr<StyleEditor> setup(const Platform& platform,
-                                     const EditorTask& task) const override {
+  std::unique_ptr<StyleFirstStep> setup(const Platform& platform,
+                                        const EditorTask& task) const override {
     return std::make_unique<StyleSetup<Record>>(platform, family_, task);
-  }
-  std::unique_ptr<StyleSecondStep> secondStep(const Platform& platform,
-                                              const EditorTask& task) const override {
-    return std::make_unique<StyleColours<Record>>(platform, family_, task);
   }
   std::unique_ptr<StyleGallery> gallery(const Platform& platform) const override {
     return std::make_unique<StyleGalleryOf<Record>>(platform, family_);

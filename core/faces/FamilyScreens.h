@@ -25,10 +25,9 @@ class FamilyScreens {
   /// Whether its styles can be made and changed; the other screens are there for all families.
   virtual bool hasEditor() const = 0;
   virtual std::unique_ptr<StyleEntry> entry(const Platform& platform) const = 0;
-  virtual std::unique_ptr<StyleEditor> setup(const Platform& platform,
-                                             const EditorTask& task) const = 0;
-  virtual std::unique_ptr<StyleSecondStep> secondStep(const Platform& platform,
-                                                      const EditorTask& task) const = 0;
+  /// The first step of the editor, which leads to the second.
+  virtual std::unique_ptr<StyleFirstStep> setup(const Platform& platform,
+                                                const EditorTask& task) const = 0;
   virtual std::unique_ptr<StyleGallery> gallery(const Platform& platform) const = 0;
   virtual std::unique_ptr<StyleAssign> assign(const Platform& platform,
                                               std::int64_t configNumber) const = 0;

@@ -6,6 +6,10 @@
 #include "core/lifecycle/StyleEditor.h"
 #include "core/store/StoredValue.h"
 
+#include <cstdint>
+#include <optional>
+#include <utility>
+
 namespace vitrelle {
 
 /// The part that knows no record.
@@ -28,13 +32,22 @@ class StyleSecondStep : public StyleEditor {
   Subscription task_; ///< ends with the screen
 };
 
+/// What the step before saved, and where. The store may not have taken it.
+template <class Record>
+struct SavedRecord {
+  std::int64_t index = 0;
+  Record record;
+};
+
 template <class Record>
 class StyleColours final : public StyleSecondStep {
  public:
-  /// The family must outlive it.
-  StyleColours(const Platform& platform, const StyleFamily<Record>& family, const EditorTask& task)
+  /// The family must outlive it. Without a step before, a new style is the last one.
+  StyleColours(const Platform& platform, const StyleFamily<Record>& family, const EditorTask& task,
+               std::optional<SavedRecord<Record>> saved = std::nullopt)
       : StyleSecondStep(platform, family.words(), task),
         family_(family),
+        saved_(std::move(saved)),
         stored_(platform, family.store),
         selected_(platform, family.store.selected),
         form_(family, family.secondRows) {}
@@ -42,7 +55,12 @@ class StyleColours final : public StyleSecondStep {
   void appear() override {
     readImg();
     stored_.load();
-    if (const Record* record = stored_.at(index())) form_.record = *record;
+    index_ = findRecord();
+    if (const Record* record = stored_.at(index_)) {
+      form_.record = *record;
+    } else if (saved_) {
+      form_.record = saved_->record;
+    }
     changed();
   }
   std::vector<ShownRow> rows() const override { return form_.shownRows(); }
@@ -54,27 +72,50 @@ class StyleColours final : public StyleSecondStep {
     return form_.face(platform(), FaceUse::second, frame);
   }
 
-  /// Where the store lost the record since the step before, nothing is written, and the flow ends
-  /// as if it were.
+  /// Where there is no record to work on, nothing is written, and the flow ends as if it were.
   void save() override {
-    if (Record* record = stored_.at(index())) {
+    if (Record* record = stored_.at(index_)) {
       family_.copySecond(form_.record, *record);
       stored_.save();
-      selected_.set(index());
+      if (isStored()) selected_.set(index_);
     }
     platform().haptics.success();
   }
 
  private:
-  std::int64_t index() const {
-    return task().mode == EditorMode::edit ? task().configNumber
-                                           : static_cast<std::int64_t>(stored_.count()) - 1;
+  static constexpr std::int64_t nowhere = -1;
+
+  /// The index of the record that is worked on. What the store did not take from the step before is
+  /// put into this screen's copy once more: no other record may stand in for it.
+  std::int64_t findRecord() {
+    const auto count = static_cast<std::int64_t>(stored_.count());
+    const bool editing = task().mode == EditorMode::edit;
+    if (!saved_) return editing ? task().configNumber : count - 1;
+    Record* there = stored_.at(saved_->index);
+    if (there != nullptr && *there == saved_->record) return saved_->index;
+    if (editing) {
+      if (there != nullptr) family_.copySetup(saved_->record, *there);
+      return saved_->index;
+    }
+    // Fewer than the step before saw: writing this copy would lose those that can't be read now.
+    if (count < saved_->index || stored_.count() >= maximumWidgetStyles) return nowhere;
+    Record again = newRecord(family_.store, stored_.records);
+    family_.copySetup(saved_->record, again);
+    stored_.records.push_back(std::move(again));
+    return count;
+  }
+  bool isStored() const {
+    FamilyRecords<Record> now(platform(), family_.store);
+    now.load();
+    return now.at(index_) != nullptr;
   }
 
   const StyleFamily<Record>& family_;
+  std::optional<SavedRecord<Record>> saved_;
   FamilyRecords<Record> stored_;
   StoredValue<std::int64_t> selected_;
   EditorForm<Record> form_;
+  std::int64_t index_ = nowhere;
 };
 
 } // namespace vitrelle

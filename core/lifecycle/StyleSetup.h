@@ -1,19 +1,31 @@
 // The first step of an editor: what a style shows. Saving makes the record, or changes it.
 #pragma once
 
-#include "core/lifecycle/StyleEditor.h"
+#include "core/lifecycle/StyleColours.h"
 #include "core/platform/FatalError.h"
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace vitrelle {
 
+/// The part that knows no record.
+class StyleFirstStep : public StyleEditor {
+ public:
+  /// The step after it, over the record that was saved, whether the store took it or not.
+  virtual std::unique_ptr<StyleSecondStep> next() const = 0;
+
+ protected:
+  using StyleEditor::StyleEditor;
+};
+
 template <class Record>
-class StyleSetup final : public StyleEditor {
+class StyleSetup final : public StyleFirstStep {
  public:
   /// The family must outlive it.
   StyleSetup(const Platform& platform, const StyleFamily<Record>& family, const EditorTask& task)
-      : StyleEditor(platform, family.words(), task),
+      : StyleFirstStep(platform, family.words(), task),
         family_(family),
         stored_(platform, family.store),
         form_(family, family.setupRows) {}
@@ -41,22 +53,26 @@ class StyleSetup final : public StyleEditor {
   /// Editing a record that is not there is a fatal error.
   void save() override {
     platform().haptics.lightImpact();
+    std::int64_t index = task().configNumber;
     if (task().mode == EditorMode::create) {
-      Record record = newRecord(family_.store, stored_.records);
-      family_.copySetup(form_.record, record);
-      stored_.records.push_back(std::move(record));
-    } else {
-      Record* record = stored_.at(task().configNumber);
-      if (record == nullptr) fatalError("there is no widget style to edit at this index");
-      family_.copySetup(form_.record, *record);
+      index = static_cast<std::int64_t>(stored_.count());
+      stored_.records.push_back(newRecord(family_.store, stored_.records));
     }
+    Record* record = stored_.at(index);
+    if (record == nullptr) fatalError("there is no widget style to edit at this index");
+    family_.copySetup(form_.record, *record);
+    saved_ = {index, *record};
     stored_.save();
+  }
+  std::unique_ptr<StyleSecondStep> next() const override {
+    return std::make_unique<StyleColours<Record>>(platform(), family_, task(), saved_);
   }
 
  private:
   const StyleFamily<Record>& family_;
   FamilyRecords<Record> stored_;
   EditorForm<Record> form_;
+  std::optional<SavedRecord<Record>> saved_;
 };
 
 } // namespace vitrelle

@@ -6,7 +6,14 @@ namespace {
 
 class StyleEditorTest : public test::LifecycleTest {
  protected:
-  StyleEditorTest() { storeStyles(2); }
+  StyleEditorTest() {
+    storeStyles(2);
+    platform.defaults.set = [this, set = platform.defaults.set](Suite suite, const std::string& key,
+                                                                const StoreValue& value) {
+      return full ? Status(Failure{key, "the disk is full"}) : set(suite, key, value);
+    };
+  }
+  bool full = false; ///< nothing can be written
 
   static constexpr EditorTask create{};
   static EditorTask edit(std::int64_t index) { return {EditorMode::edit, index}; }
@@ -116,13 +123,81 @@ TEST_F(StyleEditorTest, brokenStore_letsTheFlowEndAsIfItHadWritten) {
   auto editor = setup(create);
   editor.appear();
   editor.save();
-  auto second = colours(create);
-  second.appear();
-  second.save();
+  const auto second = editor.next();
+  second->appear();
+  second->save();
   EXPECT_EQ(surroundings.felt, (std::vector<std::string>{"light impact", "success"}));
-  EXPECT_EQ(console.reloads, 1);
+  EXPECT_EQ(number("textSelectedConfig"), std::nullopt);
   defaults.broken = false;
   EXPECT_EQ(stored().size(), 2U) << "nothing else is lost";
+}
+
+TEST_F(StyleEditorTest, newStyleThatWasNotTaken_isSavedByTheNextStepAndNoOtherIsTouched) {
+  const auto before = stored();
+  for (const bool fullToTheEnd : {true, false}) {
+    SCOPED_TRACE(fullToTheEnd);
+    full = true;
+    auto editor = setup(create);
+    editor.appear();
+    fill(editor);
+    editor.save();
+    EXPECT_EQ(stored(), before);
+    const auto second = editor.next();
+    second->appear();
+    EXPECT_NE(drawn(*second).find("text \"Hello\""), std::string::npos) << "not an older style";
+    second->setValue(0, Colour{1, 0.5F, 0, 1});
+    full = fullToTheEnd;
+    second->save();
+    if (fullToTheEnd) {
+      EXPECT_EQ(stored(), before);
+      EXPECT_EQ(number("textSelectedConfig"), std::nullopt);
+    }
+  }
+  ASSERT_EQ(stored().size(), 3U);
+  EXPECT_EQ((std::vector{stored()[0], stored()[1]}), before);
+  EXPECT_EQ(stored()[2].textWidgetText, "Hello");
+  EXPECT_EQ(stored()[2].textConfigTag, 2);
+  EXPECT_EQ(stored()[2].textWidgetTextColour, Colour::parse("FF8000"));
+  EXPECT_EQ(number("textSelectedConfig"), 2);
+}
+
+TEST_F(StyleEditorTest, changeThatWasNotTaken_isSavedByTheNextStep) {
+  full = true;
+  auto editor = setup(edit(0));
+  editor.appear();
+  fill(editor);
+  editor.save();
+  const auto second = editor.next();
+  second->appear();
+  full = false;
+  second->save();
+  EXPECT_EQ(stored()[0].textWidgetText, "Hello");
+  EXPECT_EQ(stored()[1].textWidgetText, "1");
+}
+
+TEST_F(StyleEditorTest, styleOfAnother_isNotPainted) {
+  auto editor = setup(create);
+  editor.appear();
+  fill(editor);
+  editor.save();
+  const auto second = editor.next();
+  auto records = stored();
+  records.push_back(newRecord(families::text, records));
+  store(records);
+  second->appear();
+  second->setValue(0, Colour{1, 0.5F, 0, 1});
+  second->save();
+  ASSERT_EQ(stored().size(), 4U);
+  EXPECT_EQ(stored()[2].textWidgetTextColour, Colour::parse("FF8000"));
+  EXPECT_EQ(stored()[3], records[3]);
+  EXPECT_EQ(number("textSelectedConfig"), 2);
+
+  const auto late = editor.next();
+  records.resize(1); // the styles before it are gone, so this is no store to add to
+  store(records);
+  late->appear();
+  late->save();
+  EXPECT_EQ(stored(), records);
 }
 
 TEST_F(StyleEditorTest, damagedArray_countsAsEmpty) {

@@ -4,13 +4,19 @@ namespace vitrelle::ui {
 
 EditorScreen::EditorScreen(const Platform& platform, const FamilyScreens& family,
                            const EditorTask& task)
-    : EditorScreen(platform, family, family.setup(platform, task), nullptr) {}
+    : EditorScreen(platform, family.setup(platform, task)) {}
 
-EditorScreen::EditorScreen(const Platform& platform, const FamilyScreens& family,
-                           std::unique_ptr<StyleEditor> screen, StyleSecondStep* second)
+EditorScreen::EditorScreen(const Platform& platform, std::unique_ptr<StyleFirstStep> screen)
+    : EditorScreen(platform, screen.get(), nullptr, std::move(screen)) {}
+
+EditorScreen::EditorScreen(const Platform& platform, std::unique_ptr<StyleSecondStep> screen)
+    : EditorScreen(platform, nullptr, screen.get(), std::move(screen)) {}
+
+EditorScreen::EditorScreen(const Platform& platform, StyleFirstStep* first, StyleSecondStep* second,
+                           std::unique_ptr<StyleEditor> screen)
     : platform_(platform),
-      family_(family),
       screen_(std::move(screen)),
+      first_(first),
       second_(second),
       previewSize_(mediumPreviewSize(platform)),
       form_(*screen_),
@@ -36,9 +42,7 @@ void EditorScreen::settle() {
 }
 
 EditorScreen* EditorScreen::next() const {
-  auto second = family_.secondStep(platform_, screen_->task());
-  StyleSecondStep* step = second.get();
-  return new EditorScreen(platform_, family_, std::move(second), step);
+  return first_ == nullptr ? nullptr : new EditorScreen(platform_, first_->next());
 }
 
 } // namespace vitrelle::ui

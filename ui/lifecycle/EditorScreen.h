@@ -47,19 +47,21 @@ class EditorScreen : public QObject {
   /// When the screen has come to rest.
   Q_INVOKABLE void settle();
   Q_INVOKABLE void save() { screen_->save(); }
-  /// The second step, for QML to own.
+  /// The step after the first, for QML to own.
   Q_INVOKABLE vitrelle::ui::EditorScreen* next() const;
 
  Q_SIGNALS:
   void changed();
 
  private:
-  EditorScreen(const Platform& platform, const FamilyScreens& family,
-               std::unique_ptr<StyleEditor> screen, StyleSecondStep* second);
+  EditorScreen(const Platform& platform, std::unique_ptr<StyleFirstStep> screen);
+  EditorScreen(const Platform& platform, std::unique_ptr<StyleSecondStep> screen);
+  EditorScreen(const Platform& platform, StyleFirstStep* first, StyleSecondStep* second,
+               std::unique_ptr<StyleEditor> screen);
 
   const Platform& platform_;
-  const FamilyScreens& family_;
   std::unique_ptr<StyleEditor> screen_;
+  StyleFirstStep* first_;   ///< the screen, when it is one
   StyleSecondStep* second_; ///< the screen, when it is one
   PointSize previewSize_;
   FormModel form_;
