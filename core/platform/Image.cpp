@@ -43,6 +43,11 @@ Image::Image(std::shared_ptr<const ImageSource> source) : source_(std::move(sour
 Image::Image(Bitmap bitmap, ColourProfile profile)
     : source_(std::make_shared<MemoryImage>(std::move(bitmap), std::move(profile))) {}
 
+bool Image::operator==(const Image& other) const {
+  if (source_ == other.source_) return true;
+  return file() && file() == other.file();
+}
+
 std::optional<Image> Image::cropped(const PixelRect& rect) const {
   Result<Bitmap> whole = bitmap();
   if (!whole) return std::nullopt;

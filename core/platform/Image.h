@@ -40,6 +40,16 @@ struct Bitmap {
   }
 };
 
+/// A file at one moment: another file, or one that was written into since, has another identity.
+struct FileIdentity {
+  std::uint64_t device = 0;
+  std::uint64_t inode = 0;
+  std::int64_t bytes = 0;
+  std::int64_t seconds = 0; ///< of the last change, since 1970
+  std::int64_t nanoseconds = 0;
+  bool operator==(const FileIdentity&) const = default;
+};
+
 /// Where an image's pixels come from. Implementations are immutable and safe to use from several
 /// threads at once.
 class ImageSource {
@@ -49,9 +59,11 @@ class ImageSource {
   virtual const ColourProfile& profile() const = 0;
   /// Decodes at the first call, if need be.
   virtual Result<Bitmap> bitmap() const = 0;
+  /// The file that they come from, if they come from one.
+  virtual std::optional<FileIdentity> file() const { return std::nullopt; }
 };
 
-/// Two images are equal when they are the same object.
+/// Two images are equal when they are the same object, or of the same file with the same content.
 class Image final {
  public:
   explicit Image(std::shared_ptr<const ImageSource> source);
@@ -62,12 +74,13 @@ class Image final {
   const ColourProfile& profile() const { return source_->profile(); }
   /// The pixels, decoded if they are not yet, or why they can't be had.
   Result<Bitmap> bitmap() const { return source_->bitmap(); }
+  std::optional<FileIdentity> file() const { return source_->file(); }
 
   /// The part of the image inside the rectangle, as a view: no pixel is copied. The rectangle is
   /// first cut to the bitmap. Nothing when there is no bitmap or nothing is left of the rectangle.
   std::optional<Image> cropped(const PixelRect& rect) const;
 
-  bool operator==(const Image& other) const { return source_ == other.source_; }
+  bool operator==(const Image& other) const;
 
  private:
   std::shared_ptr<const ImageSource> source_;

@@ -11,9 +11,11 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <string>
 #include <utility>
 
 #include <fcntl.h>
@@ -86,17 +88,21 @@ Failure ofFile(const std::string& path, const Failure& failure) {
   return {path, failure.why};
 }
 
+/// What is known of a file by its header.
+struct KnownFile {
+  OpenFile file;
+  FileIdentity identity;
+  const Format& format;
+  PixelSize size;
+};
+
 class FileImage final : public ImageSource {
  public:
-  FileImage(std::string path, OpenFile file, std::size_t bytes, const Format& format,
-            PixelSize size)
-      : path_(std::move(path)),
-        file_(std::move(file)),
-        bytes_(bytes),
-        format_(format),
-        size_(size) {}
+  FileImage(std::string path, std::shared_ptr<const KnownFile> file)
+      : path_(std::move(path)), file_(std::move(file)) {}
 
-  PixelSize size() const override { return size_; }
+  PixelSize size() const override { return file_->size; }
+  std::optional<FileIdentity> file() const override { return file_->identity; }
   const ColourProfile& profile() const override {
     static const ColourProfile none;
     const Result<DecodedPicture>& picture = decoded();
@@ -115,22 +121,84 @@ class FileImage final : public ImageSource {
   }
 
   Result<DecodedPicture> decode() const {
-    const auto bytes = readBytes(file_.get(), bytes_);
+    const auto bytes =
+        readBytes(file_->file.get(), static_cast<std::size_t>(file_->identity.bytes));
     if (!bytes) return Failure{path_, std::strerror(errno)};
-    Result<DecodedPicture> picture = format_.decode(bytes->span());
+    Result<DecodedPicture> picture = file_->format.decode(bytes->span());
     if (!picture) return ofFile(path_, picture.failure());
     // Someone wrote into the file since it was opened, and its size was told to others.
-    if (picture->bitmap.size != size_) return Failure{path_, "the file changed while it was read"};
+    if (picture->bitmap.size != file_->size)
+      return Failure{path_, "the file changed while it was read"};
     return picture;
   }
 
   std::string path_;
-  OpenFile file_;
-  std::size_t bytes_;
-  const Format& format_;
-  PixelSize size_;
+  std::shared_ptr<const KnownFile> file_;
   mutable std::once_flag once_;
   mutable std::optional<Result<DecodedPicture>> decoded_;
+};
+
+FileIdentity identityOf(const struct stat& status) {
+  return {.device = status.st_dev,
+          .inode = status.st_ino,
+          .bytes = status.st_size,
+          .seconds = status.st_mtim.tv_sec,
+          .nanoseconds = status.st_mtim.tv_nsec};
+}
+
+Result<std::shared_ptr<const KnownFile>> openPicture(const std::string& path) {
+  // Without waiting, should it be a pipe that nobody writes to.
+  OpenFile file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  struct stat status {};
+  if (file.get() < 0 || fstat(file.get(), &status) != 0) return Failure{path, std::strerror(errno)};
+  if (!S_ISREG(status.st_mode)) return Failure{path, "not a file"};
+  const auto fileBytes = static_cast<std::size_t>(status.st_size);
+  if (fileBytes == 0) return Failure{path, "the file is empty"};
+  if (fileBytes > largestFile) return Failure{path, "the file is too large"};
+
+  auto bytes = readBytes(file.get(), std::min(fileBytes, pngHeaderBytes));
+  if (!bytes) return Failure{path, std::strerror(errno)};
+  const auto format =
+      std::ranges::find_if(formats, [&](const Format& f) { return f.matches(bytes->span()); });
+  if (format == std::end(formats)) return Failure{path, "not a PNG, JPEG or HEIC picture"};
+  if (!format->sizeIsInHeader) {
+    bytes = readBytes(file.get(), fileBytes);
+    if (!bytes) return Failure{path, std::strerror(errno)};
+  }
+  const Result<PixelSize> size = format->size(bytes->span());
+  if (!size) return ofFile(path, size.failure());
+  return std::make_shared<const KnownFile>(
+      KnownFile{std::move(file), identityOf(status), *format, *size});
+}
+
+/// The files that images are held of, by path. They stay open, so no other file can get the inode
+/// of one of them.
+class KnownFiles final {
+ public:
+  Result<Image> load(const std::string& path) {
+    if (auto known = find(path)) return Image(std::make_shared<FileImage>(path, std::move(known)));
+    const auto opened = openPicture(path);
+    if (!opened) return opened.failure();
+    const std::lock_guard lock(mutex_);
+    std::erase_if(files_, [](const auto& entry) { return entry.second.expired(); });
+    files_.insert_or_assign(path, *opened);
+    return Image(std::make_shared<FileImage>(path, *opened));
+  }
+
+ private:
+  std::shared_ptr<const KnownFile> find(const std::string& path) {
+    std::shared_ptr<const KnownFile> known;
+    {
+      const std::lock_guard lock(mutex_);
+      if (const auto entry = files_.find(path); entry != files_.end()) known = entry->second.lock();
+    }
+    struct stat status {};
+    if (!known || stat(path.c_str(), &status) != 0) return nullptr;
+    return identityOf(status) == known->identity ? known : nullptr;
+  }
+
+  std::mutex mutex_; ///< pictures are loaded on several threads
+  std::map<std::string, std::weak_ptr<const KnownFile>> files_;
 };
 
 Status decodeAll(std::span<const Image> images) {
@@ -158,36 +226,16 @@ Result<Data> pngRepresentation(const Image& image) {
 } // namespace
 
 Result<Image> loadImageFile(const std::string& path) {
-  // Without waiting, should it be a pipe that nobody writes to.
-  OpenFile file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  struct stat status {};
-  if (file.get() < 0 || fstat(file.get(), &status) != 0) return Failure{path, std::strerror(errno)};
-  if (!S_ISREG(status.st_mode)) return Failure{path, "not a file"};
-  const auto fileBytes = static_cast<std::size_t>(status.st_size);
-  if (fileBytes == 0) return Failure{path, "the file is empty"};
-  if (fileBytes > largestFile) return Failure{path, "the file is too large"};
-
-  auto bytes = readBytes(file.get(), std::min(fileBytes, pngHeaderBytes));
-  if (!bytes) return Failure{path, std::strerror(errno)};
-  const auto format =
-      std::ranges::find_if(formats, [&](const Format& f) { return f.matches(bytes->span()); });
-  if (format == std::end(formats)) return Failure{path, "not a PNG, JPEG or HEIC picture"};
-  if (!format->sizeIsInHeader) {
-    bytes = readBytes(file.get(), fileBytes);
-    if (!bytes) return Failure{path, std::strerror(errno)};
-  }
-  const Result<PixelSize> size = format->size(bytes->span());
-  if (!size) return ofFile(path, size.failure());
-  return Image(std::make_shared<FileImage>(path, std::move(file), fileBytes, *format, *size));
+  return KnownFiles().load(path);
 }
 
 Images makeImages(const HomeFolder& home) {
-  return {.load = loadImageFile,
+  return {.load = [known = std::make_shared<KnownFiles>()](
+                      const std::string& path) { return known->load(path); },
           .decode = decodeAll,
           .pngRepresentation = pngRepresentation,
-          .writePngFiles = [home](std::span<const PngFile> files) {
-            return writePngFiles(home, files);
-          }};
+          .writePngFiles =
+              [home](std::span<const PngFile> files) { return writePngFiles(home, files); }};
 }
 
 } // namespace vitrelle::host

@@ -12,7 +12,9 @@ namespace vitrelle::host {
 /// at this moment, whatever is put there later.
 Result<Image> loadImageFile(const std::string& path);
 
-/// All operations on pictures; files are written by way of the home folder.
+/// All operations on pictures; files are written by way of the home folder. While an image of a
+/// file is held, and the file does not change, loading it again opens and reads nothing. Each image
+/// still decodes its own pixels, so that those who hold many hold no pixels.
 Images makeImages(const HomeFolder& home);
 
 } // namespace vitrelle::host

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -68,6 +69,33 @@ TEST_F(ImageFileTest, replacedFile_isStillTheOldPicture) {
   fs::rename(write("b.png", test::writeWithLibpng(5, 5, {})), path);
   EXPECT_EQ(image->size(), (PixelSize{30, 20}));
   EXPECT_EQ(image->bitmap().value().size, (PixelSize{30, 20}));
+}
+
+TEST_F(ImageFileTest, unchangedFile_isTheSamePictureAndIsNotOpenedAgain) {
+  const auto openFiles = [] {
+    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+  };
+  const Images images = makeImages(HomeFolder((folder / "home").string()));
+  const Data bytes = test::writeWithLibpng(30, 20, {});
+  const std::string path = write("a.png", bytes);
+  const Image first = images.load(path).value();
+  const auto open = openFiles();
+  const Image again = images.load(path).value();
+  EXPECT_EQ(openFiles(), open);
+  EXPECT_EQ(again, first);
+  EXPECT_NE(again.bitmap()->pixels, first.bitmap()->pixels) << "each holds pixels of its own";
+  EXPECT_FALSE(first == images.load(write("b.png", bytes)).value()) << "another file";
+
+  write("a.png", test::writeWithLibpng(30, 20, {8, PNG_COLOR_TYPE_RGB}));
+  const Image rewritten = images.load(path).value();
+  EXPECT_FALSE(rewritten == first);
+  fs::rename(folder / "b.png", path);
+  const Image replaced = images.load(path).value();
+  EXPECT_FALSE(replaced == rewritten);
+  fs::last_write_time(path, fs::last_write_time(path) + std::chrono::nanoseconds(1));
+  EXPECT_FALSE(images.load(path).value() == replaced);
+  fs::remove(path);
+  EXPECT_FALSE(images.load(path));
 }
 
 TEST_F(ImageFileTest, fileThatShrinksAfterItsHeaderWasRead_isRefused) {
