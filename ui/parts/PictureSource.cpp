@@ -42,24 +42,28 @@ QImage stretched(const Image& image, const QSize& pixels) {
 }
 
 void PictureSource::load(const PictureName& name, const QSize& pixels,
-                         std::function<void(QImage)> done) {
-  pool_.start([this, name, pixels, done = std::move(done)] {
+                         const std::optional<FileIdentity>& shown,
+                         std::function<void(LoadedPicture)> done) {
+  pool_.start([this, name, pixels, shown, done = std::move(done)] {
     const auto image = find(platform_, name);
-    done(image ? stretched(*image, pixels) : QImage());
+    if (!image) return done({});
+    if (shown && image->file() == shown) return;
+    done({stretched(*image, pixels), image->file()});
   });
 }
 
 void PictureSource::loadAsset(const QString& name, const QSize& pixels,
-                              std::function<void(QImage)> done) {
+                              std::function<void(LoadedPicture)> done) {
   pool_.start([name, pixels, done = std::move(done)] {
     QImageReader reader(QStringLiteral(":/pictures/") + name + QStringLiteral(".svg"));
     const QSize whole = reader.size().scaled(pixels, Qt::KeepAspectRatioByExpanding);
     reader.setScaledSize(whole);
     const QPoint corner((whole.width() - pixels.width()) / 2,
                         (whole.height() - pixels.height()) / 2);
-    done(reader.read()
-             .copy(QRect(corner, pixels))
-             .convertToFormat(QImage::Format_ARGB32_Premultiplied));
+    done({.pixels = reader.read()
+                        .copy(QRect(corner, pixels))
+                        .convertToFormat(QImage::Format_ARGB32_Premultiplied),
+          .file = {}});
   });
 }
 

@@ -9,6 +9,7 @@
 #include <QThreadPool>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace vitrelle::ui {
@@ -19,6 +20,11 @@ struct PictureName {
   std::int64_t style = 0;
   bool dark = false;
   bool operator==(const PictureName&) const = default;
+};
+
+struct LoadedPicture {
+  QImage pixels;                    ///< null when it can't be had
+  std::optional<FileIdentity> file; ///< that it is of
 };
 
 class PictureSource final {
@@ -36,11 +42,12 @@ class PictureSource final {
   /// Whether nothing is being decoded.
   bool isIdle() const { return pool_.activeThreadCount() == 0; }
 
-  /// Calls back on another thread with the picture stretched to the size, in sRGB; a null image
-  /// when it can't be had.
-  void load(const PictureName& name, const QSize& pixels, std::function<void(QImage)> done);
+  /// Calls back on another thread with the picture stretched to the size, in sRGB. It does not when
+  /// that would be of the file that is `shown` already.
+  void load(const PictureName& name, const QSize& pixels, const std::optional<FileIdentity>& shown,
+            std::function<void(LoadedPicture)> done);
   /// The same for one of the program's own, whose middle fills the size.
-  void loadAsset(const QString& name, const QSize& pixels, std::function<void(QImage)> done);
+  void loadAsset(const QString& name, const QSize& pixels, std::function<void(LoadedPicture)> done);
 
  private:
   const Platform& platform_;

@@ -43,19 +43,21 @@ void StoredPicture::load() {
   const QSize pixels(qCeil(width() * ratio), qCeil(height() * ratio));
   Wish wish{{stem_.toStdString(), styleNumber_, dark_}, standIn_, revision_, pixels};
   if (wish == wish_) return;
+  const bool sameSize = wish.pixels == wish_.pixels;
   wish_ = std::move(wish);
   ++request_;
   if (styleNumber_ < 0) {
     takeStored(request_, {});
-  } else {
-    Shell::of(*qmlEngine(this))
-        .pictures()
-        .load(wish_.name, pixels, receiver(&StoredPicture::takeStored));
+    return;
   }
+  Shell::of(*qmlEngine(this))
+      .pictures()
+      .load(wish_.name, pixels, sameSize ? shown_ : std::nullopt,
+            receiver(&StoredPicture::takeStored));
 }
 
-std::function<void(QImage)> StoredPicture::receiver(Take take) {
-  return [self = QPointer(this), request = request_, take](const QImage& picture) {
+std::function<void(LoadedPicture)> StoredPicture::receiver(Take take) {
+  return [self = QPointer(this), request = request_, take](const LoadedPicture& picture) {
     QMetaObject::invokeMethod(
         QCoreApplication::instance(),
         [self, request, take, picture] {
@@ -65,9 +67,9 @@ std::function<void(QImage)> StoredPicture::receiver(Take take) {
   };
 }
 
-void StoredPicture::takeStored(int request, const QImage& picture) {
+void StoredPicture::takeStored(int request, const LoadedPicture& picture) {
   if (request != request_) return;
-  missing_ = picture.isNull();
+  missing_ = picture.pixels.isNull();
   if (missing_ && !standIn_.isEmpty()) {
     Shell::of(*qmlEngine(this))
         .pictures()
@@ -77,12 +79,13 @@ void StoredPicture::takeStored(int request, const QImage& picture) {
   }
 }
 
-void StoredPicture::takeStandIn(int request, const QImage& picture) {
+void StoredPicture::takeStandIn(int request, const LoadedPicture& picture) {
   if (request == request_) show(picture);
 }
 
-void StoredPicture::show(const QImage& picture) {
-  picture_ = picture;
+void StoredPicture::show(const LoadedPicture& picture) {
+  picture_ = picture.pixels;
+  shown_ = picture_.isNull() ? std::nullopt : picture.file;
   Q_EMIT readyChanged();
   update();
 }

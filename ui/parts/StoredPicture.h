@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace vitrelle::ui {
 
@@ -52,12 +53,12 @@ class StoredPicture : public QQuickPaintedItem {
     bool operator==(const Wish&) const = default;
   };
   void load();
-  using Take = void (StoredPicture::*)(int request, const QImage& picture);
+  using Take = void (StoredPicture::*)(int request, const LoadedPicture& picture);
   /// Hands a picture from another thread to this item, if it is still there.
-  std::function<void(QImage)> receiver(Take take);
-  void takeStored(int request, const QImage& picture);
-  void takeStandIn(int request, const QImage& picture);
-  void show(const QImage& picture);
+  std::function<void(LoadedPicture)> receiver(Take take);
+  void takeStored(int request, const LoadedPicture& picture);
+  void takeStandIn(int request, const LoadedPicture& picture);
+  void show(const LoadedPicture& picture);
 
   QString stem_ = QStringLiteral("original");
   int styleNumber_ = -1;
@@ -66,6 +67,7 @@ class StoredPicture : public QQuickPaintedItem {
   qreal radius_ = 0;
   QString standIn_;
   QImage picture_;
+  std::optional<FileIdentity> shown_; ///< the file that `picture_` is of
   bool missing_ = false;
   Wish wish_;
   int request_ = 0; ///< the last; answers to earlier ones are dropped
