@@ -12,6 +12,7 @@
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <regex>
 #include <utility>
 
 #include <unistd.h>
@@ -136,22 +137,19 @@ std::optional<StoreValue> parseData(const std::string& text) {
 /// "2026-01-31", or with a time in UTC: "2026-01-31T12:30:00Z", with a fraction if need be.
 std::optional<StoreValue> parseDate(const std::string& text) {
   using namespace std::chrono;
+  static const std::regex written(R"(\d{4}-\d\d-\d\d(T\d\d:\d\d:\d\d(\.\d{1,9})?Z)?)");
+  if (!std::regex_match(text, written)) return std::nullopt;
   int year = 0;
   unsigned month = 0;
   unsigned day = 0;
   unsigned hour = 0;
   unsigned minute = 0;
   double second = 0;
-  int dateLength = 0;
-  int length = 0;
-  const int fields = std::sscanf(text.c_str(), "%4d-%2u-%2u%nT%2u:%2u:%lfZ%n", &year, &month, &day,
-                                 &dateLength, &hour, &minute, &second, &length);
-  const bool whole = fields == 6 ? std::cmp_equal(length, text.size())
-                                 : fields == 3 && std::cmp_equal(dateLength, text.size());
+  std::sscanf(text.c_str(), "%4d-%2u-%2uT%2u:%2u:%lf", &year, &month, &day, &hour, &minute,
+              &second);
   const year_month_day calendar{std::chrono::year{year}, std::chrono::month{month},
                                 std::chrono::day{day}};
-  const bool timely = hour < 24 && minute < 60 && second >= 0 && second < 60;
-  if (!whole || !calendar.ok() || !timely) return std::nullopt;
+  if (!calendar.ok() || hour >= 24 || minute >= 60 || second >= 60) return std::nullopt;
   const auto toTheMinute = sys_days(calendar) - referenceDate + hours(hour) + minutes(minute);
   return Date{duration<double>(toTheMinute).count() + second};
 }

@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "cli/Numbers.h"
 #include "cli/OneLine.h"
 #include "core/drawing/Describe.h"
 #include "core/drawing/Shapes.h"
@@ -15,6 +16,7 @@
 #include <cmath>
 #include <cstdio>
 #include <iostream>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -175,7 +177,7 @@ void addSheetOptions(CLI::App& command, Sheet& sheet) {
   command.add_option("--frame", sheet.frame, "Another size, in points")
       ->check(CLI::Validator(whyNoFrame, "WIDTHxHEIGHT"));
   command.add_option("--scale", sheet.scale, "Pixels per point")
-      ->check(CLI::Range(1, 3))
+      ->check(wholeNumber(1, 3))
       ->capture_default_str();
   command
       .add_option("--background", sheet.background,
@@ -189,12 +191,13 @@ void addTextFace(CLI::App& face, CommandContext& context) {
   CLI::App* command = face.add_subcommand("text", "A few words");
   addSheetOptions(*command, told->sheet);
   CLI::Option* record =
-      command->add_option("--record", told->record, "The widget style of this index, from 0");
+      command->add_option("--record", told->record, "The widget style of this index, from 0")
+          ->check(wholeNumber(0, std::numeric_limits<std::int64_t>::max()));
   const auto own = [record](CLI::Option* option) { return option->excludes(record); };
   own(command->add_option("--text", told->text, "The words"));
   own(command->add_option("--font", told->font, "A PostScript name"));
   own(command->add_option("--size", told->size, "Points")->capture_default_str())
-      ->check(CLI::Range(std::int64_t{1}, std::int64_t{1000}));
+      ->check(wholeNumber(1, 1000));
   own(command->add_option("--colour", told->colour)->capture_default_str())
       ->check(CLI::Validator(whyNoColour, "RRGGBB"));
   own(command->add_flag("--no-shadow", told->noShadow));

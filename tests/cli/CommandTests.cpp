@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <sstream>
 
 #include <sys/personality.h>
 #include <sys/wait.h>
@@ -132,6 +133,33 @@ TEST_F(CommandTest, foreignText_isShownInOneLineAndToldExactly) {
   EXPECT_NE(words.find("text \"a\\x1b[1mb\""), std::string::npos) << words;
 }
 
+TEST_F(CommandTest, defaultsWrite_takesValuesOnlyAsTheyAreWritten) {
+  const std::vector<std::pair<const char*, const char*>> good = {
+      {"-int", "-5"},
+      {"-float", "1e3"},
+      {"-date", "2026-01-31"},
+      {"-date", "2026-01-31T12:30:00.5Z"}};
+  for (const auto& [type, text] : good)
+    EXPECT_EQ(run({"defaults", "write", "key", type, text}).status, 0) << type << ' ' << text;
+  EXPECT_EQ(run({"defaults", "read", "key"}).output, "2026-01-31T12:30:00.500Z\n");
+  const std::vector<std::pair<const char*, const char*>> bad = {{"-int", ""},
+                                                                {"-int", " 1"},
+                                                                {"-int", "0x1"},
+                                                                {"-int", "9223372036854775808"},
+                                                                {"-float", "1,5"},
+                                                                {"-bool", "TRUE "},
+                                                                {"-data", "0"},
+                                                                {"-data", "0x"},
+                                                                {"-date", " 2026-01-31"},
+                                                                {"-date", "2026-1-31"},
+                                                                {"-date", "2026-02-30"},
+                                                                {"-date", "+026-01-31"},
+                                                                {"-date", "2026-01-31T12:30:00"},
+                                                                {"-date", "2026-01-31T24:00:00Z"}};
+  for (const auto& [type, text] : bad)
+    EXPECT_EQ(run({"defaults", "write", "key", type, text}).status, 2) << type << ' ' << text;
+}
+
 TEST_F(CommandTest, palette_listsTheColoursOfAPicture) {
   const std::string path = writePicture("a.png", test::positionImage(64, 64));
   const Outcome lines = run({"palette", path, "--colours", "2"});
@@ -144,11 +172,21 @@ TEST_F(CommandTest, palette_listsTheColoursOfAPicture) {
 }
 
 TEST_F(CommandTest, everyCommand_helps) {
-  for (const char* command : {"cut", "palette", "phones", "phone", "defaults", "records"}) {
+  // The commands as the help of the whole lists them: a line each, behind a heading of their own.
+  std::istringstream help(run({"--help"}).output);
+  std::string line;
+  while (std::getline(help, line) && line.find("ubcommands:") == std::string::npos) {
+  }
+  int commands = 0;
+  while (std::getline(help, line) && line.starts_with("  ")) {
+    const std::string command = line.substr(2, line.find(' ', 2) - 2);
+    if (command.empty()) continue; // a description's second line
     const Outcome outcome = run({command, "--help"});
     EXPECT_EQ(outcome.status, 0) << command;
-    EXPECT_NE(outcome.output, "") << command;
+    EXPECT_NE(outcome.output.find(command), std::string::npos) << command;
+    ++commands;
   }
+  EXPECT_GE(commands, 10);
 }
 
 } // namespace
