@@ -1,29 +1,19 @@
 #include "host/files/HomeLock.h"
 
+#include "host/files/Descriptor.h"
+
 #include <cerrno>
 #include <chrono>
 #include <cstring>
 #include <memory>
 #include <thread>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace vitrelle::host {
-
-namespace {
-
-/// Keeps the file open, and so its lock.
-HomeLock lockOf(int file) {
-  return {new int(file), [](const int* held) {
-            close(*held);
-            delete held;
-          }};
-}
-
-} // namespace
 
 Result<HomeLock> lockHome(const HomeFolder& home, double patienceSeconds) {
   using Clock = std::chrono::steady_clock;
@@ -31,20 +21,19 @@ Result<HomeLock> lockHome(const HomeFolder& home, double patienceSeconds) {
   const auto end = Clock::now() + std::chrono::duration<double>(patienceSeconds);
   if (Status made = makeFolder(home.path()); !made) return made.failure();
   constexpr int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK;
-  const int file = open(home.lockFile().c_str(), flags, 0600);
-  if (file < 0) return Failure{home.lockFile(), std::strerror(errno)};
-  const HomeLock lock = lockOf(file);
+  auto lock = std::make_shared<const Descriptor>(open(home.lockFile().c_str(), flags, 0600));
+  if (!*lock) return Failure{home.lockFile(), std::strerror(errno)};
   struct stat status {};
-  if (fstat(file, &status) != 0 || !S_ISREG(status.st_mode)) {
+  if (fstat(lock->get(), &status) != 0 || !S_ISREG(status.st_mode)) {
     return Failure{home.lockFile(), "it is no regular file"};
   }
-  while (flock(file, LOCK_EX | LOCK_NB) != 0) {
+  while (flock(lock->get(), LOCK_EX | LOCK_NB) != 0) {
     if (errno == EINTR) continue;
     if (errno != EWOULDBLOCK) return Failure{home.lockFile(), std::strerror(errno)};
     if (Clock::now() >= end) return Failure{home.path(), "another program is changing its styles"};
     std::this_thread::sleep_for(pause);
   }
-  return lock;
+  return HomeLock(std::move(lock));
 }
 
 } // namespace vitrelle::host
