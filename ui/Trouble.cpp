@@ -1,30 +1,66 @@
 #include "ui/Trouble.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <utility>
 
 namespace vitrelle::ui {
 
-Platform withTroubleTold(Platform platform, std::function<void(const Failure&)> tell) {
-  const auto told = std::make_shared<bool>(false);
-  const auto note = [told, tell = std::move(tell)](const Failure* failure) {
-    if (failure != nullptr && !*told) tell(*failure);
-    *told = failure != nullptr;
+namespace {
+
+/// What has been told of and has not worked since.
+struct Told {
+  std::function<void(Trouble, const Failure&)> tell;
+  std::array<bool, 2> reading{}; ///< by suite
+  std::array<bool, 2> writing{};
+  bool files = false;
+
+  void note(bool& told, Trouble trouble, const Failure* failure) const {
+    if (failure != nullptr && !told) tell(trouble, *failure);
+    told = failure != nullptr;
+  }
+};
+
+template <class T>
+const Failure* failureOf(const Result<T>& result) {
+  return result ? nullptr : &result.failure();
+}
+
+} // namespace
+
+Platform withTroubleTold(Platform platform, std::function<void(Trouble, const Failure&)> tell) {
+  const auto told = std::make_shared<Told>();
+  told->tell = std::move(tell);
+  const auto index = [](Suite suite) { return suite == Suite::group ? 0U : 1U; };
+
+  platform.defaults.value = [told, index, value = platform.defaults.value](Suite suite,
+                                                                           const std::string& key) {
+    auto result = value(suite, key);
+    told->note(told->reading[index(suite)], Trouble::reading, failureOf(result));
+    return result;
   };
-  platform.defaults.set = [set = platform.defaults.set, note](Suite suite, const std::string& key,
-                                                              const StoreValue& value) {
-    Status status = set(suite, key, value);
-    note(status ? nullptr : &status.failure());
-    return status;
+  platform.defaults.keys = [told, index, keys = platform.defaults.keys](Suite suite) {
+    auto result = keys(suite);
+    told->note(told->reading[index(suite)], Trouble::reading, failureOf(result));
+    return result;
   };
-  platform.images.writePngFiles = [write = platform.images.writePngFiles,
-                                   note](std::span<const PngFile> files) {
-    std::vector<Result<std::size_t>> written = write(files);
-    const auto failed = std::ranges::find(written, false, &Result<std::size_t>::ok);
-    note(failed == written.end() ? nullptr : &failed->failure());
-    return written;
+  platform.defaults.set = [told, index, set = platform.defaults.set](
+                              Suite suite, const std::string& key, const StoreValue& value) {
+    Status result = set(suite, key, value);
+    if (!told->reading[index(suite)]) {
+      told->note(told->writing[index(suite)], Trouble::writing, failureOf(result));
+    }
+    return result;
   };
+  platform.images.writePngFiles =
+      [told, write = platform.images.writePngFiles](std::span<const PngFile> files) {
+        std::vector<Result<std::size_t>> written = write(files);
+        const auto failed = std::ranges::find(written, false, &Result<std::size_t>::ok);
+        told->note(told->files, Trouble::writing,
+                   failed == written.end() ? nullptr : &failed->failure());
+        return written;
+      };
   return platform;
 }
 

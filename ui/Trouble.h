@@ -1,5 +1,5 @@
-// Tells the user when nothing can be stored any more. Screens say nothing of it: they go on with
-// what is there.
+// Tells the user when what is stored can't be read, or nothing can be stored any more. Screens say
+// nothing of it: they go on with what is there.
 #pragma once
 
 #include "core/platform/Platform.h"
@@ -8,8 +8,11 @@
 
 namespace vitrelle::ui {
 
-/// The platform, with `tell` called at the first write to the store or the files that fails, and
-/// again only after one that succeeded.
-Platform withTroubleTold(Platform platform, std::function<void(const Failure&)> tell);
+enum class Trouble { reading, writing };
+
+/// The platform, with `tell` called when a store or the files fail, once until the same works
+/// again. A store that can't be read takes no writes; that is not told as well.
+Platform withTroubleTold(Platform platform,
+                         std::function<void(Trouble trouble, const Failure& failure)> tell);
 
 } // namespace vitrelle::ui

@@ -1,6 +1,7 @@
 // The application: puts the platform, the screens and the window together.
 
 #include "cli/HostOptions.h"
+#include "cli/Numbers.h"
 #include "core/app/SceneDelegate.h"
 #include "core/slicing/WidgetLocation.h"
 #include "host/Host.h"
@@ -49,7 +50,7 @@ void parse(int argc, char** argv, Arguments& arguments) {
                      "Open this screen by its type name; 'list' prints them all");
   program.add_option("--screenshot", arguments.screenshot, "Draw the screen to a PNG file and end");
   program.add_option("--scale", arguments.scale, "Pixels per point of the screenshot")
-      ->check(CLI::Range(1, 3));
+      ->check(cli::wholeNumber(1, 3));
   program.add_flag("--gl", arguments.gl, "Draw with the graphics card");
   program.add_option("LINK", arguments.links, "Links to open, vitrelle://…");
   try {
@@ -129,13 +130,21 @@ std::function<std::int64_t()> appearanceOf(const Arguments& arguments) {
 int runWindow(const Arguments& arguments, const host::EventLoop& loop,
               host::AppInstance* instance) {
   const bool interactive = arguments.screenshot.empty();
-  ui::Shell* shell = nullptr; // what happens before there is one has nobody to tell it to
+  ui::Shell* shell = nullptr;
+  QString early; // what there is to tell before there is a shell
   bool suspended = false;
   Platform platform = ui::withTroubleTold(
-      host::makePlatform(cli::hostOptions(arguments.options), loop), [&](const Failure& failure) {
-        if (shell == nullptr) return;
-        shell->showNotice(qtTrId("app.store.readOnly")
-                              .arg(QString::fromStdString(failure.what + ": " + failure.why)));
+      host::makePlatform(cli::hostOptions(arguments.options), loop),
+      [&](ui::Trouble trouble, const Failure& failure) {
+        const QString pattern = trouble == ui::Trouble::reading ? qtTrId("app.store.unreadable")
+                                                              : qtTrId("app.store.readOnly");
+        const QString words =
+            pattern.arg(QString::fromStdString(failure.what + ": " + failure.why));
+        if (shell == nullptr) {
+          early = words;
+        } else {
+          shell->showNotice(words);
+        }
       });
   platform.application.suspend = [&] {
     suspended = true; // a hidden window does not end the program
@@ -158,6 +167,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
                                 .framed = interactive,
                                 .animated = interactive});
   shell = &theShell;
+  if (!early.isEmpty()) shell->showNotice(early);
   if (!theShell.open()) return 1;
   if (!interactive) return takeScreenshot(theShell, arguments.screenshot);
 

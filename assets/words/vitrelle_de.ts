@@ -99,6 +99,10 @@
         <source></source>
         <translation>Vitrelle kann hier nicht speichern. %1</translation>
     </message>
+    <message id="app.store.unreadable">
+        <source></source>
+        <translation>Was gespeichert ist, lässt sich nicht lesen; darum wird nichts geändert. %1</translation>
+    </message>
     <message id="app.unreadable">
         <source></source>
         <translation>Dieses Bild lässt sich nicht verwenden. %1</translation>

@@ -99,6 +99,10 @@
         <source></source>
         <translation>Vitrelle can’t save here. %1</translation>
     </message>
+    <message id="app.store.unreadable">
+        <source></source>
+        <translation>What is stored can’t be read, so nothing is changed. %1</translation>
+    </message>
     <message id="app.unreadable">
         <source></source>
         <translation>This picture can’t be used. %1</translation>

@@ -32,7 +32,7 @@ ModernContentView::ModernContentView(const Platform& platform)
 }
 
 void ModernContentView::appear() {
-  if (!configAmounts_.get()) resetCounts();
+  if (const auto amount = configAmounts_.read(); amount && !*amount) resetCounts();
   platform_.debugConsole.print(std::to_string(amountOfConfigs()));
   platform_.debugConsole.print(deviceName(platform_));
   if (Measurements::current(platform_).widgetSize == 0) {
@@ -45,8 +45,12 @@ void ModernContentView::appear() {
   changed();
 }
 
+/// What kind of run this is shows only where both stores can be read: one that can't would pass for
+/// the first run, whose counts begin at 0.
 void ModernContentView::decideKindOfRun() {
-  const auto stored = lastUsedAppVersion_.get();
+  const auto version = lastUsedAppVersion_.read();
+  if (!version || !configAmounts_.read()) return;
+  const std::optional<std::string>& stored = *version;
   if (!stored) {
     showOnboarding_ = true;
     lastUsedAppVersion_.set(currentVersion());
@@ -107,8 +111,17 @@ void ModernContentView::reloadConfigs() {
   changed();
 }
 
+bool ModernContentView::showsCreateCard() const {
+  return amountOfConfigs() < maximumStyles && canBeChanged();
+}
+
+bool ModernContentView::canBeChanged() const {
+  const GroupStore store(platform_);
+  return store.check(Suite::group) && store.check(Suite::standard);
+}
+
 void ModernContentView::selectConfig(std::int64_t number) {
-  if (isSelected(number)) {
+  if (isSelected(number) || !canBeChanged()) {
     platform_.haptics.error();
     return;
   }
@@ -119,7 +132,9 @@ void ModernContentView::selectConfig(std::int64_t number) {
 
 bool ModernContentView::openWidgetCentre() {
   if (amountOfConfigs() >= 1) return true;
-  showingAlert_ = true;
+  // Whether there are styles shows only in a store that can be read.
+  showingAlert_ = configAmounts_.read().ok();
+  if (!showingAlert_) platform_.haptics.error();
   changed();
   return false;
 }

@@ -37,7 +37,7 @@ class ModernContentView final : public Screen {
 
   /// Lists the styles whose two screenshots are both there. Loads, but decodes no picture.
   void reloadConfigs();
-  /// A tap on a card's tick.
+  /// A tap on a card's tick. Only felt where the choice could not be stored.
   void selectConfig(std::int64_t number);
   /// A tap on the button of the Widget Centre: whether it opens; if not, the alert is up.
   bool openWidgetCentre();
@@ -51,7 +51,9 @@ class ModernContentView final : public Screen {
   bool isSelected(std::int64_t number) const { return selectedConfig_.get() == number; }
   std::int64_t amountOfConfigs() const { return configAmounts_.getOrDefault(); }
   bool showsCards() const { return amountOfConfigs() != 0; }
-  bool showsCreateCard() const { return amountOfConfigs() < maximumStyles; }
+  bool showsCreateCard() const;
+  /// Whether both stores can be read. If not, nothing is offered that would write to them.
+  bool canBeChanged() const;
   /// Pages of the pager, which may be more than there are cards: a style without its files counts.
   std::int64_t pageCount() const;
   double pageWidth() const; ///< points

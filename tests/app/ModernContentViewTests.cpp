@@ -61,6 +61,29 @@ TEST_F(ModernContentViewTest, ordinaryRun_writesNothing) {
   EXPECT_FALSE(root.showingAlert());
 }
 
+TEST_F(ModernContentViewTest, storeThatCannotBeRead_passesForNoKindOfRun) {
+  setStoredVersion("2.2");
+  setNumber("amountOfConfigs", 3);
+  setNumber("selectedConfig", 2);
+  const auto before = defaults.values(Suite::group);
+  for (const Suite suite : {Suite::standard, Suite::group}) {
+    defaults.broken = {suite};
+    ModernContentView root(platform);
+    root.appear();
+    EXPECT_FALSE(root.showOnboarding());
+    EXPECT_FALSE(root.showsCreateCard()) << "a new style would be number 0";
+    surroundings.felt.clear();
+    root.selectConfig(1);
+    EXPECT_EQ(surroundings.felt, std::vector<std::string>{"error"});
+    root.openWidgetCentre();
+    EXPECT_FALSE(root.showingAlert()) << "there are styles, as far as one can tell";
+    defaults.broken = {};
+    EXPECT_EQ(defaults.values(Suite::group), before);
+    EXPECT_EQ(storedVersion(), "2.2");
+    EXPECT_TRUE(root.showsCreateCard());
+  }
+}
+
 TEST_F(ModernContentViewTest, upgradeWithinTheGeneration_isTakenAgainAtEachLaunch) {
   for (const char* version : {"2.1", "1.2", "3.2"}) {
     setStoredVersion(version);

@@ -84,11 +84,11 @@ TEST_F(StyleAssignTest, preview_staysWhite) {
 }
 
 TEST_F(StyleAssignTest, brokenStore_losesNothing) {
-  defaults.broken = true;
+  defaults.broken = {Suite::group};
   const auto screen = assign(1);
   screen->pick(0);
   EXPECT_TRUE(screen->save());
-  defaults.broken = false;
+  defaults.broken = {};
   EXPECT_EQ(stored().size(), 3U);
 }
 

@@ -119,7 +119,7 @@ TEST_F(StyleEditorTest, colour_isWrittenToTheNewestAndSelectsIt) {
 }
 
 TEST_F(StyleEditorTest, brokenStore_letsTheFlowEndAsIfItHadWritten) {
-  defaults.broken = true;
+  defaults.broken = {Suite::group};
   auto editor = setup(create);
   editor.appear();
   editor.save();
@@ -128,7 +128,7 @@ TEST_F(StyleEditorTest, brokenStore_letsTheFlowEndAsIfItHadWritten) {
   second->save();
   EXPECT_EQ(surroundings.felt, (std::vector<std::string>{"light impact", "success"}));
   EXPECT_EQ(number("textSelectedConfig"), std::nullopt);
-  defaults.broken = false;
+  defaults.broken = {};
   EXPECT_EQ(stored().size(), 2U) << "nothing else is lost";
 }
 

@@ -49,7 +49,7 @@ TEST_F(FontPickerTest, withoutAChoice_nothingHappens) {
 }
 
 TEST_F(FontPickerTest, brokenStore_stillReloads) {
-  defaults.broken = true;
+  defaults.broken = {Suite::group};
   pick<FontPicker>(inter);
   EXPECT_EQ(console.reloads, 1);
   EXPECT_EQ(dismissals, 1);

@@ -75,7 +75,7 @@ TEST_F(GroupStoreTest, whatCannotBeRead_isToldFromWhatIsNotThere) {
   group()["savedTextWidgetData"] = *encodeRecords(std::vector<textWidgetData>(mostRecords + 1));
   EXPECT_FALSE(store.readRecords(families::text));
   EXPECT_TRUE(store.loadRecords(families::text).empty());
-  defaults.broken = true;
+  defaults.broken = {Suite::group};
   EXPECT_FALSE(store.read(keys::amountOfConfigs));
   EXPECT_FALSE(store.readRecords(families::image));
   EXPECT_FALSE(store.check(Suite::group));
@@ -93,13 +93,13 @@ TEST_F(GroupStoreTest, unencodableRecord_isReportedAndNothingElseHappens) {
 
 TEST_F(GroupStoreTest, storeThatCannotBeOpened_readsAsAbsentAndStillReloads) {
   store.set(keys::selectedConfig, std::int64_t{2});
-  defaults.broken = true;
+  defaults.broken = {Suite::group};
   EXPECT_EQ(store.value(keys::selectedConfig), std::nullopt);
   store.set(keys::selectedConfig, std::int64_t{3});
   store.saveRecords(families::clock, {clockWidgetData{}});
   EXPECT_EQ(console.reloads, 1);
   EXPECT_TRUE(store.loadRecords(families::clock).empty());
-  defaults.broken = false;
+  defaults.broken = {};
   EXPECT_EQ(store.value(keys::selectedConfig), 2);
   EXPECT_FALSE(group().contains("savedClockWidgetData"));
 }

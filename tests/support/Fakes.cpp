@@ -5,8 +5,8 @@
 
 namespace vitrelle::test {
 
-Status FakeDefaults::refuse() const {
-  return Failure{"group store", "can't be opened"};
+Status FakeDefaults::refuse(Suite suite) const {
+  return Failure{suite == Suite::group ? "group store" : "standard store", "can't be opened"};
 }
 
 void FakeDefaults::changed(Suite suite, const std::string& key) {
@@ -16,29 +16,29 @@ void FakeDefaults::changed(Suite suite, const std::string& key) {
 void FakeDefaults::use(Platform& platform) {
   const auto current = [this](Suite suite, const std::string& key) -> std::optional<StoreValue> {
     const auto found = values_[suite].find(key);
-    if (found == values_[suite].end() || broken) return std::nullopt;
+    if (found == values_[suite].end() || broken.contains(suite)) return std::nullopt;
     return found->second;
   };
   platform.defaults = {
       .value = [this, current](Suite suite,
                                const std::string& key) -> Result<std::optional<StoreValue>> {
-        if (broken) return refuse().failure();
+        if (broken.contains(suite)) return refuse(suite).failure();
         return current(suite, key);
       },
       .set = [this](Suite suite, const std::string& key, const StoreValue& value) -> Status {
-        if (broken) return refuse();
+        if (broken.contains(suite)) return refuse(suite);
         values_[suite].insert_or_assign(key, value);
         changed(suite, key);
         return success();
       },
       .remove = [this](Suite suite, const std::string& key) -> Status {
-        if (broken) return refuse();
+        if (broken.contains(suite)) return refuse(suite);
         values_[suite].erase(key);
         changed(suite, key);
         return success();
       },
       .keys = [this](Suite suite) -> Result<std::vector<std::string>> {
-        if (broken) return refuse().failure();
+        if (broken.contains(suite)) return refuse(suite).failure();
         std::vector<std::string> keys;
         for (const auto& entry : values_[suite])
           keys.push_back(entry.first);

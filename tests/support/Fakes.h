@@ -14,16 +14,16 @@
 
 namespace vitrelle::test {
 
-/// Both suites. While `broken` is set, no suite can be opened.
+/// Both suites. Those in `broken` can't be opened.
 class FakeDefaults final {
  public:
   void use(Platform& platform);
 
   std::map<std::string, StoreValue>& values(Suite suite) { return values_[suite]; }
-  bool broken = false;
+  std::set<Suite> broken;
 
  private:
-  Status refuse() const;
+  Status refuse(Suite suite) const;
   void changed(Suite suite, const std::string& key);
 
   std::map<Suite, std::map<std::string, StoreValue>> values_;

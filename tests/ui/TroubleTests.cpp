@@ -5,28 +5,46 @@
 namespace vitrelle {
 namespace {
 
-using TroubleTest = test::AppTest;
+class TroubleTest : public test::AppTest {
+ protected:
+  Platform telling =
+      ui::withTroubleTold(platform, [this](ui::Trouble trouble, const Failure& failure) {
+        told.emplace_back(trouble, failure.what);
+      });
+  std::vector<std::pair<ui::Trouble, std::string>> told;
+};
 
 TEST_F(TroubleTest, failedWrites_areToldOnceUntilOneSucceeds) {
-  std::vector<Failure> told;
-  const Platform telling =
-      ui::withTroubleTold(platform, [&](const Failure& failure) { told.push_back(failure); });
-  const auto write = [&] { (void)telling.defaults.set(Suite::group, "a", std::int64_t{1}); };
+  const PngFile file{"/group/0original.png", screenshot};
+  const auto write = [&] { (void)telling.images.writePngFiles({&file, 1}); };
   write();
   EXPECT_TRUE(told.empty());
-  defaults.broken = true;
-  write();
-  write();
-  EXPECT_EQ(told.size(), 1U);
   folder.refused = {"0original.png"};
-  const PngFile file{"/group/0original.png", screenshot};
-  EXPECT_FALSE(telling.images.writePngFiles({&file, 1})[0]);
-  EXPECT_EQ(told.size(), 1U);
-  defaults.broken = false;
   write();
-  EXPECT_FALSE(telling.images.writePngFiles({&file, 1})[0]);
+  write();
+  EXPECT_EQ(told, (decltype(told){{ui::Trouble::writing, "/group/0original.png"}}));
+  folder.refused = {};
+  write();
+  folder.refused = {"0original.png"};
+  write();
   EXPECT_EQ(told.size(), 2U);
-  EXPECT_EQ(told.back().what, "/group/0original.png");
+}
+
+TEST_F(TroubleTest, suiteThatCannotBeRead_isToldOnceThoughTheOtherCan) {
+  defaults.broken = {Suite::standard};
+  for (int i = 0; i < 3; ++i) {
+    (void)telling.defaults.value(Suite::standard, "a");
+    (void)telling.defaults.keys(Suite::standard);
+    (void)telling.defaults.value(Suite::group, "a");
+    (void)telling.defaults.set(Suite::standard, "a", true);
+    (void)telling.defaults.set(Suite::group, "a", true);
+  }
+  EXPECT_EQ(told, (decltype(told){{ui::Trouble::reading, "standard store"}}));
+  defaults.broken = {};
+  (void)telling.defaults.value(Suite::standard, "a");
+  defaults.broken = {Suite::standard};
+  (void)telling.defaults.value(Suite::standard, "a");
+  EXPECT_EQ(told.size(), 2U);
 }
 
 } // namespace
