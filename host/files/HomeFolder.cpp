@@ -48,8 +48,8 @@ Files HomeFolder::files() const {
       .lock = [home = *this](double patienceSeconds) { return lockHome(home, patienceSeconds); }};
 }
 
-Status makeFolder(const std::string& path) {
-  if (mkdir(path.c_str(), 0700) == 0) return success();
+Status makeFolder(const std::string& path, mode_t mode) {
+  if (mkdir(path.c_str(), mode) == 0) return success();
   const int error = errno;
   struct stat status {};
   if (error == EEXIST && stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) {
@@ -57,9 +57,9 @@ Status makeFolder(const std::string& path) {
   }
   const std::size_t slash = path.find_last_of('/');
   if (error == ENOENT && slash != std::string::npos && slash > 0) {
-    Status parent = makeFolder(path.substr(0, slash));
+    Status parent = makeFolder(path.substr(0, slash), mode);
     if (!parent) return parent;
-    if (mkdir(path.c_str(), 0700) == 0 || errno == EEXIST) return success();
+    if (mkdir(path.c_str(), mode) == 0 || errno == EEXIST) return success();
   }
   return Failure{path, std::strerror(error)};
 }

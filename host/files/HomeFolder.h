@@ -6,6 +6,8 @@
 
 #include <string>
 
+#include <sys/types.h>
+
 namespace vitrelle::host {
 
 /// Its parts are made when first written to, for the user alone.
@@ -34,7 +36,8 @@ class HomeFolder final {
   std::string path_;
 };
 
-/// Makes the folder and those above it, readable by the user alone; existing ones stay as they are.
-Status makeFolder(const std::string& path);
+/// Makes the folder and those above it, by default for the user alone; existing ones stay as they
+/// are.
+Status makeFolder(const std::string& path, mode_t mode = 0700);
 
 } // namespace vitrelle::host

@@ -1,5 +1,7 @@
 #include "host/files/PendingFile.h"
 
+#include "host/files/Destination.h"
+
 #include <atomic>
 #include <cerrno>
 #include <cstring>
@@ -20,12 +22,6 @@ std::string uniqueName() {
   return std::to_string(getpid()) + "-" + std::to_string(next++);
 }
 
-/// Where a name of our own is put before it; see the class.
-std::string waitingPrefix(const HomeFolder& home, const std::string& place) {
-  if (place.starts_with(home.path() + "/")) return home.pendingFolder() + "/";
-  return folderOf(place) + "/.vitrelle-";
-}
-
 /// Locks a file that has just been made; false when someone who clears up was faster.
 bool lockNew(const Descriptor& file) {
   if (flock(file.get(), LOCK_EX | LOCK_NB) != 0) return errno != EWOULDBLOCK;
@@ -33,12 +29,12 @@ bool lockNew(const Descriptor& file) {
   return fstat(file.get(), &status) == 0 && status.st_nlink != 0;
 }
 
-/// Opens and locks a new file, in a folder that is made when it is not there. Gives none, and
-/// `errno`.
-Descriptor openNew(const std::string& prefix, std::string& path) {
+/// Opens and locks a new file for what waits, in a folder that is made when it is not there. Gives
+/// none, and `errno`.
+Descriptor openNew(const Destination& destination, std::string& path) {
   for (int attempt = 0; attempt < 100; ++attempt) {
-    path = prefix + uniqueName();
-    Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    path = destination.waitingPrefix + uniqueName();
+    Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, destination.mode));
     if (file && lockNew(file)) return file;
     if (file) { // its name goes, or is gone
       errno = EAGAIN;
@@ -46,9 +42,18 @@ Descriptor openNew(const std::string& prefix, std::string& path) {
     }
     // Another process with our number may have left a file of that name.
     if (errno == EEXIST) continue;
-    if (errno != ENOENT || !makeFolder(folderOf(prefix))) break;
+    if (errno != ENOENT ||
+        !makeFolder(folderOf(destination.waitingPrefix), destination.folderMode)) {
+      break;
+    }
   }
   return {};
+}
+
+/// Gives the file that takes the place of an old one its owner, where we may, and its permissions.
+bool takeAfter(const Destination::Owner& old, const Descriptor& file) {
+  if (fchown(file.get(), old.user, old.group) != 0 && errno != EPERM) return false;
+  return fchmod(file.get(), old.mode) == 0;
 }
 
 bool writeAll(int file, std::span<const std::uint8_t> bytes) {
@@ -65,11 +70,20 @@ bool writeAll(int file, std::span<const std::uint8_t> bytes) {
 
 Result<PendingFile> PendingFile::write(const HomeFolder& home, const std::string& place,
                                        std::span<const std::uint8_t> bytes) {
+  Result<Destination> found = destinationOf(home, place);
+  if (!found) return found.failure();
+  Destination destination = *std::move(found);
+  if (destination.stream) {
+    if (!writeAll(destination.stream.get(), bytes)) return Failure{place, std::strerror(errno)};
+    return PendingFile(std::move(destination.stream), "", place);
+  }
   std::string path;
-  Descriptor file = openNew(waitingPrefix(home, place), path);
+  Descriptor file = openNew(destination, path);
   if (!file) return Failure{place, std::strerror(errno)};
-  PendingFile pending(std::move(file), path, place);
-  if (!writeAll(pending.file_.get(), bytes) || fdatasync(pending.file_.get()) != 0) {
+  PendingFile pending(std::move(file), path, destination.path);
+  const int descriptor = pending.file_.get();
+  if ((destination.old && !takeAfter(*destination.old, pending.file_)) ||
+      !writeAll(descriptor, bytes) || fdatasync(descriptor) != 0) {
     return Failure{place, std::strerror(errno)};
   }
   return pending;
@@ -99,6 +113,7 @@ void PendingFile::discard() {
 }
 
 Status PendingFile::moveIntoPlace() {
+  if (path_.empty()) return success();
   int result = rename(path_.c_str(), place_.c_str());
   if (result != 0 && errno == ENOENT) {
     Status folder = makeFolder(folderOf(place_));

@@ -14,8 +14,9 @@ namespace vitrelle::host {
 
 /// A file that is written, and durable, under a name of its own until it is put into place: in the
 /// pending folder, or, where the place lies outside of the home, which may be on another file
-/// system, hidden beside it. Removed when it is not put into place. Until then it is locked, by
-/// which others tell it from one that a killed process left.
+/// system, hidden beside it; what goes to a pipe or a device is there at once. Removed when it is
+/// not put into place. Until then it is locked, by which others tell it from one that a killed
+/// process left.
 class [[nodiscard]] PendingFile final {
  public:
   static Result<PendingFile> write(const HomeFolder& home, const std::string& place,

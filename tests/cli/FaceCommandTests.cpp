@@ -60,6 +60,15 @@ TEST_F(FaceCommandTest, record_isDrawnOverItsSlice) {
             0);
 }
 
+TEST_F(FaceCommandTest, standardOutput_takesThePicture) {
+  for (const char* name : {"/proc/self/fd/1"}) {
+    const test::Outcome outcome = run({"face", "text", "--text", "x", name});
+    EXPECT_EQ(outcome.status, 0) << outcome.complaints;
+    EXPECT_TRUE(outcome.output.starts_with("\x89PNG")) << name;
+    EXPECT_TRUE(outcome.output.ends_with("IEND\xae\x42\x60\x82")) << name;
+  }
+}
+
 TEST_F(FaceCommandTest, wrongUsage_isTold) {
   using Arguments = std::vector<std::string>;
   for (const Arguments& arguments : {Arguments{"face"},

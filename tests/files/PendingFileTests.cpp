@@ -1,45 +1,26 @@
+#include "tests/files/FilesTest.h"
+
 #include "host/files/PendingFile.h"
 
-#include "core/platform/Data.h"
-
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <thread>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 namespace vitrelle::host {
 namespace {
 
 namespace fs = std::filesystem;
 
-class PendingFileTest : public testing::Test {
+class PendingFileTest : public FilesTest {
  protected:
-  ~PendingFileTest() override { fs::remove_all(folder); }
-
-  static fs::path makeTemporary() {
-    // In memory where that can be: a race that a disk slows down is never lost.
-    const fs::path root = access("/dev/shm", W_OK) == 0 ? "/dev/shm" : fs::temp_directory_path();
-    std::string pattern = (root / "files-XXXXXX").string();
-    return mkdtemp(pattern.data());
-  }
-  std::string inGroup(const std::string& name) const { return home.groupFolder() + "/" + name; }
   std::size_t waiting() const {
     std::size_t count = 0;
     for (const auto& entry : fs::directory_iterator(home.pendingFolder()))
       count += entry.is_regular_file() ? 1 : 0;
     return count;
   }
-
-  const fs::path folder = makeTemporary();
-  const HomeFolder home{(folder / "home").string()};
-  const Data bytes = Data(3000, 7);
 };
 
 TEST_F(PendingFileTest, clearingUp_sparesTheLivingWhateverTheClockSays) {
