@@ -1,5 +1,6 @@
 #include "cli/OneLine.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -42,10 +43,9 @@ constexpr Range steering[] = {
 };
 
 bool steers(char32_t value) {
-  for (const Range& range : steering) {
-    if (value >= range.first && value <= range.last) return true;
-  }
-  return false;
+  return std::ranges::any_of(steering, [value](const Range& range) {
+    return value >= range.first && value <= range.last;
+  });
 }
 
 std::string escape(char32_t value) {
