@@ -9,8 +9,8 @@
 
 namespace vitrelle::host {
 
-/// As `Images::writePngFiles` tells. Threads take the biggest pictures first; the files appear in
-/// the order given.
+/// As `Images::writePngFiles` tells. Threads take the biggest pictures first, or, where the
+/// disk may not hold all of them, one thread the smallest; the files appear in the order given.
 std::vector<Result<std::size_t>> writePngFiles(const HomeFolder& home,
                                                std::span<const PngFile> files);
 
