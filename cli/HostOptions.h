@@ -1,4 +1,4 @@
-// How the options of the command line choose a host.
+// How the options of the command line choose a host, and make the platform on it.
 #pragma once
 
 #include "cli/Options.h"
@@ -12,6 +12,13 @@ inline host::HostOptions hostOptions(const Options& options) {
       .phone = {.identifier = options.phoneIdentifier, .os = options.os, .zoomed = options.zoomed},
       .dark = options.appearance == Appearance::dark,
       .verbose = options.verbose};
+}
+
+/// Fails where something stands in the home that does not belong there.
+inline Result<Platform> hostPlatform(const Options& options, const host::EventLoop& loop) {
+  const host::HostOptions chosen = hostOptions(options);
+  if (const Status sound = chosen.home.check(); !sound) return sound.failure();
+  return host::makePlatform(chosen, loop);
 }
 
 } // namespace vitrelle::cli

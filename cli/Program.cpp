@@ -39,7 +39,12 @@ int run(int argc, char** argv, const Program& program) {
                          .platform = [&]() -> const Platform& {
                            if (!platform) {
                              readEnvironment(options);
-                             platform = program.makePlatform(options);
+                             Result<Platform> made = program.makePlatform(options);
+                             if (!made) {
+                               complain(made.failure());
+                               throw CLI::RuntimeError(static_cast<int>(Exit::failed));
+                             }
+                             platform = *std::move(made);
                              showInLines(platform->debugConsole);
                            }
                            return *platform;
@@ -56,6 +61,8 @@ int run(int argc, char** argv, const Program& program) {
 
   try {
     parser.parse(argc, argv);
+  } catch (const CLI::RuntimeError& error) { // the command could not begin
+    return error.get_exit_code();
   } catch (const CLI::ParseError& error) {
     return complainOfUsage(parser, error);
   }

@@ -11,7 +11,7 @@ namespace vitrelle::cli {
 
 struct Program {
   std::vector<void (*)(CLI::App&, CommandContext&)> commands;
-  std::function<Platform(const Options&)> makePlatform;
+  std::function<Result<Platform>(const Options&)> makePlatform;
   std::function<void()> runLoop;
   std::function<void()> handOver; ///< see `CommandContext`
 };

@@ -11,13 +11,13 @@ int main(int argc, char** argv) {
   const host::DrawingProcess drawing;
   return cli::runProgram(argc, argv,
                          {.commands = {cli::addFaceCommand},
-                          .makePlatform =
-                              [&](const cli::Options& options) {
-                                Platform platform = host::makePlatform(cli::hostOptions(options),
-                                                                       loop.operations());
-                                drawing.use(platform);
-                                return platform;
-                              },
+                          .makePlatform = [&](const cli::Options& options) -> Result<Platform> {
+                            Result<Platform> made = cli::hostPlatform(options, loop.operations());
+                            if (!made) return made;
+                            Platform platform = *std::move(made);
+                            drawing.use(platform);
+                            return platform;
+                          },
                           .runLoop = [&] { loop.run(); },
                           .handOver = {}});
 }

@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
                     cli::addOpenCommand},
        .makePlatform =
            [&](const cli::Options& options) {
-             return host::makePlatform(cli::hostOptions(options), loop.operations());
+             return cli::hostPlatform(options, loop.operations());
            },
        .runLoop = [&] { loop.run(); },
        .handOver = [argv] { becomeDrawingProgram(argv); }});

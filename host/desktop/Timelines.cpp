@@ -17,10 +17,9 @@ namespace vitrelle::host {
 namespace {
 
 void touch(const HomeFolder& home) {
-  int file = open(home.timelinesFile().c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-  if (file < 0 && makeFolder(home.path())) {
-    file = open(home.timelinesFile().c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-  }
+  constexpr int flags = O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC;
+  int file = open(home.timelinesFile().c_str(), flags, 0600);
+  if (file < 0 && makeFolder(home.path())) file = open(home.timelinesFile().c_str(), flags, 0600);
   if (file < 0) return;
   futimens(file, nullptr);
   close(file);

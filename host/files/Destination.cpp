@@ -18,7 +18,7 @@ namespace {
 Result<Destination> inHome(const HomeFolder& home, const std::string& place) {
   struct stat status {};
   if (lstat(place.c_str(), &status) == 0 && !S_ISREG(status.st_mode) && !S_ISLNK(status.st_mode)) {
-    return Failure{place, "not a file"};
+    return Failure{place, "it is no regular file"};
   }
   Destination destination;
   destination.path = place;
@@ -67,7 +67,7 @@ Result<Destination> elsewhere(const std::string& place) {
   struct stat status {};
   if (!old || fstat(old.get(), &status) != 0) return Failure{place, std::strerror(errno)};
   if (S_ISCHR(status.st_mode) || S_ISFIFO(status.st_mode)) return streamTo(place, std::move(old));
-  if (!S_ISREG(status.st_mode)) return Failure{place, "not a file"};
+  if (!S_ISREG(status.st_mode)) return Failure{place, "it is no regular file"};
 
   // Replacing the file behind our own output would lose what else goes there.
   struct stat other {};

@@ -1,12 +1,14 @@
 #include "host/files/HomeFolder.h"
 
 #include "core/platform/Defaults.h"
+#include "host/files/Descriptor.h"
 #include "host/files/HomeLock.h"
 
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
 
+#include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -37,6 +39,26 @@ std::string HomeFolder::groupFolder() const {
   return path_ + "/" + groupIdentifier;
 }
 
+Status HomeFolder::check() const {
+  struct Part {
+    std::string path;
+    bool isFolder;
+  };
+  for (const auto& [path, isFolder] :
+       {Part{path_, true}, Part{groupFolder(), true}, Part{pendingFolder(), true},
+        Part{timelinesFile(), false}, Part{phoneFile(), false}, Part{lockFile(), false},
+        Part{applicationLockFile(), false}}) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0) {
+      if (errno == ENOENT) continue;
+      return Failure{path, std::strerror(errno)};
+    }
+    if (isFolder && !S_ISDIR(status.st_mode)) return Failure{path, "it is no folder"};
+    if (!isFolder && !S_ISREG(status.st_mode)) return Failure{path, "it is no regular file"};
+  }
+  return success();
+}
+
 Files HomeFolder::files() const {
   return {
       .groupContainer = [folder = groupFolder()] { return std::optional(folder); },
@@ -46,6 +68,18 @@ Files HomeFolder::files() const {
             return stat(path.c_str(), &status) == 0;
           },
       .lock = [home = *this](double patienceSeconds) { return lockHome(home, patienceSeconds); }};
+}
+
+std::optional<std::string> readSmallFile(const std::string& path) {
+  constexpr std::size_t most = 4096;
+  const Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  struct stat status {};
+  if (!file || fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+  std::string text(most, '\0');
+  const ssize_t size = read(file.get(), text.data(), text.size());
+  if (size < 0) return std::nullopt;
+  text.resize(static_cast<std::size_t>(size));
+  return text;
 }
 
 Status makeFolder(const std::string& path, mode_t mode) {

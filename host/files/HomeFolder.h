@@ -4,6 +4,7 @@
 #include "core/platform/Files.h"
 #include "core/platform/Result.h"
 
+#include <optional>
 #include <string>
 
 #include <sys/types.h>
@@ -29,12 +30,22 @@ class HomeFolder final {
   std::string lockFile() const { return path_ + "/lock"; }
   /// The phone that is stood for.
   std::string phoneFile() const { return path_ + "/phone"; }
+  /// Locked by the application while it runs.
+  std::string applicationLockFile() const { return path_ + "/app.lock"; }
+
+  /// Fails where a pipe or a folder stands in the place of one of these files, or a file in the
+  /// place of a folder: programs are to say so before they wait on it or pass over it.
+  Status check() const;
 
   Files files() const;
 
  private:
   std::string path_;
 };
+
+/// What a file of a few lines holds; nothing when there is none, or no plain file, or when it can't
+/// be read. Never waits.
+std::optional<std::string> readSmallFile(const std::string& path);
 
 /// Makes the folder and those above it, by default for the user alone; existing ones stay as they
 /// are.

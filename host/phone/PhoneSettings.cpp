@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
+#include <sstream>
 #include <string_view>
 
 namespace vitrelle::host {
@@ -17,7 +17,7 @@ const PhoneChoice phoneOfToday{.identifier = "iPhone16,1", .os = {18, 0, 0}, .zo
 /// The saved choice: a line "key=value" for each field. What is missing or garbled is as today's.
 PhoneChoice savedChoice(const HomeFolder& home) {
   PhoneChoice choice = phoneOfToday;
-  std::ifstream file(home.phoneFile());
+  std::istringstream file(readSmallFile(home.phoneFile()).value_or(""));
   std::string line;
   while (std::getline(file, line)) {
     const std::size_t equals = line.find('=');

@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include <sys/personality.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 namespace vitrelle {
@@ -64,6 +65,46 @@ TEST_F(CommandTest, kernelOfAnotherName_findsThePhone) {
   const Outcome outcome = run({"cut", "--style", "0", "--light", screenshot});
   personality(static_cast<unsigned long>(before));
   EXPECT_EQ(outcome.status, 0) << outcome.complaints;
+}
+
+TEST_F(CommandTest, whatIsNoFileInTheHome_isSaidAndNotWaitedFor) {
+  const std::string screenshot = writePicture("a.png", test::positionImage(1179, 2556));
+  const auto expectRefused = [&](const std::string& name, const std::string& why) {
+    const Outcome outcome = run({"cut", "--style", "0", "--light", screenshot});
+    EXPECT_EQ(outcome.status, 1) << name;
+    EXPECT_EQ(outcome.complaints, "vitrelle: " + home() + name + ": " + why + "\n");
+    std::filesystem::remove_all(home() + name);
+  };
+  std::ofstream(home()) << "a file";
+  expectRefused("", "it is no folder");
+  std::filesystem::create_directory(home());
+  for (const char* name : {"/phone", "/timelines", "/lock", "/app.lock"}) {
+    ASSERT_EQ(mkfifo((home() + name).c_str(), 0600), 0);
+    expectRefused(name, "it is no regular file");
+    std::filesystem::create_directory(home() + name);
+    expectRefused(name, "it is no regular file");
+  }
+  for (const char* name : {"/tmp", "/group.quillmeresoftware.vitrelle"}) {
+    std::ofstream(home() + name) << "a file";
+    expectRefused(name, "it is no folder");
+  }
+  EXPECT_EQ(run({"cut", "--style", "0", "--light", screenshot}).status, 0);
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+  EXPECT_EQ(run({"palette", (folder / "pipe").string()}).status, 1);
+}
+
+TEST_F(CommandTest, longHome_takesPictures) {
+  const std::string screenshot = writePicture("a.png", test::positionImage(1179, 2556));
+  std::string deep = home();
+  for (int i = 0; i < 15; ++i)
+    deep += "/" + std::string(200, 'x');
+  const Outcome outcome = run({"--home", deep, "cut", "--style", "0", "--light", screenshot});
+  EXPECT_EQ(outcome.status, 0) << outcome.complaints;
+  EXPECT_EQ(run({"--home", deep, "phone", "iPhone 14"}).status, 0);
+  EXPECT_TRUE(run({"--home", deep, "phone"}).output.starts_with("iPhone 14 "));
+  const Outcome tooLong = run({"--home", deep + deep, "phone", "iPhone 14"});
+  EXPECT_EQ(tooLong.status, 1);
+  EXPECT_TRUE(tooLong.complaints.ends_with(": File name too long\n")) << tooLong.complaints;
 }
 
 TEST_F(CommandTest, options_goBeforeOrAfterTheCommand) {

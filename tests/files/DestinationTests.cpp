@@ -95,7 +95,7 @@ TEST_F(DestinationTest, whatIsNoFile_isRefusedOrWrittenToButNeverReplaced) {
   EXPECT_EQ(whyNot(outside("folder")), "Is a directory");
   EXPECT_EQ(whyNot(outside("pipe")), "nobody reads from it");
   EXPECT_NE(whyNot(outside("socket")), "");
-  EXPECT_EQ(whyNot(inGroup("0original.png")), "not a file");
+  EXPECT_EQ(whyNot(inGroup("0original.png")), "it is no regular file");
   EXPECT_EQ(whyNot(outside("terminal")), "it is a terminal");
   EXPECT_TRUE(fs::is_symlink(outside("terminal")));
   close(terminal);
