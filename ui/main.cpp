@@ -2,6 +2,7 @@
 
 #include "cli/HostOptions.h"
 #include "cli/Numbers.h"
+#include "cli/OneLine.h"
 #include "core/app/SceneDelegate.h"
 #include "core/slicing/WidgetLocation.h"
 #include "host/Host.h"
@@ -43,6 +44,15 @@ struct Arguments {
   std::vector<std::string> links;
 };
 
+/// A line on stderr, whatever the words hold.
+void complain(const std::string& words) {
+  std::fprintf(stderr, "vitrelle-app: %s\n", cli::oneLine(words).c_str());
+}
+
+void complain(const Failure& failure) {
+  complain(failure.what + ": " + failure.why);
+}
+
 void parse(int argc, char** argv, Arguments& arguments) {
   CLI::App program("Home-screen widgets that look like holes in the wallpaper.", "vitrelle-app");
   cli::addOptions(program, arguments.options);
@@ -58,7 +68,7 @@ void parse(int argc, char** argv, Arguments& arguments) {
     cli::readEnvironment(arguments.options);
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == 0) std::exit(program.exit(error));
-    std::fprintf(stderr, "vitrelle-app: %s (see 'vitrelle-app --help')\n", error.what());
+    complain(std::string(error.what()) + " (see 'vitrelle-app --help')");
     std::exit(2);
   }
   const QString screen = QString::fromStdString(arguments.screen);
@@ -68,8 +78,7 @@ void parse(int argc, char** argv, Arguments& arguments) {
     std::exit(0);
   }
   if (!screen.isEmpty() && !ui::Shell::screenNames().contains(screen)) {
-    std::fprintf(stderr, "vitrelle-app: there is no screen '%s'; '--screen list' prints them\n",
-                 arguments.screen.c_str());
+    complain("there is no screen '" + arguments.screen + "'; '--screen list' prints them");
     std::exit(2);
   }
 }
@@ -93,7 +102,7 @@ int takeScreenshot(ui::Shell& shell, const std::string& file) {
   }
   const QImage picture = shell.window()->grabWindow();
   if (picture.isNull() || !picture.save(QString::fromStdString(file), "PNG")) {
-    std::fprintf(stderr, "vitrelle-app: %s: it can't be written\n", file.c_str());
+    complain(Failure{file, "it can't be written"});
     return 1;
   }
   return 0;
@@ -105,8 +114,7 @@ int handOver(const host::HomeFolder& home, std::vector<std::string> links) {
   for (const std::string& link : links) {
     const Result<bool> sent = host::makeLinks(home).send(link);
     if (sent && *sent) continue;
-    std::fprintf(stderr, "vitrelle-app: %s: the application that runs did not take it\n",
-                 link.c_str());
+    complain(Failure{link, "the application that runs did not take it"});
     return 1;
   }
   return 0;
@@ -151,6 +159,9 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
     if (shell != nullptr && shell->window() != nullptr) shell->window()->hide();
   };
 
+  platform.debugConsole.print = [print = platform.debugConsole.print](const std::string& line) {
+    print(cli::oneLine(line));
+  };
   platform.device.userInterfaceStyle = appearanceOf(arguments);
   host::useDrawing(platform);
 
@@ -174,7 +185,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
   if (suspended) theShell.window()->hide();
   QObject::connect(theShell.window(), &QQuickWindow::sceneGraphError, qGuiApp,
                    [](QQuickWindow::SceneGraphError, const QString& message) {
-                     std::fprintf(stderr, "vitrelle-app: drawing: %s\n", qPrintable(message));
+                     complain(Failure{"drawing", message.toStdString()});
                      QCoreApplication::exit(1);
                    });
   if (instance != nullptr) {
@@ -190,6 +201,11 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
 int run(int argc, char** argv) {
   Arguments arguments;
   parse(argc, argv, arguments);
+  const host::HomeFolder home = cli::hostOptions(arguments.options).home;
+  if (const Status sound = home.check(); !sound) {
+    complain(sound.failure());
+    return 1;
+  }
   prepareQt(arguments);
   const QGuiApplication application(argc, argv);
   QGuiApplication::setApplicationName(QStringLiteral("Vitrelle"));
@@ -200,11 +216,9 @@ int run(int argc, char** argv) {
 
   const host::EventLoop loop = host::makeQtLoop();
   if (!arguments.screenshot.empty()) return runWindow(arguments, loop, nullptr);
-  const host::HomeFolder home = cli::hostOptions(arguments.options).home;
   const auto instance = host::AppInstance::claim(home, loop);
   if (!instance) { // such as a home that can't be written to; it can still be looked at
-    std::fprintf(stderr, "vitrelle-app: %s: %s\n", instance.failure().what.c_str(),
-                 instance.failure().why.c_str());
+    complain(instance.failure());
     return runWindow(arguments, loop, nullptr);
   }
   if (*instance == nullptr) return handOver(home, arguments.links);
@@ -217,7 +231,7 @@ int main(int argc, char** argv) {
   try {
     return run(argc, argv);
   } catch (const std::exception& error) { // such as a lack of memory
-    std::fprintf(stderr, "vitrelle-app: the program can't go on: %s\n", error.what());
+    complain(Failure{"the program can't go on", error.what()});
     return 1;
   }
 }
