@@ -1,10 +1,9 @@
 #include "cli/Command.h"
+#include "cli/OneLine.h"
 
 #include "core/store/GroupStore.h"
 #include "core/store/RecordCoding.h"
 #include "core/store/RecordFields.h"
-
-#include <nlohmann/json.hpp>
 
 #include <iostream>
 #include <memory>
@@ -27,7 +26,7 @@ std::string shown(bool flag) {
   return flag ? "true" : "false";
 }
 std::string shown(const std::string& text) {
-  return nlohmann::json(text).dump();
+  return quotedLine(text);
 }
 std::string shown(const Colour& colour) {
   return colour.hex(false).value_or("none");

@@ -17,6 +17,16 @@ namespace {
 using Json = nlohmann::json;
 using test::Outcome;
 
+std::string hexadecimal(std::string_view text) {
+  std::string hex;
+  for (const char character : text) {
+    const auto byte = static_cast<unsigned char>(character);
+    constexpr const char* digits = "0123456789abcdef";
+    hex += {digits[byte >> 4], digits[byte & 15]};
+  }
+  return hex;
+}
+
 class CommandTest : public test::ProgramTest {};
 
 TEST_F(CommandTest, phone_isToldByOptionThenEnvironmentThenSavedChoice) {
@@ -144,14 +154,9 @@ TEST_F(CommandTest, defaultsAndRecords_shareTheStore) {
   const std::string json =
       R"([{"id":0,"textConfigTag":0,"textWidgetText":"Hi","textWidgetFont":"","textWidgetSize":18,)"
       R"("textWidgetShadow":true,"textWidgetTextColour":"FFFFFF","textLinkedConfig":13}])";
-  std::string hex;
-  for (const char character : json) {
-    const auto byte = static_cast<unsigned char>(character);
-    constexpr const char* digits = "0123456789abcdef";
-    hex += {digits[byte >> 4], digits[byte & 15]};
-  }
   EXPECT_EQ(Json::parse(run({"records", "text", "--json"}).output), Json::array());
-  ASSERT_EQ(run({"defaults", "write", "savedTextWidgetData", "-data", hex}).status, 0);
+  ASSERT_EQ(run({"defaults", "write", "savedTextWidgetData", "-data", hexadecimal(json)}).status,
+            0);
   EXPECT_EQ(Json::parse(run({"records", "text", "--json"}).output), Json::parse(json));
   ASSERT_EQ(run({"defaults", "delete", "savedTextWidgetData"}).status, 0);
   EXPECT_EQ(Json::parse(run({"records", "text", "--json"}).output), Json::array());
@@ -165,6 +170,16 @@ TEST_F(CommandTest, foreignText_isShownInOneLineAndToldExactly) {
   EXPECT_EQ(run({"defaults", "read"}).output, "k\\ney\\u009b = \"v\\x1b[2J\\nw\\u202e\\\"\"\n");
   EXPECT_EQ(run({"defaults", "read", key}).output, value + "\n") << "scripts get it whole";
   EXPECT_EQ(Json::parse(run({"defaults", "read", "--json"}).output)[key]["value"], value);
+
+  constexpr const char* controls =
+      R"([{"id":0,"textConfigTag":0,"textWidgetText":"a)"
+      "\u009b"
+      R"(b","textWidgetFont":"","textWidgetSize":18,"textWidgetShadow":true,)"
+      R"("textWidgetTextColour":"FFFFFF","textLinkedConfig":13}])";
+  ASSERT_EQ(
+      run({"defaults", "write", "savedTextWidgetData", "-data", hexadecimal(controls)}).status, 0);
+  EXPECT_NE(run({"records", "text"}).output.find("textWidgetText = \"a\\u009bb\"\n"),
+            std::string::npos);
 
   EXPECT_EQ(run({"palette", "no\x1b[31m\n.png"}).complaints,
             "vitrelle: no\\x1b[31m\\n.png: No such file or directory\n");
