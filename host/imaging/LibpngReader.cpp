@@ -8,7 +8,6 @@
 #include <csetjmp>
 #include <cstdio>
 #include <cstring>
-#include <vector>
 
 #include <png.h>
 
@@ -20,8 +19,13 @@ namespace {
 struct Reading {
   PngChunks chunks;
   std::span<const std::uint8_t> next; ///< to be read before the chunks that follow
-  char complaint[128];
+  std::size_t allowance;              ///< bytes of chunks' data that may be read yet
+  char complaint[128] = "";
 };
+
+/// What is read of a row's data, or before the first row, beyond its samples. Behind the last row
+/// libpng inflates all that is left, which can be a thousand times what it reads.
+constexpr std::size_t allowanceBeyondRow = std::size_t{64} << 10;
 
 Reading& reading(png_structp png) {
   return *static_cast<Reading*>(png_get_error_ptr(png));
@@ -35,11 +39,15 @@ bool concernsPixels(const PngChunk& chunk) {
 
 void supply(png_structp png, png_bytep out, std::size_t size) {
   auto& from = *static_cast<Reading*>(png_get_io_ptr(png));
+  if (size > from.allowance) png_error(png, "more follows than the pixels");
+  from.allowance -= size;
   while (size > 0) {
     while (from.next.empty()) {
       const auto chunk = from.chunks.next();
       if (!chunk) png_error(png, "the file is incomplete");
-      if (concernsPixels(*chunk)) from.next = bytesOf(*chunk);
+      if (!concernsPixels(*chunk)) continue;
+      from.next = bytesOf(*chunk);
+      from.allowance += from.next.size() - chunk->data.size();
     }
     const std::size_t count = std::min(size, from.next.size());
     std::memcpy(out, from.next.data(), count);
@@ -56,31 +64,32 @@ void supply(png_structp png, png_bytep out, std::size_t size) {
 
 void ignore(png_structp, png_const_charp) {}
 
-/// Asks for 8-bit RGBA rows, whatever the file has.
-void askForRgba(png_structp png, png_infop info) {
+/// Asks for 8-bit RGBA rows, whatever the file has. Gives how often they are gone through.
+int askForRgba(png_structp png, png_infop info) {
   png_set_expand(png); // palette, few bits, transparent colour
   png_set_scale_16(png);
   png_set_gray_to_rgb(png);
   png_set_add_alpha(png, 255, PNG_FILLER_AFTER);
-  png_set_interlace_handling(png);
+  const int passes = png_set_interlace_handling(png);
   png_read_update_info(png, info);
+  return passes;
 }
 
-/// Where the rows go: made by the caller, outside of any jump.
-struct Rows {
-  PixelSize size;
-  png_bytepp pointers;
-  std::size_t bytesPerRow;
-};
-
-bool readRows(png_structp png, png_infop info, const Rows& rows) {
+/// Into memory of the caller, who owns it outside of any jump.
+bool readRows(png_structp png, png_infop info, PixelSize size, std::uint8_t* pixels) {
   if (setjmp(png_jmpbuf(png)) != 0) return false;
-  png_set_user_limits(png, static_cast<png_uint_32>(rows.size.width),
-                      static_cast<png_uint_32>(rows.size.height));
+  const std::size_t bytesPerRow = static_cast<std::size_t>(size.width) * 4;
+  png_set_user_limits(png, static_cast<png_uint_32>(size.width),
+                      static_cast<png_uint_32>(size.height));
   png_read_info(png, info);
-  askForRgba(png, info);
-  if (png_get_rowbytes(png, info) != rows.bytesPerRow) png_error(png, "the header is damaged");
-  png_read_image(png, rows.pointers);
+  const int passes = askForRgba(png, info);
+  if (png_get_rowbytes(png, info) != bytesPerRow) png_error(png, "the header is damaged");
+  for (int pass = 0; pass < passes; ++pass) {
+    for (std::int32_t y = 0; y < size.height; ++y) {
+      reading(png).allowance = 2 * bytesPerRow + allowanceBeyondRow; // samples may have 16 bits
+      png_read_row(png, pixels + static_cast<std::size_t>(y) * bytesPerRow, nullptr);
+    }
+  }
   return true;
 }
 
@@ -91,11 +100,8 @@ Result<Bitmap> decodeWithLibpng(std::span<const std::uint8_t> bytes, PixelSize s
   const auto height = static_cast<std::size_t>(size.height);
   const std::shared_ptr<std::uint8_t> pixels = allocatePixels(bytesPerRow * height);
   if (!pixels) return Failure{"PNG", "not enough memory"};
-  std::vector<png_bytep> rows(height);
-  for (std::size_t y = 0; y < height; ++y)
-    rows[y] = pixels.get() + y * bytesPerRow;
 
-  Reading from{.chunks = PngChunks(bytes), .next = png::signature, .complaint = ""};
+  Reading from{.chunks = PngChunks(bytes), .next = png::signature, .allowance = allowanceBeyondRow};
   png_structp png = png_create_read_struct(PNG_LIBPNG_VER_STRING, &from, fail, ignore);
   png_infop info = png == nullptr ? nullptr : png_create_info_struct(png);
   if (info == nullptr) {
@@ -103,7 +109,7 @@ Result<Bitmap> decodeWithLibpng(std::span<const std::uint8_t> bytes, PixelSize s
     return Failure{"PNG", "not enough memory"};
   }
   png_set_read_fn(png, &from, supply);
-  const bool read = readRows(png, info, {size, rows.data(), bytesPerRow});
+  const bool read = readRows(png, info, size, pixels.get());
   png_destroy_read_struct(&png, &info, nullptr);
   if (!read) return Failure{"PNG", std::string("the picture is damaged (") + from.complaint + ")"};
   return Bitmap{.size = size,
