@@ -1,6 +1,6 @@
-// Pictures from HEIC files, by libheif, which is loaded when the first one is read: it brings many
-// libraries along, and a command that reads none would pay for their loading at each start. It
-// works in a process of its own: hostile files crash it or make it take gigabytes.
+// Pictures from HEIC files, by libheif, in a program beside this one: hostile files crash that
+// library or make it take gigabytes, and it brings many others along, which a command that reads
+// none would pay for at each start.
 #pragma once
 
 #include "core/platform/Result.h"

@@ -15,7 +15,8 @@ constexpr std::size_t signatureAt = 36;
 } // namespace
 
 bool isIccProfile(std::span<const std::uint8_t> bytes) {
-  return bytes.size() >= headerBytes && readBigEndian32(bytes.data()) == bytes.size() &&
+  return bytes.size() >= headerBytes && bytes.size() <= largestIccProfile &&
+         readBigEndian32(bytes.data()) == bytes.size() &&
          std::memcmp(bytes.data() + signatureAt, "acsp", 4) == 0;
 }
 

@@ -1,18 +1,16 @@
 #include "host/imaging/IsolatedDecoder.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstdio>
 #include <cstring>
-#include <memory>
+#include <optional>
+#include <utility>
 
 #include <fcntl.h>
 #include <poll.h>
+#include <spawn.h>
 #include <sys/mman.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -20,167 +18,191 @@ namespace vitrelle::host {
 
 namespace {
 
-// Enough for the largest picture that is taken in.
-constexpr rlim_t mostMemoryBytes = rlim_t{1} << 30;
-constexpr rlim_t mostSecondsOfProcessor = 30;
-constexpr int mostMillisecondsToWait = 40'000;
-
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool memoryCanBeLimited = false;
-#elif defined(__has_feature)
-constexpr bool memoryCanBeLimited = !__has_feature(address_sanitizer);
-#else
-constexpr bool memoryCanBeLimited = true;
-#endif
-
-/// What the child leaves in the shared file, before the ICC profile and the rows of RGBA pixels.
-struct Message {
-  bool ok;
-  bool hasPixels;
-  bool hasCicp;
-  std::array<std::uint8_t, 4> cicp;
-  PixelSize size;
-  std::size_t iccBytes;
-  std::array<char, 200> why;
-};
-
-std::size_t pixelBytes(const Message& message) {
-  if (!message.hasPixels) return 0;
-  return static_cast<std::size_t>(message.size.width) * 4 *
-         static_cast<std::size_t>(message.size.height);
-}
-
-std::size_t totalBytes(const Message& message) {
-  return sizeof(Message) + message.iccBytes + pixelBytes(message);
-}
+using Clock = std::chrono::steady_clock;
 
 class Descriptor final {
  public:
-  explicit Descriptor(int number) : number_(number) {}
+  /// Takes the number of a standard stream, which is free in a program that was started without
+  /// it, to a higher one: the child's own streams go there.
+  explicit Descriptor(int number = -1) : number_(number) {
+    if (number < 0 || number > STDERR_FILENO) return;
+    number_ = fcntl(number, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    close(number);
+  }
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
   ~Descriptor() {
     if (number_ >= 0) close(number_);
   }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
   int get() const { return number_; }
 
  private:
   int number_;
 };
 
-/// A mapping of a file's bytes.
-std::shared_ptr<std::uint8_t> mapped(int file, std::size_t size, int protection) {
-  void* memory = mmap(nullptr, size, protection, MAP_SHARED, file, 0);
-  if (memory == MAP_FAILED) return nullptr;
-  return {static_cast<std::uint8_t*>(memory), [size](std::uint8_t* start) { munmap(start, size); }};
-}
+/// A process that is gone at the end, whatever it does.
+class Child final {
+ public:
+  explicit Child(pid_t id) : id_(id) {}
+  ~Child() { end(); }
+  Child(const Child&) = delete;
+  Child& operator=(const Child&) = delete;
 
-void limitResources() {
-  const auto limit = [](__rlimit_resource resource, rlim_t most) {
-    const rlimit value{.rlim_cur = most, .rlim_max = most};
-    setrlimit(resource, &value);
-  };
-  if (memoryCanBeLimited) limit(RLIMIT_AS, mostMemoryBytes);
-  limit(RLIMIT_CPU, mostSecondsOfProcessor);
-  limit(RLIMIT_CORE, 0);
-  // The libraries' own complaints.
-  const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
-  dup2(nowhere, STDOUT_FILENO);
-  dup2(nowhere, STDERR_FILENO);
-}
-
-Message describe(const Result<DecodedPicture>& picture) {
-  Message message{};
-  message.ok = picture.ok();
-  if (!picture) {
-    std::snprintf(message.why.data(), message.why.size(), "%s", picture.failure().why.c_str());
-    return message;
+  /// Kills it if it still runs. Gives its status as `waitpid` does.
+  int end() {
+    if (id_ < 0) return status_;
+    kill(id_, SIGKILL);
+    while (waitpid(id_, &status_, 0) < 0 && errno == EINTR) {
+    }
+    id_ = -1;
+    return status_;
   }
-  message.size = picture->bitmap.size;
-  message.hasPixels = picture->bitmap.pixels != nullptr;
-  message.iccBytes = picture->profile.icc.size();
-  message.hasCicp = picture->profile.cicp.has_value();
-  message.cicp = picture->profile.cicp.value_or(message.cicp);
-  return message;
-}
 
-bool send(int file, const Result<DecodedPicture>& picture) {
-  const Message message = describe(picture);
-  if (ftruncate(file, static_cast<off_t>(totalBytes(message))) != 0) return false;
-  const auto memory = mapped(file, totalBytes(message), PROT_READ | PROT_WRITE);
-  if (!memory) return false;
-  std::uint8_t* out = memory.get();
-  std::memcpy(out, &message, sizeof message);
-  out += sizeof message;
-  if (!message.ok) return true;
-  out = std::ranges::copy(picture->profile.icc, out).out;
-  const std::size_t bytesPerRow = static_cast<std::size_t>(message.size.width) * 4;
-  for (std::int32_t y = 0; message.hasPixels && y < message.size.height; ++y) {
-    std::memcpy(out, picture->bitmap.row(y), bytesPerRow);
-    out += bytesPerRow;
+ private:
+  pid_t id_;
+  int status_ = 0;
+};
+
+/// A file in memory that holds the bytes and that nobody can change any more.
+std::optional<Descriptor> sealedFile(std::span<const std::uint8_t> bytes) {
+  Descriptor file(memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING));
+  if (file.get() < 0) return std::nullopt;
+  for (std::size_t done = 0; done < bytes.size();) { // the child reads from where this leaves it
+    const ssize_t count =
+        pwrite(file.get(), bytes.data() + done, bytes.size() - done, static_cast<off_t>(done));
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return std::nullopt;
+    done += static_cast<std::size_t>(count);
   }
-  return true;
+  constexpr int everything = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE | F_SEAL_SEAL;
+  if (fcntl(file.get(), F_ADD_SEALS, everything) != 0) return std::nullopt;
+  return file;
 }
 
-DecodedPicture receivePicture(const Message& message, const std::shared_ptr<std::uint8_t>& memory) {
-  const std::uint8_t* icc = memory.get() + sizeof message;
-  DecodedPicture picture;
-  picture.profile.icc.assign(icc, icc + message.iccBytes);
-  if (message.hasCicp) picture.profile.cicp = message.cicp;
-  picture.bitmap = {.size = message.size,
-                    .bytesPerRow = static_cast<std::size_t>(message.size.width) * 4,
-                    .pixels = message.hasPixels ? icc + message.iccBytes : nullptr,
-                    .opaque = false,
-                    .owner = memory};
-  return picture;
+/// Both ends of a pipe, of which no other child inherits either.
+struct Pipe {
+  Descriptor reading;
+  Descriptor writing;
+};
+
+std::optional<Pipe> makePipe() {
+  int ends[2] = {-1, -1};
+  if (pipe2(ends, O_CLOEXEC) != 0) return std::nullopt;
+  Pipe pipe{Descriptor(ends[0]), Descriptor(ends[1])};
+  if (pipe.reading.get() < 0 || pipe.writing.get() < 0) return std::nullopt;
+  constexpr int roomBytes = 1 << 20; // fewer turns for a picture; not granted to everyone
+  fcntl(pipe.writing.get(), F_SETPIPE_SZ, roomBytes);
+  return pipe;
 }
 
-/// The child's exit closes its end of the pipe. True when it came to its end by itself and well.
-bool waitFor(pid_t child, int pipeEnd) {
-  pollfd ended{.fd = pipeEnd, .events = POLLIN, .revents = 0};
-  int ready = 0;
-  do {
-    ready = poll(&ended, 1, mostMillisecondsToWait);
-  } while (ready < 0 && errno == EINTR);
-  if (ready <= 0) kill(child, SIGKILL);
-  int status = 0;
-  while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+/// What the new process begins with: the three standard streams, the libraries' complaints going
+/// nowhere, and signals as in any new program.
+class SpawnSettings final {
+ public:
+  SpawnSettings(int input, int output) {
+    posix_spawn_file_actions_init(&actions_);
+    posix_spawn_file_actions_adddup2(&actions_, input, STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&actions_, output, STDOUT_FILENO);
+    posix_spawn_file_actions_addopen(&actions_, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1);
+    posix_spawnattr_init(&attributes_);
+    sigset_t signals;
+    sigemptyset(&signals);
+    posix_spawnattr_setsigmask(&attributes_, &signals);
+    sigfillset(&signals);
+    posix_spawnattr_setsigdefault(&attributes_, &signals);
+    posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
   }
-  return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
+  ~SpawnSettings() {
+    posix_spawnattr_destroy(&attributes_);
+    posix_spawn_file_actions_destroy(&actions_);
+  }
+  SpawnSettings(const SpawnSettings&) = delete;
+  SpawnSettings& operator=(const SpawnSettings&) = delete;
+
+  /// The error, or 0.
+  int spawn(const IsolatedDecoder& decoder, Wanted wanted, pid_t& id) const {
+    std::string program = decoder.program;
+    std::string argument = wanted == Wanted::size ? "size" : "picture";
+    char* const arguments[] = {program.data(), argument.data(), nullptr};
+    return posix_spawn(&id, program.c_str(), &actions_, &attributes_, arguments, environ);
+  }
+
+ private:
+  posix_spawn_file_actions_t actions_;
+  posix_spawnattr_t attributes_;
+};
+
+/// What comes out of a pipe until its end, or until it is too late.
+class TimedReader final {
+ public:
+  TimedReader(int pipe, Clock::time_point deadline) : pipe_(pipe), deadline_(deadline) {}
+
+  std::size_t read(std::span<std::uint8_t> out) {
+    std::size_t done = 0;
+    while (done < out.size() && waitForMore()) {
+      const ssize_t count = ::read(pipe_, out.data() + done, out.size() - done);
+      if (count < 0 && errno == EINTR) continue;
+      if (count <= 0) break;
+      done += static_cast<std::size_t>(count);
+    }
+    return done;
+  }
+  /// Whether more was waited for until the deadline.
+  bool isTooLate() const { return isTooLate_; }
+
+ private:
+  bool waitForMore() {
+    while (true) {
+      const auto left =
+          std::chrono::ceil<std::chrono::milliseconds>(deadline_ - Clock::now()).count();
+      isTooLate_ = left <= 0;
+      if (isTooLate_) return false;
+      pollfd pipe{.fd = pipe_, .events = POLLIN, .revents = 0};
+      const int ready = poll(&pipe, 1, static_cast<int>(std::min<std::int64_t>(left, 60'000)));
+      if (ready > 0) return true;
+      if (ready < 0 && errno != EINTR) return false;
+    }
+  }
+
+  int pipe_;
+  Clock::time_point deadline_;
+  bool isTooLate_ = false;
+};
 
 } // namespace
 
-Result<DecodedPicture> decodeIsolated(const std::string& format,
-                                      const std::function<Result<DecodedPicture>()>& decode) {
-  const Descriptor file(memfd_create("picture", MFD_CLOEXEC));
-  int ends[2] = {-1, -1};
-  if (file.get() < 0 || pipe2(ends, O_CLOEXEC) != 0) return Failure{format, std::strerror(errno)};
-  const Descriptor readEnd(ends[0]);
-  pid_t child = -1;
-  {
-    const Descriptor writeEnd(ends[1]);
-    child = fork();
-    if (child < 0) return Failure{format, std::strerror(errno)};
-    if (child == 0) {
-      limitResources();
-      _exit(send(file.get(), decode()) ? 0 : 1);
-    }
-  }
-  const Failure broken{format, "the picture is damaged or needs too much memory"};
-  if (!waitFor(child, readEnd.get())) return broken;
+Result<DecodedPicture> decodeIsolated(const IsolatedDecoder& decoder, Wanted wanted,
+                                      std::span<const std::uint8_t> bytes) {
+  const Clock::time_point deadline = Clock::now() + decoder.patience;
+  const std::optional<Descriptor> input = sealedFile(bytes);
+  if (!input) return Failure{decoder.format, std::strerror(errno)};
+  std::optional<Pipe> pipe = makePipe();
+  if (!pipe) return Failure{decoder.format, std::strerror(errno)};
 
-  struct stat status {};
-  Message message{};
-  if (fstat(file.get(), &status) != 0 ||
-      pread(file.get(), &message, sizeof message, 0) != static_cast<ssize_t>(sizeof message) ||
-      static_cast<std::size_t>(status.st_size) != totalBytes(message)) {
-    return broken;
+  pid_t id = -1;
+  const int error = SpawnSettings(input->get(), pipe->writing.get()).spawn(decoder, wanted, id);
+  const auto notStarted = [&](const char* why) {
+    return Failure{decoder.format, decoder.program + " can't be started (" + why + ")"};
+  };
+  if (error != 0) return notStarted(std::strerror(error));
+  Child child(id);
+  pipe->writing = Descriptor(); // the child's copy is then the last, and its end that of the pipe
+
+  TimedReader reader(pipe->reading.get(), deadline);
+  auto answer = readAnswer(wanted, decoder.format,
+                           [&](std::span<std::uint8_t> out) { return reader.read(out); });
+  if (reader.isTooLate()) return Failure{decoder.format, "decoding the picture takes too long"};
+  if (answer) return *std::move(answer);
+  constexpr int libraryMissing = 127; // by the system's loader of programs
+  const int status = child.end();
+  if (WIFEXITED(status) && WEXITSTATUS(status) == libraryMissing) {
+    return notStarted("a library is missing");
   }
-  if (!message.ok) return Failure{format, message.why.data()};
-  const auto memory = mapped(file.get(), totalBytes(message), PROT_READ);
-  if (!memory) return Failure{format, "not enough memory"};
-  return receivePicture(message, memory);
+  return Failure{decoder.format, "the picture is damaged or needs too much memory"};
 }
 
 } // namespace vitrelle::host

@@ -17,7 +17,6 @@ namespace {
 /// The profile behind the name of an iCCP chunk; empty when it is not sound.
 Data readIccChunk(std::span<const std::uint8_t> data) {
   constexpr std::size_t longestName = 79;
-  constexpr std::size_t largestProfile = std::size_t{4} << 20;
   const auto searched = data.first(std::min(data.size(), longestName + 1));
   const auto nameEnd = std::ranges::find(searched, 0);
   const auto compressedAt = static_cast<std::size_t>(nameEnd - searched.begin()) + 2;
@@ -33,7 +32,7 @@ Data readIccChunk(std::span<const std::uint8_t> data) {
     libdeflate_free_decompressor(decompressor);
     return result;
   };
-  for (std::size_t room = std::size_t{16} << 10; room <= largestProfile; room *= 16) {
+  for (std::size_t room = std::size_t{16} << 10; room <= largestIccProfile; room *= 16) {
     Data profile(room);
     std::size_t size = 0;
     const libdeflate_result result = inflate(profile, size);

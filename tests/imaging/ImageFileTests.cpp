@@ -150,6 +150,23 @@ TEST_F(HeicFileTest, oddSidesAndRotation_leaveThePictureAsItIsStored) {
   }
 }
 
+TEST_F(HeicFileTest, severalAtOnce_areDecodedAsOneByOne) {
+  std::vector<Image> images;
+  std::vector<Data> want;
+  for (const std::uint32_t side : {40U, 64U, 90U}) {
+    const Data bytes =
+        heic(write("a.png", test::writeWithLibpng(side, side, {8, PNG_COLOR_TYPE_RGB})));
+    const std::string path = write(std::to_string(side) + ".heic", bytes);
+    for (int copy = 0; copy < 2; ++copy)
+      images.push_back(loadImageFile(path).value());
+    want.push_back(test::packedPixels(images.back().bitmap().value()));
+  }
+  ASSERT_TRUE(makeImages(HomeFolder((folder / "home").string())).decode(images));
+  for (std::size_t i = 0; i < images.size(); ++i) {
+    EXPECT_EQ(test::packedPixels(images[i].bitmap().value()), want[i / 2]) << i;
+  }
+}
+
 TEST_F(HeicFileTest, damage_isRefusedOrDecodedButNeverFatal) {
   const Data bytes = heic(write("a.png", test::writeWithLibpng(64, 48, {8, PNG_COLOR_TYPE_RGB})));
   for (std::size_t length = 12; length < bytes.size(); length += bytes.size() / 12) {
