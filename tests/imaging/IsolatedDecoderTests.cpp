@@ -75,8 +75,7 @@ TEST(DecoderAnswer, wordsOfAFailure_areBoundedAndFitForATerminal) {
 TEST(DecoderAnswer, everyOtherLength_isNoAnswer) {
   Data answer = answerOf(somePicture());
   for (std::size_t length = 0; length < answer.size(); ++length) {
-    EXPECT_FALSE(
-        readAnswer(Wanted::picture, "HEIC", sourceOf(std::span(answer).first(length))))
+    EXPECT_FALSE(readAnswer(Wanted::picture, "HEIC", sourceOf(std::span(answer).first(length))))
         << length;
   }
   answer.push_back(0);
