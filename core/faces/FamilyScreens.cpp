@@ -19,7 +19,8 @@ class ScreensOf final : public FamilyScreens {
   bool hasEditor() const override { return !family_.setupRows.empty(); }
   std::unique_ptr<StyleEntry> entry(const Platform& platform) const override {
     return std::make_unique<StyleEntry>(
-        platform, words(), std::make_unique<FamilyRecords<Record>>(platform, family_.store));
+        platform, words(), std::make_unique<FamilyRecords<Record>>(platform, family_.store),
+        hasEditor());
   }
   std::unique_ptr<StyleFirstStep> setup(const Platform& platform,
                                         const EditorTask& task) const override {

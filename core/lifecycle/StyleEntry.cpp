@@ -8,6 +8,7 @@ void StyleEntry::appear() {
 }
 
 void StyleEntry::tapCreate() {
+  if (!hasEditor_) return;
   if (storedDataArray_->count() < maximumWidgetStyles) {
     platform_.haptics.lightImpact();
     showCreate_ = !showCreate_;

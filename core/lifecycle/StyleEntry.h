@@ -20,12 +20,16 @@ struct Alert {
 class StyleEntry final : public Screen {
  public:
   StyleEntry(const Platform& platform, const FamilyDescription& words,
-             std::unique_ptr<StyleRecords> stored)
-      : platform_(platform), words_(words), storedDataArray_(std::move(stored)) {}
+             std::unique_ptr<StyleRecords> stored, bool hasEditor)
+      : platform_(platform),
+        words_(words),
+        storedDataArray_(std::move(stored)),
+        hasEditor_(hasEditor) {}
 
   /// Also when a sheet over it is gone, so that the limit holds for what was made there.
   void appear();
-  /// Opens the setup of a new style, or says why not: a family has a most.
+  /// Opens the setup of a new style, or says why not: a family has a most. Nothing in a family whose
+  /// editor is still to be made.
   void tapCreate();
   void tapGallery();
   /// Opens the preview, or says that there is nothing to see.
@@ -34,6 +38,7 @@ class StyleEntry final : public Screen {
   void dismissAlert();
 
   const FamilyDescription& words() const { return words_; }
+  bool hasEditor() const { return hasEditor_; }
   bool showCreate() const { return showCreate_; }
   bool showGallery() const { return showGallery_; }
   bool showPreview() const { return showPreview_; }
@@ -43,6 +48,7 @@ class StyleEntry final : public Screen {
   const Platform& platform_;
   const FamilyDescription& words_;
   std::unique_ptr<StyleRecords> storedDataArray_;
+  bool hasEditor_;
   bool showCreate_ = false;
   bool showGallery_ = false;
   bool showPreview_ = false;

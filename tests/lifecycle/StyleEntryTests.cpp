@@ -47,6 +47,16 @@ TEST_F(StyleEntryTest, withoutAStyle_galleryOpensAndPreviewDoesNot) {
   EXPECT_EQ(surroundings.felt, (std::vector<std::string>{"light impact", "error"}));
 }
 
+TEST_F(StyleEntryTest, familyWithoutAnEditor_makesNothing) {
+  for (const FamilyDescription& family : familyTable) {
+    const FamilyScreens& screens = familyScreens(family.name);
+    const auto any = screens.entry(platform);
+    any->appear();
+    any->tapCreate();
+    EXPECT_EQ(any->showCreate(), screens.hasEditor()) << family.name;
+  }
+}
+
 TEST(FamilyTable, families_haveTheirKnownWords) {
   const FamilyDescription& music = familyDescription("music");
   EXPECT_EQ(music.entryTitle, "Music Widget");

@@ -116,6 +116,14 @@ TEST_F(FamilyPageTest, limits_areTold) {
   EXPECT_FALSE(driver->isShown("setupPage"));
 }
 
+TEST_F(FamilyPageTest, familyWithoutAnEditor_makesNothing) {
+  openAt("CustomNowPlayingView");
+  driver->click("create");
+  driver->click("gallery");
+  EXPECT_TRUE(driver->isShown("gallerySheet"));
+  EXPECT_FALSE(driver->isShown("setupSheet"));
+}
+
 TEST_F(FamilyPageTest, gallery_ticksAndLinksAndRefuses) {
   setNumber("amountOfConfigs", 2);
   addStyle(0);

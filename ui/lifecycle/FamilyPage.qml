@@ -28,6 +28,7 @@ Page {
         }
         ActionButton {
             objectName: "create"
+            enabled: page.family.hasEditor
             name: SharedWords.create
             symbol: "plus"
             onPressed: page.family.tapCreate()

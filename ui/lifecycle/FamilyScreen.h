@@ -19,6 +19,7 @@ class FamilyScreen : public QObject {
   QML_ELEMENT
   QML_UNCREATABLE("the shell makes it")
   Q_PROPERTY(vitrelle::ui::FamilyWords words READ words CONSTANT)
+  Q_PROPERTY(bool hasEditor READ hasEditor CONSTANT)
   Q_PROPERTY(bool showCreate READ showCreate NOTIFY changed)
   Q_PROPERTY(bool showGallery READ showGallery NOTIFY changed)
   Q_PROPERTY(bool showPreview READ showPreview NOTIFY changed)
@@ -33,6 +34,7 @@ class FamilyScreen : public QObject {
         view_(screen_->onChange([this] { Q_EMIT changed(); })) {}
 
   FamilyWords words() const { return FamilyWords(screen_->words()); }
+  bool hasEditor() const { return screen_->hasEditor(); }
   bool showCreate() const { return screen_->showCreate(); }
   bool showGallery() const { return screen_->showGallery(); }
   bool showPreview() const { return screen_->showPreview(); }

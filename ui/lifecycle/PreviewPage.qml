@@ -60,7 +60,6 @@ SheetPage {
         anchors.horizontalCenter: parent.horizontalCenter
         name: SharedWords.previewButton
         enabled: pager.count > 0
-        opacity: enabled ? 1 : 0.4
         onPressed: whole.shown = true
     }
     overlay: Pressable { // the page as large as the screen, until it is pressed

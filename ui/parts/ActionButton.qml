@@ -11,6 +11,7 @@ Pressable {
     implicitWidth: Shell.screenWidth - 60
     implicitHeight: 50
     focusRadius: 21
+    opacity: enabled ? (held ? 0.6 : 1) : 0.4
 
     ContinuousRectangle {
         anchors.fill: parent
