@@ -7,6 +7,7 @@
 #include "core/slicing/WidgetLocation.h"
 #include "host/Host.h"
 #include "host/desktop/AppInstance.h"
+#include "host/desktop/EndSignals.h"
 #include "host/desktop/QtLoop.h"
 #include "host/drawing/DrawingProcess.h"
 #include "ui/Shell.h"
@@ -195,6 +196,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
       if (!url.empty()) scene.openLinks({&link, 1});
     });
   }
+  const host::EndSignals requests(loop, [] { QCoreApplication::exit(0); });
   return QCoreApplication::exec();
 }
 

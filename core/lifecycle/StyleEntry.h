@@ -28,8 +28,8 @@ class StyleEntry final : public Screen {
 
   /// Also when a sheet over it is gone, so that the limit holds for what was made there.
   void appear();
-  /// Opens the setup of a new style, or says why not: a family has a most. Nothing in a family whose
-  /// editor is still to be made.
+  /// Opens the setup of a new style, or says why not: a family has a most. Nothing in a family
+  /// whose editor is still to be made.
   void tapCreate();
   void tapGallery();
   /// Opens the preview, or says that there is nothing to see.

@@ -1,4 +1,5 @@
-// The folder of images that the application and the widgets share, and the lock of all that is kept.
+// The folder of images that the application and the widgets share, and the lock of all that is
+// kept.
 #pragma once
 
 #include "core/platform/Data.h"

@@ -1,14 +1,17 @@
 #include "host/desktop/AppInstance.h"
+#include "host/desktop/EndSignals.h"
 #include "host/desktop/MainQueue.h"
 #include "host/desktop/PollLoop.h"
 #include "host/desktop/Timelines.h"
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <filesystem>
 #include <thread>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace vitrelle::host {
 namespace {
@@ -81,6 +84,42 @@ TEST_F(DesktopTest, reloads_areSeenByWatchers) {
   elsewhere.reloadAllTimelines();
   run();
   EXPECT_EQ(reloads, 1);
+}
+
+TEST_F(DesktopTest, requestsToEnd_comeInsideTheLoop) {
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+    bool ended = false;
+    const EndSignals signals(loop.operations(), [&] {
+      ended = true;
+      loop.stop();
+    });
+    kill(getpid(), signal);
+    EXPECT_FALSE(ended) << "not in the midst of something";
+    run();
+    EXPECT_TRUE(ended) << signal;
+  }
+}
+
+using DesktopDeathTest = DesktopTest;
+
+TEST_F(DesktopDeathTest, secondRequestToEnd_isObeyedAtOnce) {
+  const EndSignals signals(loop.operations(), [] {});
+  const auto raiseTwice = [] {
+    raise(SIGTERM);
+    raise(SIGTERM);
+  };
+  EXPECT_EXIT(raiseTwice(), testing::KilledBySignal(SIGTERM), "");
+}
+
+TEST_F(DesktopTest, requestToEndThatIsIgnored_staysSo) {
+  std::signal(SIGINT, SIG_IGN);
+  {
+    const EndSignals signals(loop.operations(), [] { ADD_FAILURE() << "it is to be ignored"; });
+    raise(SIGINT);
+    const auto end = makeMainQueue(loop.operations()).asyncAfter(0.05, [this] { loop.stop(); });
+    run();
+  }
+  std::signal(SIGINT, SIG_DFL);
 }
 
 TEST_F(DesktopTest, queuedWork_runsOnceUnlessItIsCancelled) {
