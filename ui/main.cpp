@@ -146,7 +146,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
       host::makePlatform(cli::hostOptions(arguments.options), loop),
       [&](ui::Trouble trouble, const Failure& failure) {
         const QString pattern = trouble == ui::Trouble::reading ? qtTrId("app.store.unreadable")
-                                                              : qtTrId("app.store.readOnly");
+                                                                : qtTrId("app.store.readOnly");
         const QString words =
             pattern.arg(QString::fromStdString(failure.what + ": " + failure.why));
         if (shell == nullptr) {
