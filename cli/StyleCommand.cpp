@@ -89,6 +89,12 @@ bool prepareStore(const Platform& platform, bool hasAmount) {
     complain(version.failure());
     return false;
   }
+  if (*version && isOfFirstGeneration(**version)) {
+    complain({"style new", "version " + **version +
+                               " was here before; start vitrelle-app first, "
+                               "which takes its style over"});
+    return false;
+  }
   const auto current = platform.bundle.shortVersion();
   return (hasAmount || (stored(platform, keys::amountOfConfigs, std::int64_t{0}) &&
                         stored(platform, keys::selectedConfig, std::int64_t{0}))) &&

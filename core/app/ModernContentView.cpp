@@ -16,10 +16,12 @@ namespace {
 
 /// The slices of a move are written beside the launch, and are all there by then.
 constexpr double secondsUntilMoved = 2.0;
-/// A version without this character is of the first generation, which ended with 1.9.
-constexpr char mark[] = "2";
 
 } // namespace
+
+bool isOfFirstGeneration(std::string_view version) {
+  return version.find('2') == std::string_view::npos; // that generation ended with 1.9
+}
 
 ModernContentView::ModernContentView(const Platform& platform)
     : platform_(platform),
@@ -59,7 +61,7 @@ void ModernContentView::decideKindOfRun() {
   }
   if (*stored == currentVersion()) return;
   platform_.debugConsole.print("was previously running " + *stored);
-  if (stored->find(mark) != std::string::npos) {
+  if (!isOfFirstGeneration(*stored)) {
     activePopover_ = ActivePopoverContent::whatsNew;
     popoverIsPresented_ = true;
     return;

@@ -16,6 +16,10 @@
 
 namespace vitrelle {
 
+/// Whether the application of this version kept one style without a number. The application of
+/// today takes it over at its first start, and begins to count anew.
+bool isOfFirstGeneration(std::string_view version);
+
 class ModernContentView final : public Screen {
  public:
   explicit ModernContentView(const Platform& platform);

@@ -7,8 +7,14 @@ void StyleEntry::appear() {
   changed();
 }
 
+bool StyleEntry::canRead() {
+  if (!storedDataArray_->loaded()) storedDataArray_->load();
+  if (!storedDataArray_->loaded()) platform_.haptics.error();
+  return storedDataArray_->loaded();
+}
+
 void StyleEntry::tapCreate() {
-  if (!hasEditor_) return;
+  if (!hasEditor_ || !canRead()) return;
   if (storedDataArray_->count() < maximumWidgetStyles) {
     platform_.haptics.lightImpact();
     showCreate_ = !showCreate_;
@@ -26,6 +32,7 @@ void StyleEntry::tapGallery() {
 }
 
 void StyleEntry::tapPreview() {
+  if (!canRead()) return;
   if (storedDataArray_->count() != 0) {
     platform_.haptics.lightImpact();
     showPreview_ = !showPreview_;

@@ -45,6 +45,9 @@ class StyleEntry final : public Screen {
   std::optional<Alert> alert() const;
 
  private:
+  /// Whether the styles are known; only felt if not. Neither a limit nor an absence shows without.
+  bool canRead();
+
   const Platform& platform_;
   const FamilyDescription& words_;
   std::unique_ptr<StyleRecords> storedDataArray_;

@@ -22,6 +22,8 @@ class StyleRecords {
 
   virtual void load() = 0;
   virtual void save() const = 0;
+  /// Whether what is stored could be taken in; else a save writes nothing.
+  virtual bool loaded() const = 0;
   virtual std::size_t count() const = 0;
   /// Indices are below the count.
   virtual std::int64_t tag(std::size_t index) const = 0;
@@ -43,6 +45,7 @@ class FamilyRecords final : public StyleRecords {
   void save() const override {
     loaded_ ? store_.saveRecords(family_, records) : store_.reloadWidgets();
   }
+  bool loaded() const override { return loaded_; }
   std::size_t count() const override { return records.size(); }
   std::int64_t tag(std::size_t index) const override { return records[index].*family_.tag; }
   std::int64_t linked(std::size_t index) const override { return records[index].*family_.linked; }

@@ -133,6 +133,14 @@ TEST_F(StyleCommandTest, slotsOutsideOfTheScreenshots_areSaidOfAStyleThatIsMade)
   EXPECT_EQ(amount(), "1\n");
 }
 
+TEST_F(StyleCommandTest, homeOfTheFirstGeneration_isLeftToTheApplication) {
+  ASSERT_EQ(
+      run({"defaults", "write", "last_used_app_version", "-string", "1.9", "--standard"}).status,
+      0);
+  EXPECT_EQ(make().status, 1) << "its start would begin to count anew";
+  EXPECT_EQ(amount(), "");
+}
+
 TEST_F(StyleCommandTest, numbers_areTakenOnlyAsTheyAreWritten) {
   ASSERT_EQ(make().status, 0);
   for (const char* number :

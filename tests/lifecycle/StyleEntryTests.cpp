@@ -47,6 +47,20 @@ TEST_F(StyleEntryTest, withoutAStyle_galleryOpensAndPreviewDoesNot) {
   EXPECT_EQ(surroundings.felt, (std::vector<std::string>{"light impact", "error"}));
 }
 
+TEST_F(StyleEntryTest, stylesThatCannotBeRead_areNeitherAddedToNorCalledNone) {
+  storeStyles(12);
+  defaults.broken = {Suite::group};
+  entry->appear();
+  entry->tapCreate();
+  entry->tapPreview();
+  EXPECT_FALSE(entry->showCreate());
+  EXPECT_FALSE(entry->alert());
+  EXPECT_EQ(surroundings.felt, (std::vector<std::string>{"error", "error"}));
+  defaults.broken = {};
+  entry->tapCreate();
+  EXPECT_EQ(entry->alert()->title, "Cannot Create Text Widget Style");
+}
+
 TEST_F(StyleEntryTest, familyWithoutAnEditor_makesNothing) {
   for (const FamilyDescription& family : familyTable) {
     const FamilyScreens& screens = familyScreens(family.name);
