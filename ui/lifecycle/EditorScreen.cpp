@@ -4,30 +4,24 @@ namespace vitrelle::ui {
 
 EditorScreen::EditorScreen(const Platform& platform, const FamilyScreens& family,
                            const EditorTask& task)
-    : EditorScreen(platform, family.setup(platform, task)) {}
+    : EditorScreen(platform, family.setup(platform, task), nullptr) {}
 
-EditorScreen::EditorScreen(const Platform& platform, std::unique_ptr<StyleFirstStep> screen)
-    : EditorScreen(platform, screen.get(), nullptr, std::move(screen)) {}
-
-EditorScreen::EditorScreen(const Platform& platform, std::unique_ptr<StyleSecondStep> screen)
-    : EditorScreen(platform, nullptr, screen.get(), std::move(screen)) {}
-
-EditorScreen::EditorScreen(const Platform& platform, StyleFirstStep* first, StyleSecondStep* second,
-                           std::unique_ptr<StyleEditor> screen)
+EditorScreen::EditorScreen(const Platform& platform, std::unique_ptr<StyleFirstStep> first,
+                           std::unique_ptr<StyleSecondStep> second)
     : platform_(platform),
-      screen_(std::move(screen)),
-      first_(first),
-      second_(second),
+      first_(std::move(first)),
+      second_(std::move(second)),
+      screen_(first_ ? static_cast<StyleEditor&>(*first_) : *second_),
       previewSize_(mediumPreviewSize(platform)),
-      form_(*screen_),
-      view_(screen_->onChange([this] {
+      form_(screen_),
+      view_(screen_.onChange([this] {
         form_.refresh();
         Q_EMIT changed();
       })) {}
 
 QList<QColor> EditorScreen::suggestedColours() const {
   QList<QColor> colours;
-  if (second_ == nullptr) return colours;
+  if (!second_) return colours;
   for (const PlatformColour& colour : second_->suggestions().palleteColours()) {
     colours += QColor::fromRgbF(static_cast<float>(colour.red), static_cast<float>(colour.green),
                                 static_cast<float>(colour.blue));
@@ -36,13 +30,13 @@ QList<QColor> EditorScreen::suggestedColours() const {
 }
 
 void EditorScreen::settle() {
-  if (second_ == nullptr || settled_) return;
+  if (!second_ || settled_) return;
   settled_ = true;
   second_->startSuggestions();
 }
 
 EditorScreen* EditorScreen::next() const {
-  return first_ == nullptr ? nullptr : new EditorScreen(platform_, first_->next());
+  return first_ ? new EditorScreen(platform_, nullptr, first_->next()) : nullptr;
 }
 
 } // namespace vitrelle::ui

@@ -34,19 +34,19 @@ class EditorScreen : public QObject {
   EditorScreen(const Platform& platform, const FamilyScreens& family, const EditorTask& task);
 
   FormModel* form() { return &form_; }
-  Face face() const { return Face::of(screen_->face(previewSize_)); }
-  BackdropName backdrop() const { return BackdropName::of(screen_->img()); }
+  Face face() const { return Face::of(screen_.face(previewSize_)); }
+  BackdropName backdrop() const { return BackdropName::of(screen_.img()); }
   qreal previewWidth() const { return previewSize_.width; }
   qreal previewHeight() const { return previewSize_.height; }
-  bool hasSuggestions() const { return second_ != nullptr && second_->suggesting().has_value(); }
+  bool hasSuggestions() const { return second_ && second_->suggesting().has_value(); }
   bool hasSuggestionsHint() const { return hasSuggestions() && second_->suggesting()->hasHint; }
-  bool suggestionsLoaded() const { return second_ != nullptr && second_->suggestions().loaded(); }
+  bool suggestionsLoaded() const { return second_ && second_->suggestions().loaded(); }
   QList<QColor> suggestedColours() const;
 
-  Q_INVOKABLE void appear() { screen_->appear(); }
+  Q_INVOKABLE void appear() { screen_.appear(); }
   /// When the screen has come to rest.
   Q_INVOKABLE void settle();
-  Q_INVOKABLE void save() { screen_->save(); }
+  Q_INVOKABLE void save() { screen_.save(); }
   /// The step after the first, for QML to own.
   Q_INVOKABLE vitrelle::ui::EditorScreen* next() const;
 
@@ -54,15 +54,13 @@ class EditorScreen : public QObject {
   void changed();
 
  private:
-  EditorScreen(const Platform& platform, std::unique_ptr<StyleFirstStep> screen);
-  EditorScreen(const Platform& platform, std::unique_ptr<StyleSecondStep> screen);
-  EditorScreen(const Platform& platform, StyleFirstStep* first, StyleSecondStep* second,
-               std::unique_ptr<StyleEditor> screen);
+  EditorScreen(const Platform& platform, std::unique_ptr<StyleFirstStep> first,
+               std::unique_ptr<StyleSecondStep> second);
 
   const Platform& platform_;
-  std::unique_ptr<StyleEditor> screen_;
-  StyleFirstStep* first_;   ///< the screen, when it is one
-  StyleSecondStep* second_; ///< the screen, when it is one
+  std::unique_ptr<StyleFirstStep> first_; ///< one of the two
+  std::unique_ptr<StyleSecondStep> second_;
+  StyleEditor& screen_; ///< which it is
   PointSize previewSize_;
   FormModel form_;
   bool settled_ = false;
