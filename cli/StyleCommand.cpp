@@ -126,6 +126,7 @@ Exit makeNew(const Platform& platform, const Screenshots& screenshots) {
     complain({"style new", "no style was made"});
     return Exit::failed;
   }
+  platform.widgetCenter.reloadAllTimelines(); // an open window lists the style now that it counts
   std::printf("%lld\n", static_cast<long long>(number));
   return Exit::done;
 }
