@@ -53,7 +53,9 @@ Shell::Shell(const Platform& platform, ShellOptions options)
   qGuiApp->installEventFilter(this);
 }
 
-Shell::~Shell() = default;
+Shell::~Shell() {
+  Q_EMIT closing();
+}
 
 Shell* Shell::create(QQmlEngine* engine, QJSEngine*) {
   Shell* shell = &of(*engine);

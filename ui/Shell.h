@@ -101,6 +101,7 @@ class Shell final : public QObject {
   void darkChanged();
   void noticeChanged();
   void canPasteChanged();
+  /// The program ends, whatever ends it; pages that are open are left.
   void closing();
 
  protected:

@@ -5,6 +5,7 @@
 #include "core/slicing/ImageCropper.h"
 #include "core/slicing/ImageLoader.h"
 #include "core/slicing/Measurements.h"
+#include "core/slicing/WallpaperIntake.h"
 #include "core/store/Keys.h"
 #include "core/store/Listing.h"
 
@@ -34,6 +35,7 @@ ModernContentView::ModernContentView(const Platform& platform)
 }
 
 void ModernContentView::appear() {
+  takeBackAbandonedStyle(platform_);
   if (const auto amount = configAmounts_.read(); amount && !*amount) resetCounts();
   platform_.debugConsole.print(std::to_string(amountOfConfigs()));
   platform_.debugConsole.print(deviceName(platform_));

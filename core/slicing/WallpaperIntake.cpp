@@ -13,6 +13,9 @@ namespace vitrelle {
 
 namespace {
 
+/// Commands that cut pictures hold the lock for less.
+constexpr double patienceSeconds = 1;
+
 std::int64_t required(const StoredValue<std::int64_t>& amount) {
   const auto stored = amount.get();
   if (!stored) fatalError("amountOfConfigs is missing");
@@ -30,6 +33,19 @@ bool newestIsComplete(const Platform& platform, std::int64_t amount) {
   return exists(lightStyle) && exists(darkStyle);
 }
 
+/// No style is in the making any more.
+void forget(const Platform& platform) {
+  static_cast<void>(
+      platform.defaults.remove(keys::styleInTheMaking.suite, keys::styleInTheMaking.name));
+}
+
+/// A folder that can't be entered would look like one without files.
+bool canBeSearched(const Platform& platform) {
+  const auto folder = platform.files.groupContainer();
+  return folder &&
+         (platform.files.fileExists(*folder + "/.") || !platform.files.fileExists(*folder));
+}
+
 } // namespace
 
 std::vector<WallpaperCell> WallpaperIntake::cellWords() {
@@ -44,6 +60,10 @@ std::vector<WallpaperCell> WallpaperIntake::cells() const {
         rawValue(WidgetLocationImageNames::fullImage), cell.style, styleNumber());
   }
   return cells;
+}
+
+void WallpaperIntake::appear() {
+  if (auto lock = platform_.files.lock(patienceSeconds)) lock_ = *std::move(lock);
 }
 
 void WallpaperIntake::tap(double x) {
@@ -79,9 +99,12 @@ std::vector<StoredSlice> WallpaperIntake::pickerClosed() {
 }
 
 ModernNewLightDark::ModernNewLightDark(const Platform& platform)
-    : WallpaperIntake(platform), configAmount_(platform, keys::amountOfConfigs) {}
+    : WallpaperIntake(platform),
+      configAmount_(platform, keys::amountOfConfigs),
+      inTheMaking_(platform, keys::styleInTheMaking) {}
 
 void ModernNewLightDark::appear() {
+  WallpaperIntake::appear();
   platform().debugConsole.print(std::to_string(configAmount_.getOrDefault()));
   maxConfigAmount_ = checkedAdd(required(configAmount_), 1);
   changed();
@@ -90,16 +113,37 @@ void ModernNewLightDark::appear() {
 void ModernNewLightDark::tap(double x) {
   WallpaperIntake::tap(x);
   const std::int64_t amount = required(configAmount_);
-  if (amount < maxConfigAmount_) configAmount_.set(checkedAdd(amount, 1));
+  if (amount >= maxConfigAmount_) return;
+  inTheMaking_.set(styleNumber());
+  configAmount_.set(checkedAdd(amount, 1));
 }
 
 void ModernNewLightDark::disappear() {
   if (!newestIsComplete(platform(), configAmount_.getOrDefault()))
     configAmount_.set(checkedAdd(maxConfigAmount_, -1));
+  if (inTheMaking_.get()) forget(platform());
+  WallpaperIntake::disappear();
 }
 
 std::int64_t ModernNewLightDark::styleNumber() const {
   return checkedAdd(maxConfigAmount_, -1);
+}
+
+void takeBackAbandonedStyle(const Platform& platform) {
+  const StoredValue<std::int64_t> inTheMaking(platform, keys::styleInTheMaking);
+  if (!inTheMaking.get()) return;
+  const auto lock = platform.files.lock(0);
+  const auto number = inTheMaking.get();
+  const StoredValue<std::int64_t> amount(platform, keys::amountOfConfigs);
+  const auto stored = amount.get();
+  if (!lock || !number || !stored || !canBeSearched(platform)) return;
+  // Where another style was made since, there is no number to give back.
+  const bool newest = *number < *stored && *number + 1 == *stored;
+  if (newest && !newestIsComplete(platform, *stored)) {
+    amount.set(*number);
+    if (amount.get() != number) return;
+  }
+  forget(platform);
 }
 
 } // namespace vitrelle

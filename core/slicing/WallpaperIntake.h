@@ -32,6 +32,11 @@ class WallpaperIntake : public Screen {
 
   virtual ~WallpaperIntake() = default;
 
+  /// While the screen is open, other programs are kept from changing styles; one that can't be kept
+  /// from it holds nothing up.
+  virtual void appear();
+  virtual void disappear() { lock_.reset(); }
+
   /// The two halves without their pictures, light first.
   static std::vector<WallpaperCell> cellWords();
   /// The style whose screenshots these are.
@@ -60,21 +65,23 @@ class WallpaperIntake : public Screen {
   std::vector<StoredSlice> pickerClosed();
 
   const Platform& platform_;
+  HomeLock lock_;
   std::optional<Image> imageBuffer_;             ///< none stands for an empty image
   std::optional<InterfaceStyle> interfaceStyle_; ///< of the cell that was tapped
   std::optional<ActiveSheet> activeSheet_;
 };
 
 /// Makes a new style. It counts from the first tap, so that a picked screenshot has its number, and
-/// is taken back if the screen is left before both screenshots are there; the files stay.
+/// is taken back if the screen is left before both screenshots are there; the files stay. While it
+/// counts, the store tells its number, for `takeBackAbandonedStyle`.
 class ModernNewLightDark final : public WallpaperIntake {
  public:
   explicit ModernNewLightDark(const Platform& platform);
 
   /// A missing count of styles is a fatal error, here and at a tap.
-  void appear();
+  void appear() override;
   void tap(double x) override;
-  void disappear();
+  void disappear() override;
 
   std::int64_t styleNumber() const override;
   /// The count of styles with the new one.
@@ -82,6 +89,7 @@ class ModernNewLightDark final : public WallpaperIntake {
 
  private:
   StoredValue<std::int64_t> configAmount_;
+  StoredValue<std::int64_t> inTheMaking_;
   std::int64_t maxConfigAmount_ = 0;
 };
 
@@ -95,5 +103,10 @@ class ModernChangeLightDark final : public WallpaperIntake {
  private:
   std::int64_t numberOfConfig_;
 };
+
+/// At a start, before styles are listed: where the last run ended in the midst of a new style, the
+/// style is judged as it would have been on leaving. Nothing happens while a program holds the lock
+/// of the home, for it may be at work on that style, nor where store or folder can't be read.
+void takeBackAbandonedStyle(const Platform& platform);
 
 } // namespace vitrelle

@@ -78,6 +78,7 @@ inline constexpr Key<String> lastUsedAppVersion{standard, "last_used_app_version
 inline constexpr Key<Bool>   betaEnrollment{standard, "beta_enrollment", isAState};
 inline constexpr Key<Date>   appReviewAskDate{standard, "appReviewAskDate", isAState};
 inline constexpr Key<Int>    appStartUpsCountKey{standard, "appStartUpsCountKey", readsAsDefault};
+inline constexpr Key<Int>    styleInTheMaking{standard, "styleInTheMaking", isAState};
 
 // clang-format on
 
@@ -124,7 +125,7 @@ inline constexpr std::tuple groupKeys{selectedConfig,
                                       currentLocationRainData};
 
 /// The keys of the standard defaults.
-inline constexpr std::tuple standardKeys{destination, lastUsedAppVersion, betaEnrollment,
-                                         appReviewAskDate, appStartUpsCountKey};
+inline constexpr std::tuple standardKeys{destination,      lastUsedAppVersion,  betaEnrollment,
+                                         appReviewAskDate, appStartUpsCountKey, styleInTheMaking};
 
 } // namespace vitrelle::keys

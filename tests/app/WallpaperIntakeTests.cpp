@@ -71,6 +71,74 @@ TEST_F(WallpaperIntakeTest, visitWithoutATap_changesNoCount) {
   }
 }
 
+class AbandonedStyleTest : public WallpaperIntakeTest {
+ protected:
+  /// A run that ends without leaving the screen, as when the power fails.
+  void abandon(const std::vector<double>& taps) {
+    setNumber("amountOfConfigs", 2);
+    ModernNewLightDark screen(platform);
+    screen.appear();
+    for (const double x : taps) {
+      screen.tap(x);
+      screen.pick(screenshot);
+    }
+  }
+  bool isMarked() { return defaults.values(Suite::standard).contains("styleInTheMaking"); }
+};
+
+TEST_F(AbandonedStyleTest, nextStart_judgesIt) {
+  abandon({leftHalf});
+  EXPECT_EQ(number("amountOfConfigs"), 3);
+  takeBackAbandonedStyle(platform);
+  EXPECT_EQ(number("amountOfConfigs"), 2);
+  EXPECT_TRUE(folder.images.contains("2original.png"));
+  EXPECT_FALSE(isMarked());
+
+  abandon({leftHalf, rightHalf});
+  takeBackAbandonedStyle(platform);
+  EXPECT_EQ(number("amountOfConfigs"), 3) << "it is complete";
+  EXPECT_FALSE(isMarked());
+  folder.images.erase("2original.png");
+  takeBackAbandonedStyle(platform);
+  EXPECT_EQ(number("amountOfConfigs"), 3) << "a file that somebody removed is not judged";
+}
+
+TEST_F(AbandonedStyleTest, leaving_leavesNothingForTheNextStart) {
+  setNumber("amountOfConfigs", 2);
+  ModernNewLightDark screen(platform);
+  screen.appear();
+  EXPECT_FALSE(isMarked());
+  screen.tap(leftHalf);
+  EXPECT_TRUE(isMarked());
+  screen.disappear();
+  EXPECT_FALSE(isMarked());
+  EXPECT_TRUE(folder.lock.expired());
+}
+
+TEST_F(AbandonedStyleTest, whatCannotBeTold_isLeft) {
+  abandon({leftHalf});
+  const auto expectLeft = [&](std::int64_t amount) {
+    takeBackAbandonedStyle(platform);
+    EXPECT_EQ(number("amountOfConfigs"), amount);
+    EXPECT_TRUE(isMarked());
+  };
+  {
+    const auto lock = platform.files.lock(0);
+    expectLeft(3);
+  }
+  folder.exists = false;
+  expectLeft(3);
+  folder.exists = true;
+  defaults.broken = true;
+  expectLeft(3);
+  defaults.broken = false;
+
+  setNumber("amountOfConfigs", 4); // another program made one since
+  takeBackAbandonedStyle(platform);
+  EXPECT_EQ(number("amountOfConfigs"), 4);
+  EXPECT_FALSE(isMarked());
+}
+
 TEST_F(WallpaperIntakeTest, negativeCounts_endNothing) {
   for (const std::int64_t amount : {std::numeric_limits<std::int64_t>::min(), std::int64_t{-5}}) {
     setNumber("amountOfConfigs", amount);

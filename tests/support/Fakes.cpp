@@ -70,18 +70,22 @@ std::string fileName(const std::string& path) {
 } // namespace
 
 void FakeFolder::use(Platform& platform) {
-  platform.files = {
-      .groupContainer = [this]() -> std::optional<std::string> {
-        if (!exists) return std::nullopt;
-        return root;
-      },
-      .fileExists = [this](const std::string& path) { return images.contains(fileName(path)); },
-      .lock = [this](double) -> Result<HomeLock> {
-        if (lock.lock()) return Failure{root, "another program is changing its styles"};
-        const auto held = std::make_shared<const int>();
-        lock = held;
-        return HomeLock(held);
-      }};
+  platform.files = {.groupContainer = [this]() -> std::optional<std::string> {
+                      if (!exists) return std::nullopt;
+                      return root;
+                    },
+                    .fileExists =
+                        [this](const std::string& path) {
+                          const std::string name = fileName(path);
+                          return name == "." ? exists : images.contains(name);
+                        },
+                    .lock = [this](double) -> Result<HomeLock> {
+                      if (lock.lock())
+                        return Failure{root, "another program is changing its styles"};
+                      const auto held = std::make_shared<const int>();
+                      lock = held;
+                      return HomeLock(held);
+                    }};
   platform.images.load = [this](const std::string& path) -> Result<Image> {
     const auto found = images.find(fileName(path));
     if (found == images.end()) return Failure{path, "no such file"};

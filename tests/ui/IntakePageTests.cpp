@@ -74,6 +74,31 @@ TEST_F(IntakePageTest, halfAStyle_isTakenBackOnLeaving) {
   EXPECT_FALSE(driver->isShown("tick0"));
 }
 
+TEST_F(IntakePageTest, endOfTheProgram_leavesThePage) {
+  for (const bool both : {false, true}) {
+    setNumber("amountOfConfigs", 0);
+    folder.images.clear();
+    open();
+    driver->click("createCard");
+    paste("lightCell");
+    if (both) paste("darkCell");
+    shell->window()->hide(); // as at a tap on a widget, which is no end
+    EXPECT_EQ(number("amountOfConfigs"), 1);
+    driver.reset();
+    shell.reset();
+    EXPECT_EQ(number("amountOfConfigs"), both ? 1 : 0);
+  }
+}
+
+TEST_F(IntakePageTest, suddenEnd_isPutRightByTheNextStart) {
+  setNumber("amountOfConfigs", 1);
+  defaults.values(Suite::standard)["styleInTheMaking"] = std::int64_t{0};
+  addOriginal(0, lightStyle);
+  open();
+  EXPECT_EQ(number("amountOfConfigs"), 0);
+  EXPECT_EQ(shell->root()->pageCount(), 1);
+}
+
 TEST_F(IntakePageTest, whatIsNoPicture_isToldAndChangesNothing) {
   setNumber("amountOfConfigs", 1);
   addStyle(0);

@@ -28,14 +28,17 @@ IntakeScreen::IntakeScreen(Shell& shell, std::unique_ptr<WallpaperIntake> screen
     : shell_(shell),
       screen_(std::move(screen)),
       cells_(WallpaperIntake::cellWords()),
-      view_(screen_->onChange([this] { Q_EMIT changed(); })) {}
+      view_(screen_->onChange([this] { Q_EMIT changed(); })) {
+  connect(&shell, &Shell::closing, this, &IntakeScreen::disappear);
+}
 
 void IntakeScreen::appear() {
-  if (auto* newStyle = dynamic_cast<ModernNewLightDark*>(screen_.get())) newStyle->appear();
+  appeared_ = true;
+  screen_->appear();
 }
 
 void IntakeScreen::disappear() {
-  if (auto* newStyle = dynamic_cast<ModernNewLightDark*>(screen_.get())) newStyle->disappear();
+  if (std::exchange(appeared_, false)) screen_->disappear();
 }
 
 void IntakeScreen::pick(const QUrl& file) {

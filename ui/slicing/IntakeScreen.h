@@ -46,6 +46,7 @@ class IntakeScreen final : public QObject {
   bool isPickerOpen() const { return screen_->activeSheet() == ActiveSheet::photoPicker; }
 
   Q_INVOKABLE void appear();
+  /// When the page is left, and when the program ends while it is open.
   Q_INVOKABLE void disappear();
   /// A press that ended so far from the screen's left edge, in points.
   Q_INVOKABLE void tap(qreal x) { screen_->tap(x); }
@@ -71,6 +72,7 @@ class IntakeScreen final : public QObject {
   std::unique_ptr<WallpaperIntake> screen_;
   std::vector<WallpaperCell> cells_; ///< for their words
   int revision_ = 0;
+  bool appeared_ = false;
   Subscription view_;
 };
 
