@@ -16,10 +16,9 @@ namespace {
 /// Commands that cut pictures hold the lock for less.
 constexpr double patienceSeconds = 1;
 
-std::int64_t required(const StoredValue<std::int64_t>& amount) {
-  const auto stored = amount.get();
-  if (!stored) fatalError("amountOfConfigs is missing");
-  return *stored;
+std::int64_t required(const std::optional<std::int64_t>& amount) {
+  if (!amount) fatalError("amountOfConfigs is missing");
+  return *amount;
 }
 
 /// Whether the newest of so many styles has both its screenshots.
@@ -63,10 +62,21 @@ std::vector<WallpaperCell> WallpaperIntake::cells() const {
 }
 
 void WallpaperIntake::appear() {
-  if (auto lock = platform_.files.lock(patienceSeconds)) lock_ = *std::move(lock);
+  auto lock = lock_ ? Result<HomeLock>(lock_) : platform_.files.lock(patienceSeconds);
+  obstacle_ = lock ? std::nullopt : std::optional(lock.failure());
+  if (lock) lock_ = *std::move(lock);
+}
+
+bool WallpaperIntake::isReady() {
+  if (obstacle_) appear();
+  if (!obstacle_) return true;
+  platform_.haptics.error();
+  changed();
+  return false;
 }
 
 void WallpaperIntake::tap(double x) {
+  if (!isReady()) return;
   const double width = platform_.device.screenBounds().width;
   interfaceStyle_ = x < width * 0.5 ? lightStyle : darkStyle;
   activeSheet_ = ActiveSheet::photoPicker;
@@ -105,23 +115,32 @@ ModernNewLightDark::ModernNewLightDark(const Platform& platform)
 
 void ModernNewLightDark::appear() {
   WallpaperIntake::appear();
-  platform().debugConsole.print(std::to_string(configAmount_.getOrDefault()));
-  maxConfigAmount_ = checkedAdd(required(configAmount_), 1);
+  const auto amount = configAmount_.read();
+  if (!amount) {
+    setObstacle(amount.failure());
+  } else {
+    platform().debugConsole.print(std::to_string(amount->value_or(0)));
+    maxConfigAmount_ = checkedAdd(required(*amount), 1);
+  }
   changed();
 }
 
 void ModernNewLightDark::tap(double x) {
+  if (!isReady()) return;
   WallpaperIntake::tap(x);
-  const std::int64_t amount = required(configAmount_);
-  if (amount >= maxConfigAmount_) return;
+  const auto amount = configAmount_.read();
+  if (!amount || required(*amount) >= maxConfigAmount_) return;
   inTheMaking_.set(styleNumber());
-  configAmount_.set(checkedAdd(amount, 1));
+  configAmount_.set(checkedAdd(**amount, 1));
 }
 
 void ModernNewLightDark::disappear() {
-  if (!newestIsComplete(platform(), configAmount_.getOrDefault()))
-    configAmount_.set(checkedAdd(maxConfigAmount_, -1));
-  if (inTheMaking_.get()) forget(platform());
+  // Where the count can't be read, the next start finds the style in the making.
+  if (const auto amount = configAmount_.read(); amount && !obstacle()) {
+    if (!newestIsComplete(platform(), amount->value_or(0)))
+      configAmount_.set(checkedAdd(maxConfigAmount_, -1));
+    if (inTheMaking_.get()) forget(platform());
+  }
   WallpaperIntake::disappear();
 }
 

@@ -10,6 +10,7 @@
 
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace vitrelle {
@@ -32,8 +33,7 @@ class WallpaperIntake : public Screen {
 
   virtual ~WallpaperIntake() = default;
 
-  /// While the screen is open, other programs are kept from changing styles; one that can't be kept
-  /// from it holds nothing up.
+  /// While the screen is open, other programs are kept from changing styles.
   virtual void appear();
   virtual void disappear() { lock_.reset(); }
 
@@ -54,18 +54,26 @@ class WallpaperIntake : public Screen {
   /// cut and stored before this returns. What became of the files, for hosts that tell of failures.
   std::vector<StoredSlice> pick(const std::optional<Image>& original);
 
+  /// Why no screenshot can be taken in now, if so: another program is changing styles, nothing can
+  /// be written, or the store can't be read. A press only tries whether that is over.
+  const std::optional<Failure>& obstacle() const { return obstacle_; }
+
   const std::optional<ActiveSheet>& activeSheet() const { return activeSheet_; }
   const std::optional<InterfaceStyle>& interfaceStyle() const { return interfaceStyle_; }
 
  protected:
   explicit WallpaperIntake(const Platform& platform) : platform_(platform) {}
   const Platform& platform() const { return platform_; }
+  void setObstacle(std::optional<Failure> obstacle) { obstacle_ = std::move(obstacle); }
+  /// Whether a press can be followed.
+  bool isReady();
 
  private:
   std::vector<StoredSlice> pickerClosed();
 
   const Platform& platform_;
   HomeLock lock_;
+  std::optional<Failure> obstacle_;
   std::optional<Image> imageBuffer_;             ///< none stands for an empty image
   std::optional<InterfaceStyle> interfaceStyle_; ///< of the cell that was tapped
   std::optional<ActiveSheet> activeSheet_;

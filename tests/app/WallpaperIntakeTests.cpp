@@ -129,9 +129,9 @@ TEST_F(AbandonedStyleTest, whatCannotBeTold_isLeft) {
   folder.exists = false;
   expectLeft(3);
   folder.exists = true;
-  defaults.broken = true;
+  defaults.broken = {Suite::group, Suite::standard};
   expectLeft(3);
-  defaults.broken = false;
+  defaults.broken = {};
 
   setNumber("amountOfConfigs", 4); // another program made one since
   takeBackAbandonedStyle(platform);
@@ -151,6 +151,43 @@ TEST_F(WallpaperIntakeTest, negativeCounts_endNothing) {
     screen.disappear();
     EXPECT_EQ(number("amountOfConfigs"), amount);
   }
+}
+
+TEST_F(WallpaperIntakeTest, whileAnotherProgramChangesStyles_pressesOnlyTryAgain) {
+  setNumber("amountOfConfigs", 2);
+  auto others = platform.files.lock(0);
+  ModernNewLightDark screen(platform);
+  screen.appear();
+  screen.tap(leftHalf);
+  EXPECT_TRUE(screen.obstacle());
+  EXPECT_EQ(screen.activeSheet(), std::nullopt);
+  EXPECT_TRUE(screen.pick(screenshot).empty()) << "such as a paste";
+  EXPECT_EQ(number("amountOfConfigs"), 2);
+  EXPECT_EQ(surroundings.felt, std::vector<std::string>{"error"});
+
+  setNumber("amountOfConfigs", 3); // theirs
+  others = Failure{"test", "let go"};
+  screen.tap(leftHalf);
+  EXPECT_FALSE(screen.obstacle());
+  EXPECT_EQ(screen.styleNumber(), 3);
+  EXPECT_EQ(number("amountOfConfigs"), 4);
+}
+
+TEST_F(WallpaperIntakeTest, countThatCannotBeRead_isNeitherRaisedNorTakenBack) {
+  setNumber("amountOfConfigs", 3);
+  ModernNewLightDark screen(platform);
+  defaults.broken = {Suite::group};
+  screen.appear();
+  screen.tap(leftHalf);
+  EXPECT_TRUE(screen.obstacle());
+  defaults.broken = {};
+  screen.tap(leftHalf);
+  EXPECT_EQ(number("amountOfConfigs"), 4);
+  defaults.broken = {Suite::group};
+  screen.disappear();
+  defaults.broken = {};
+  EXPECT_EQ(number("amountOfConfigs"), 4) << "the next start judges it";
+  EXPECT_TRUE(defaults.values(Suite::standard).contains("styleInTheMaking"));
 }
 
 TEST_F(WallpaperIntakeTest, cancelledPicker_leavesTheFilesAndReloads) {

@@ -41,6 +41,22 @@ void IntakeScreen::disappear() {
   if (std::exchange(appeared_, false)) screen_->disappear();
 }
 
+void IntakeScreen::tap(qreal x) {
+  screen_->tap(x);
+  tellObstacle();
+}
+
+void IntakeScreen::choose(bool dark) {
+  screen_->choose(dark ? darkStyle : lightStyle);
+  tellObstacle();
+}
+
+void IntakeScreen::tellObstacle() const {
+  if (!screen_->obstacle()) return;
+  const auto& [what, why] = *screen_->obstacle();
+  shell_.showNotice(qtTrId("app.store.readOnly").arg(QString::fromStdString(what + ": " + why)));
+}
+
 void IntakeScreen::pick(const QUrl& file) {
   const std::string path = file.toLocalFile().toStdString();
   const Result<Image> image = path.empty()

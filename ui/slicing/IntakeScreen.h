@@ -49,8 +49,8 @@ class IntakeScreen final : public QObject {
   /// When the page is left, and when the program ends while it is open.
   Q_INVOKABLE void disappear();
   /// A press that ended so far from the screen's left edge, in points.
-  Q_INVOKABLE void tap(qreal x) { screen_->tap(x); }
-  Q_INVOKABLE void choose(bool dark) { screen_->choose(dark ? darkStyle : lightStyle); }
+  Q_INVOKABLE void tap(qreal x);
+  Q_INVOKABLE void choose(bool dark);
   /// The picker closed with a file, or without one. What can't be read counts as none, is told to
   /// the user and changes nothing.
   Q_INVOKABLE void pick(const QUrl& file);
@@ -67,6 +67,7 @@ class IntakeScreen final : public QObject {
   }
   void take(const std::optional<Image>& picture);
   void refuse(const Failure& failure);
+  void tellObstacle() const;
 
   Shell& shell_;
   std::unique_ptr<WallpaperIntake> screen_;
