@@ -12,37 +12,6 @@ namespace {
 
 constexpr char ownerProperty[] = "shell";
 
-struct FamilyPartName {
-  std::string_view FamilyDescription::*typeName;
-  const char* part;
-  bool needsEditor;
-};
-constexpr FamilyPartName familyParts[] = {{&FamilyDescription::entryScreen, "entry", false},
-                                          {&FamilyDescription::setupScreen, "setup", true},
-                                          {&FamilyDescription::secondScreen, "second", true},
-                                          {&FamilyDescription::galleryScreen, "gallery", false},
-                                          {&FamilyDescription::assignScreen, "assign", false},
-                                          {&FamilyDescription::previewScreen, "preview", false}};
-
-/// Calls with the type name of each screen of a family that has something to show.
-template <class Visit>
-void forEachFamilyPart(Visit visit) {
-  for (const FamilyDescription& family : familyTable) {
-    const bool hasEditor = familyScreens(family.name).hasEditor();
-    for (const FamilyPartName& part : familyParts) {
-      if (hasEditor || !part.needsEditor)
-        visit(qText(family.*part.typeName),
-              FamilyPart{qText(family.name), QString::fromLatin1(part.part)});
-    }
-  }
-}
-
-QStringList familyScreenNames() {
-  QStringList names;
-  forEachFamilyPart([&](const QString& name, const FamilyPart&) { names << name; });
-  return names;
-}
-
 } // namespace
 
 Shell::Shell(const Platform& platform, ShellOptions options)
@@ -67,23 +36,10 @@ Shell& Shell::of(const QQmlEngine& engine) {
   return *engine.property(ownerProperty).value<Shell*>();
 }
 
-const QStringList& Shell::screenNames() {
-  static const QStringList names =
-      familyScreenNames() + QStringList{QStringLiteral("ModernContentView"),
-                                        QStringLiteral("ModernNewLightDark"),
-                                        QStringLiteral("ModernChangeLightDark"),
-                                        QStringLiteral("PerspectiveZoomDescription"),
-                                        QStringLiteral("ModernFontPicker"),
-                                        QStringLiteral("ModernKnowledgeCentre"),
-                                        QStringLiteral("ModernWidgetCentre"),
-                                        QStringLiteral("ModernInfoCentre"),
-                                        QStringLiteral("OnboardingView"),
-                                        QStringLiteral("UpgradeView"),
-                                        QStringLiteral("WidgetSettingsView"),
-                                        QStringLiteral("UpdateWidgetDescription"),
-                                        QStringLiteral("WidgetShowingNothingDescription"),
-                                        QStringLiteral("WidgetNameDescription"),
-                                        QStringLiteral("InvalidDeepLink")};
+QStringList Shell::screenNames() {
+  QStringList names;
+  for (const ScreenEntry& entry : screenTable())
+    names << entry.name;
   return names;
 }
 
@@ -131,12 +87,11 @@ bool Shell::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
-FamilyPart Shell::familyPart(const QString& screen) const {
-  FamilyPart found;
-  forEachFamilyPart([&](const QString& name, const FamilyPart& part) {
-    if (name == screen) found = part;
-  });
-  return found;
+ScreenEntry Shell::screenEntry(const QString& name) const {
+  for (const ScreenEntry& entry : screenTable()) {
+    if (entry.name == name) return entry;
+  }
+  return {};
 }
 
 FamilyScreen* Shell::family(const QString& name) const {

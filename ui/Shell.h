@@ -4,6 +4,7 @@
 #include "core/app/ModernContentView.h"
 #include "core/platform/Platform.h"
 #include "ui/app/RootScreen.h"
+#include "ui/app/ScreenTable.h"
 #include "ui/lifecycle/FamilyScreen.h"
 #include "ui/parts/PictureSource.h"
 #include "ui/pickers/FontScreen.h"
@@ -22,17 +23,7 @@ struct ShellOptions {
   QString screen;     ///< type name of the screen to open; empty for the root
   bool framed = true; ///< the phone's frame around the screen
   bool animated = true;
-};
-
-struct FamilyPart {
-  Q_GADGET
-  QML_VALUE_TYPE(familyPart)
-  Q_PROPERTY(QString family MEMBER family CONSTANT)
-  Q_PROPERTY(QString screen MEMBER screen CONSTANT)
-
- public:
-  QString family;
-  QString screen; ///< "entry", "setup", "second", "gallery", "assign" or "preview"
+  bool launches = true; ///< whether the root decides about the launch
 };
 
 /// What QML sees of the program: the one object that screens begin at.
@@ -45,6 +36,7 @@ class Shell final : public QObject {
   Q_PROPERTY(bool framed READ isFramed CONSTANT)
   Q_PROPERTY(bool animated READ isAnimated CONSTANT)
   Q_PROPERTY(QString screen READ screen CONSTANT)
+  Q_PROPERTY(bool launches READ isLaunch CONSTANT)
   Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
   Q_PROPERTY(vitrelle::ui::RootScreen* root READ root CONSTANT)
   /// One line that the user should read; empty when there is none.
@@ -62,7 +54,7 @@ class Shell final : public QObject {
   static Shell& of(const QQmlEngine& engine);
 
   /// The names that `ShellOptions::screen` may have.
-  static const QStringList& screenNames();
+  static QStringList screenNames();
 
   /// Builds the window and shows it; false when the QML is damaged.
   bool open();
@@ -76,6 +68,7 @@ class Shell final : public QObject {
   bool isFramed() const { return options_.framed; }
   bool isAnimated() const { return options_.animated; }
   QString screen() const { return options_.screen; }
+  bool isLaunch() const { return options_.launches; }
   bool isDark() const;
   RootScreen* root() { return &root_; }
   QString notice() const { return notice_; }
@@ -86,9 +79,8 @@ class Shell final : public QObject {
   Q_INVOKABLE vitrelle::ui::IntakeScreen* changeStyle(int number);
   /// The family's entry screen, by its name in the family table.
   Q_INVOKABLE vitrelle::ui::FamilyScreen* family(const QString& name) const;
-  /// Which family and which of its screens a type name stands for: "text", "gallery". The screen is
-  /// empty for another name.
-  Q_INVOKABLE vitrelle::ui::FamilyPart familyPart(const QString& screen) const;
+  /// What draws the screen of a type name; the page is empty for a name that none has.
+  Q_INVOKABLE vitrelle::ui::ScreenEntry screenEntry(const QString& name) const;
   Q_INVOKABLE vitrelle::ui::FontScreen* fonts() const { return new FontScreen(platform_); }
   /// What a form shows for a font's name.
   Q_INVOKABLE static QString fontWords(const QString& name) {

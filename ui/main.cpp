@@ -177,7 +177,8 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
 
   ui::Shell theShell(platform, {.screen = QString::fromStdString(arguments.screen),
                                 .framed = interactive,
-                                .animated = interactive});
+                                .animated = interactive,
+                                .launches = !interactive || arguments.screen.empty()});
   shell = &theShell;
   if (!early.isEmpty()) shell->showNotice(early);
   if (!theShell.open()) return 1;

@@ -95,6 +95,10 @@
         <source></source>
         <translation>Stil %1, in Gebrauch</translation>
     </message>
+    <message id="app.launchFirst">
+        <source></source>
+        <translation>Zuerst muss Vitrelle einmal ohne --screen starten</translation>
+    </message>
     <message id="app.store.readOnly">
         <source></source>
         <translation>Vitrelle kann hier nicht speichern. %1</translation>

@@ -95,6 +95,10 @@
         <source></source>
         <translation>Style %1, in use</translation>
     </message>
+    <message id="app.launchFirst">
+        <source></source>
+        <translation>Start Vitrelle once without --screen first</translation>
+    </message>
     <message id="app.store.readOnly">
         <source></source>
         <translation>Vitrelle can’t save here. %1</translation>

@@ -49,6 +49,16 @@ void ModernContentView::appear() {
   changed();
 }
 
+void ModernContentView::appearBeneath() {
+  takeBackAbandonedStyle(platform_);
+  const auto version = lastUsedAppVersion_.get();
+  const bool isMeasured = Measurements::current(platform_).widgetSize != 0;
+  launchWaits_ =
+      !configAmounts_.get() || (isMeasured && (!version || isOfFirstGeneration(*version)));
+  platform_.widgetCenter.reloadAllTimelines();
+  changed();
+}
+
 /// What kind of run this is shows only where both stores can be read: one that can't would pass for
 /// the first run, whose counts begin at 0.
 void ModernContentView::decideKindOfRun() {
@@ -121,7 +131,7 @@ bool ModernContentView::showsCreateCard() const {
 
 bool ModernContentView::canBeChanged() const {
   const GroupStore store(platform_);
-  return store.check(Suite::group) && store.check(Suite::standard);
+  return !launchWaits_ && store.check(Suite::group) && store.check(Suite::standard);
 }
 
 void ModernContentView::selectConfig(std::int64_t number) {

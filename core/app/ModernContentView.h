@@ -36,6 +36,10 @@ class ModernContentView final : public Screen {
   /// The root appears: one pass of the launch decision. A missing version of the application is a
   /// fatal error where it is needed.
   void appear();
+  /// The root stands beneath another screen that the program was started with. What kind of run
+  /// this is waits for a start that shows the root; where that would begin to count anew, nothing
+  /// is offered that would be lost then.
+  void appearBeneath();
   /// The pager appears, which the system may do before or after.
   void contentAppear() { reloadConfigs(); }
 
@@ -56,8 +60,10 @@ class ModernContentView final : public Screen {
   std::int64_t amountOfConfigs() const { return configAmounts_.getOrDefault(); }
   bool showsCards() const { return amountOfConfigs() != 0; }
   bool showsCreateCard() const;
-  /// Whether both stores can be read. If not, nothing is offered that would write to them.
+  /// Whether both stores can be read, and no launch waits. If not, nothing is offered that would
+  /// write to them.
   bool canBeChanged() const;
+  bool launchWaits() const { return launchWaits_; }
   /// Pages of the pager, which may be more than there are cards: a style without its files counts.
   std::int64_t pageCount() const;
   double pageWidth() const; ///< points
@@ -84,6 +90,7 @@ class ModernContentView final : public Screen {
   std::optional<ActiveAlert> activeAlert_;
   std::optional<ActivePopoverContent> activePopover_;
   bool popoverIsPresented_ = false;
+  bool launchWaits_ = false;
   bool showUpdateFromOne_ = false;
   bool showOnboarding_ = false;
   bool showingAlert_ = false;

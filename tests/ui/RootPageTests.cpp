@@ -127,6 +127,34 @@ TEST_F(RootPageTest, tab_reachesEveryControl) {
   }
 }
 
+TEST_F(RootPageTest, screenAskedFor_leavesTheLaunchToAnotherStart) {
+  addStyles(1);
+  folder.images.insert_or_assign("original.png", screenshot);
+  folder.images.insert_or_assign("originalDark.png", screenshot);
+  const auto expectUntouched = [&](const char* version) {
+    const auto groupBefore = defaults.values(Suite::group);
+    const auto standardBefore = defaults.values(Suite::standard);
+    for (const QString& name : ui::Shell::screenNames()) {
+      SCOPED_TRACE(std::string(version) + " " + name.toStdString());
+      open({.screen = name, .framed = false, .animated = false, .launches = false});
+      EXPECT_FALSE(driver->isShown("intakePage")) << "what is made now would be lost";
+      EXPECT_FALSE(driver->isShown("upgradeSheet") || driver->isShown("onboardingSheet"));
+      driver->key(Qt::Key_Escape);
+      EXPECT_FALSE(driver->isShown("createCard"));
+      driver.reset();
+      shell.reset();
+    }
+    EXPECT_EQ(defaults.values(Suite::group), groupBefore);
+    EXPECT_EQ(defaults.values(Suite::standard), standardBefore);
+  };
+  defaults.values(Suite::standard)["last_used_app_version"] = std::string("1.9");
+  expectUntouched("1.9");
+  defaults.values(Suite::standard).clear();
+  defaults.values(Suite::group).clear();
+  expectUntouched("none");
+  EXPECT_TRUE(folder.written.empty());
+}
+
 TEST_F(RootPageTest, everyScreen_opensWithoutAWarning) {
   addStyles(1);
   for (const QString& name : ui::Shell::screenNames()) {

@@ -77,5 +77,4 @@ FocusScope {
         width: parent.width
         height: 50
     }
-    Component.onCompleted: root.appear()
 }

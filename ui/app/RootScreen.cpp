@@ -20,8 +20,8 @@ RootScreen::RootScreen(const Platform& platform)
       pager_(pagerFor(platform, screen_)),
       view_(screen_.onChange([this] { update(); })) {}
 
-void RootScreen::appear() {
-  screen_.appear();
+void RootScreen::appear(bool launches) {
+  launches ? screen_.appear() : screen_.appearBeneath();
   BannerAd(platform_, adUnitID).makeView();
   // Another process that makes or changes a style ends with a reload of the widgets.
   reloads_ = platform_.widgetCenter.watchReloads([this] { screen_.reloadConfigs(); });

@@ -23,6 +23,8 @@ class RootScreen final : public QObject {
   Q_PROPERTY(vitrelle::ui::StyleList* styles READ styles CONSTANT)
   Q_PROPERTY(bool showsCards READ showsCards NOTIFY changed)
   Q_PROPERTY(bool showsCreateCard READ showsCreateCard NOTIFY changed)
+  Q_PROPERTY(bool canBeChanged READ canBeChanged NOTIFY changed)
+  Q_PROPERTY(bool launchWaits READ launchWaits NOTIFY changed)
   Q_PROPERTY(bool showingAlert READ showingAlert NOTIFY changed)
   Q_PROPERTY(bool showOnboarding READ showOnboarding NOTIFY changed)
   Q_PROPERTY(bool showUpdateFromOne READ showUpdateFromOne NOTIFY changed)
@@ -46,6 +48,8 @@ class RootScreen final : public QObject {
   StyleList* styles() { return &styles_; }
   bool showsCards() const { return screen_.showsCards(); }
   bool showsCreateCard() const { return screen_.showsCreateCard(); }
+  bool canBeChanged() const { return screen_.canBeChanged(); }
+  bool launchWaits() const { return screen_.launchWaits(); }
   bool showingAlert() const { return screen_.showingAlert(); }
   bool showOnboarding() const { return screen_.showOnboarding(); }
   bool showUpdateFromOne() const { return screen_.showUpdateFromOne(); }
@@ -57,7 +61,8 @@ class RootScreen final : public QObject {
   int page() const { return static_cast<int>(pager_.page()); }
   int pageCount() const { return static_cast<int>(pager_.items()); }
 
-  Q_INVOKABLE void appear();
+  /// Whether the start is one that decides about the launch.
+  Q_INVOKABLE void appear(bool launches);
   Q_INVOKABLE void contentAppear() { screen_.contentAppear(); }
   Q_INVOKABLE void select(int styleNumber) { screen_.selectConfig(styleNumber); }
   Q_INVOKABLE bool openWidgetCentre() { return screen_.openWidgetCentre(); }

@@ -13,49 +13,42 @@ FocusScope {
         if (page)
             page.closed();
     }
-    // Titles of the pages that have nothing to show yet, by the type name of their screen.
-    readonly property var titles: ({
-            "ModernKnowledgeCentre": qsTrId("app.help"),
-            "ModernWidgetCentre": qsTrId("app.widgetCentre"),
-            "ModernInfoCentre": qsTrId("app.info"),
-            "OnboardingView": qsTrId("app.welcome"),
-            "UpgradeView": qsTrId("app.upgrade"),
-            "WidgetSettingsView": qsTrId("app.settings"),
-            "UpdateWidgetDescription": qsTrId("app.widgetRefreshing"),
-            "WidgetShowingNothingDescription": qsTrId("app.widgetNoData"),
-            "WidgetNameDescription": qsTrId("app.widgetLabel"),
-            "InvalidDeepLink": qsTrId("app.invalidLink")
-        })
-    function openFamily(name: string) {
-        stack.push(familyPage, { "family": Shell.family(name) });
-    }
     function open(screen: string) {
-        if (screen === "ModernWidgetCentre")
-            return openFamily("text"); // until the centre has something to show
-        stack.push(plainPage, { "title": titles[screen] });
-    }
-    function openNamed(screen: string) {
-        if (screen === "" || screen === "ModernContentView")
-            return;
-        if (screen === "ModernNewLightDark")
-            stack.push(intakePage, { "intake": Shell.newStyle() });
-        else if (screen === "ModernChangeLightDark")
-            stack.push(intakePage, { "intake": Shell.changeStyle(0) });
-        else if (screen === "PerspectiveZoomDescription")
+        const entry = Shell.screenEntry(screen);
+        switch (entry.page) {
+        case "newStyle":
+        case "changeStyle":
+            if (Shell.root.canBeChanged)
+                stack.push(intakePage, { "intake": entry.page === "newStyle" ? Shell.newStyle() : Shell.changeStyle(0) });
+            else if (Shell.root.launchWaits)
+                Shell.showNotice(qsTrId("app.launchFirst"));
+            break;
+        case "perspectiveZoom":
             stack.push(perspectiveZoom);
-        else if (screen === "ModernFontPicker")
+            break;
+        case "fontPicker":
             stack.push(fontPicker);
-        else if (Shell.familyPart(screen).screen === "entry")
-            openFamily(Shell.familyPart(screen).family);
-        else if (Shell.familyPart(screen).screen !== "")
-            stack.push(familyFlow, { "family": Shell.family(Shell.familyPart(screen).family), "start": Shell.familyPart(screen).screen });
-        else
-            open(screen);
+            break;
+        case "plain":
+            stack.push(plainPage, { "title": entry.title });
+            break;
+        case "entry":
+            stack.push(familyPage, { "family": Shell.family(entry.family) });
+            break;
+        case "root":
+            break;
+        default:
+            stack.push(familyFlow, { "family": Shell.family(entry.family), "start": entry.page });
+        }
     }
 
     Keys.onEscapePressed: back()
     Keys.onBackPressed: back()
-    Component.onCompleted: openNamed(Shell.screen)
+    Component.onCompleted: {
+        Shell.root.appear(Shell.launches);
+        if (Shell.screen !== "")
+            open(Shell.screen);
+    }
 
     StackView {
         id: stack

@@ -1,0 +1,68 @@
+#include "ui/app/ScreenTable.h"
+
+#include "core/faces/FamilyScreens.h"
+#include "ui/lifecycle/FamilyWords.h"
+
+namespace vitrelle::ui {
+
+namespace {
+
+struct FamilyPage {
+  std::string_view FamilyDescription::*typeName;
+  const char* page;
+  bool needsEditor;
+};
+constexpr FamilyPage familyPages[] = {{&FamilyDescription::entryScreen, "entry", false},
+                                      {&FamilyDescription::setupScreen, "setup", true},
+                                      {&FamilyDescription::secondScreen, "second", true},
+                                      {&FamilyDescription::galleryScreen, "gallery", false},
+                                      {&FamilyDescription::assignScreen, "assign", false},
+                                      {&FamilyDescription::previewScreen, "preview", false}};
+
+QList<ScreenEntry> familyTableEntries() {
+  QList<ScreenEntry> entries;
+  for (const FamilyDescription& family : familyTable) {
+    const bool hasEditor = familyScreens(family.name).hasEditor();
+    for (const FamilyPage& page : familyPages) {
+      if (page.needsEditor && !hasEditor) continue;
+      entries += {.name = qText(family.*page.typeName),
+                  .page = QString::fromLatin1(page.page),
+                  .title = {},
+                  .family = qText(family.name)};
+    }
+  }
+  return entries;
+}
+
+QList<ScreenEntry> otherEntries() {
+  const auto plain = [](const char* name, const QString& title) {
+    return ScreenEntry{QString::fromLatin1(name), QStringLiteral("plain"), title, {}};
+  };
+  const auto own = [](const char* name, const char* page) {
+    return ScreenEntry{QString::fromLatin1(name), QString::fromLatin1(page), {}, {}};
+  };
+  return {own("ModernContentView", "root"),
+          own("ModernNewLightDark", "newStyle"),
+          own("ModernChangeLightDark", "changeStyle"),
+          own("PerspectiveZoomDescription", "perspectiveZoom"),
+          own("ModernFontPicker", "fontPicker"),
+          plain("ModernKnowledgeCentre", qtTrId("app.help")),
+          // Until the centre has something to show.
+          {QStringLiteral("ModernWidgetCentre"), QStringLiteral("entry"), {}, QStringLiteral("text")},
+          plain("ModernInfoCentre", qtTrId("app.info")),
+          plain("OnboardingView", qtTrId("app.welcome")),
+          plain("UpgradeView", qtTrId("app.upgrade")),
+          plain("WidgetSettingsView", qtTrId("app.settings")),
+          plain("UpdateWidgetDescription", qtTrId("app.widgetRefreshing")),
+          plain("WidgetShowingNothingDescription", qtTrId("app.widgetNoData")),
+          plain("WidgetNameDescription", qtTrId("app.widgetLabel")),
+          plain("InvalidDeepLink", qtTrId("app.invalidLink"))};
+}
+
+} // namespace
+
+QList<ScreenEntry> screenTable() {
+  return familyTableEntries() + otherEntries();
+}
+
+} // namespace vitrelle::ui
