@@ -12,6 +12,7 @@
 #include "host/drawing/DrawingProcess.h"
 #include "ui/Shell.h"
 #include "ui/Trouble.h"
+#include "ui/Unwritten.h"
 #include "ui/Words.h"
 
 #include <QDir>
@@ -142,8 +143,9 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
   ui::Shell* shell = nullptr;
   QString early; // what there is to tell before there is a shell
   bool suspended = false;
+  Platform onHome = host::makePlatform(cli::hostOptions(arguments.options), loop);
   Platform platform = ui::withTroubleTold(
-      host::makePlatform(cli::hostOptions(arguments.options), loop),
+      interactive ? std::move(onHome) : ui::withNothingWritten(std::move(onHome)),
       [&](ui::Trouble trouble, const Failure& failure) {
         const QString pattern = trouble == ui::Trouble::reading ? qtTrId("app.store.unreadable")
                                                                 : qtTrId("app.store.readOnly");
