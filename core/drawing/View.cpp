@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <utility>
 
 namespace vitrelle {
@@ -124,6 +125,7 @@ class SpacerNode final : public StretchedNode {
             std::isfinite(room.height) ? room.height : 0};
   }
   void draw(const Drawing&, const PointRect&, const PointSize&, DisplayList&) const override {}
+  bool isSpacer() const override { return true; }
 };
 
 /// One direction of a stack: along it the parts follow each other, across it they are aligned.
@@ -183,26 +185,45 @@ class StackNode final : public Node {
     return parts_.empty() ? 0 : spacing_ * static_cast<double>(parts_.size() - 1);
   }
 
-  /// What has a size of its own comes first; the others share what it leaves.
+  /// How much longer a part can become, in points.
+  double flexibility(const Drawing& drawing, const View& part, const PointSize& room) const {
+    constexpr double endless = std::numeric_limits<double>::infinity();
+    if (part.node().isFlexible(direction_.axis)) return endless;
+    const auto taken = [&](double along) {
+      PointSize offered = room;
+      offered.*direction_.along = along;
+      return part.node().size(drawing, offered).*direction_.along;
+    };
+    return taken(endless) - taken(0);
+  }
+
+  /// The order in which parts are offered room: what adapts the least first, spacers last.
+  std::vector<std::size_t> order(const Drawing& drawing, const PointSize& room) const {
+    std::vector<std::pair<bool, double>> ranks;
+    ranks.reserve(parts_.size());
+    const bool one = parts_.size() == 1; // measuring it would be in vain
+    for (const View& part : parts_)
+      ranks.emplace_back(part.node().isSpacer(), one ? 0 : flexibility(drawing, part, room));
+    std::vector<std::size_t> order(parts_.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::stable_sort(order, {}, [&](std::size_t i) { return ranks[i]; });
+    return order;
+  }
+
   std::vector<Share> shares(const Drawing& drawing, const PointSize& room) const {
     std::vector<Share> result(parts_.size());
+    const auto isSpacer = [](const View& part) { return part.node().isSpacer(); };
+    const auto spacers = std::ranges::count_if(parts_, isSpacer);
+    auto waiting = std::ssize(parts_) - spacers;
     double left = room.*direction_.along - gaps();
-    double flexible = 0;
-    const auto offer = [&](std::size_t i, double along) {
-      result[i].offered = room;
-      result[i].offered.*direction_.along = std::max(along, 0.0);
-      result[i].taken = parts_[i].node().size(drawing, result[i].offered);
-    };
-    for (std::size_t i = 0; i < parts_.size(); ++i) {
-      if (parts_[i].node().isFlexible(direction_.axis)) {
-        ++flexible;
-        continue;
-      }
-      offer(i, left);
-      left -= result[i].taken.*direction_.along;
-    }
-    for (std::size_t i = 0; i < parts_.size(); ++i) {
-      if (parts_[i].node().isFlexible(direction_.axis)) offer(i, left / flexible);
+    for (const std::size_t i : order(drawing, room)) {
+      if (waiting == 0) waiting = spacers;
+      Share& share = result[i];
+      share.offered = room;
+      share.offered.*direction_.along = std::max(left / static_cast<double>(waiting), 0.0);
+      share.taken = parts_[i].node().size(drawing, share.offered);
+      left -= share.taken.*direction_.along;
+      --waiting;
     }
     return result;
   }

@@ -50,6 +50,8 @@ class View final {
                       DisplayList& to) const = 0;
     /// Whether it takes all the room that there is in a direction.
     virtual bool isFlexible(Axis) const { return false; }
+    /// Whether it does nothing but keep other parts of a stack apart: it has what they leave.
+    virtual bool isSpacer() const { return false; }
   };
 
   explicit View(std::shared_ptr<const Node> node) : node_(std::move(node)) {}
@@ -73,6 +75,8 @@ View picture(const Image& image, double cornerRadius = 0);
 /// Nothing, as long as the stack allows.
 View spacer();
 
+/// A stack offers each of its parts an equal share of the room that is left, and begins with those
+/// that adapt the least, so that what they do not need goes to the others.
 View hstack(std::vector<View> parts, Place vertical = Place::centre,
             double spacing = defaultSpacing);
 View vstack(std::vector<View> parts, Place horizontal = Place::centre,

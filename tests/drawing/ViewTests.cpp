@@ -81,6 +81,18 @@ TEST_F(ViewTest, flexibleParts_shareWhatIsLeft) {
       << "a marker at the top edge";
 }
 
+TEST_F(ViewTest, longTexts_shareARowEvenly) {
+  const std::string sentence(40, 'x'); // 200 wide
+  EXPECT_EQ(places(hstack({letters(sentence), letters(sentence)}, Place::centre, 10)),
+            sentence + "@0,25 " + sentence + "@55,25 ");
+  EXPECT_EQ(places(hstack({letters(sentence), letters("ab"), box(20, 10)}, Place::centre, 0)),
+            sentence + "@0,25 ab@70,25 80,25-100,35 ")
+      << "what is short or fixed keeps its size";
+  EXPECT_EQ(places(hstack({letters(sentence), spacer(), box(20, 10)}, Place::centre, 0)),
+            sentence + "@0,25 80,25-100,35 ")
+      << "a space has what the others leave";
+}
+
 TEST_F(ViewTest, fixedWidth_leavesTheRestOfARowToOthers) {
   EXPECT_EQ(places(hstack({box(20, std::nullopt), spacer(), letters("ab")}, Place::centre, 0)),
             "0,0-20,60 ab@90,25 ");
