@@ -11,15 +11,18 @@
 
 #include <jpeglib.h>
 
+#include <jerror.h>
+
 namespace vitrelle::host {
 
 namespace {
 
-/// libjpeg's error handler with a way back. Warnings mean damaged pixels, so they count as errors.
+/// libjpeg's error handler with a way back.
 struct Errors {
   jpeg_error_mgr manager; // first: libjpeg hands back a pointer to it
   std::jmp_buf back;
   char complaint[JMSG_LENGTH_MAX];
+  bool inScan; ///< whether the last marker began a scan, so that pixels follow it
 };
 
 [[noreturn]] void fail(j_common_ptr common) {
@@ -28,8 +31,30 @@ struct Errors {
   std::longjmp(errors->back, 1);
 }
 
-void failOnWarning(j_common_ptr common, int level) {
-  if (level < 0) fail(common);
+/// Follows the markers, which libjpeg tells as it reads them, through `inScan`.
+void noteMarker(Errors& errors) {
+  switch (errors.manager.msg_code) {
+  case JTRC_SOS:
+    errors.inScan = true;
+    break;
+  case JTRC_DAC:
+  case JTRC_DHT:
+  case JTRC_DQT:
+  case JTRC_DRI:
+  case JTRC_MISC_MARKER:
+    errors.inScan = false;
+    break;
+  default:
+    break;
+  }
+}
+
+/// Warnings mean damaged pixels, so they count as errors, but for stray bytes between two markers:
+/// those no pixel comes from. Stray bytes behind a scan were pixels that lost their way.
+void hear(j_common_ptr common, int level) {
+  auto& errors = *reinterpret_cast<Errors*>(common->err);
+  if (level >= 0) return noteMarker(errors);
+  if (errors.manager.msg_code != JWRN_EXTRANEOUS_DATA || errors.inScan) fail(common);
 }
 
 void ignore(j_common_ptr) {}
@@ -50,7 +75,7 @@ class Decompression final {
   explicit Decompression(std::span<const std::uint8_t> bytes) : bytes_(bytes) {
     info_.err = jpeg_std_error(&errors_.manager);
     errors_.manager.error_exit = fail;
-    errors_.manager.emit_message = failOnWarning;
+    errors_.manager.emit_message = hear;
     errors_.manager.output_message = ignore;
   }
   ~Decompression() { jpeg_destroy_decompress(&info_); }

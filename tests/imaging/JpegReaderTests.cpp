@@ -104,5 +104,42 @@ TEST(JpegReader, incompleteFile_isRefusedAtEveryLength) {
   }
 }
 
+/// Where the nth marker of a kind is, from 0; the end of the file when there are fewer.
+std::size_t findMarker(const Data& file, std::uint8_t kind, int nth) {
+  for (std::size_t i = 2; i + 1 < file.size(); ++i) {
+    if (file[i] == 0xFF && file[i + 1] == kind && nth-- == 0) return i;
+  }
+  return file.size();
+}
+
+TEST(JpegReader, strayBytesBetweenMarkers_areSkippedButNotBehindPixels) {
+  constexpr std::uint8_t quantisation = 0xDB;
+  constexpr std::uint8_t huffman = 0xC4;
+  constexpr std::uint8_t startOfScan = 0xDA;
+  constexpr std::uint8_t endOfImage = 0xD9;
+  // More than the decoder reads ahead, which it never misses.
+  const Data stray(20, 0x47);
+  const auto strayBefore = [&](Data file, std::uint8_t marker, int nth) {
+    const std::size_t place = findMarker(file, marker, nth);
+    EXPECT_LT(place, file.size());
+    file.insert(file.begin() + static_cast<std::ptrdiff_t>(place), stray.begin(), stray.end());
+    return file;
+  };
+  for (const bool progressive : {false, true}) {
+    const Data file = writeJpeg({.progressive = progressive});
+    const auto plain = decodeJpeg(file);
+    for (const std::uint8_t marker : {quantisation, huffman, startOfScan}) {
+      const auto picture = decodeJpeg(strayBefore(file, marker, 0));
+      ASSERT_TRUE(picture) << int{marker} << ' ' << picture.failure().why;
+      EXPECT_EQ(picture->bitmap.row(9)[50], plain->bitmap.row(9)[50]);
+    }
+    EXPECT_FALSE(decodeJpeg(strayBefore(file, endOfImage, 0)));
+  }
+  // A later scan's table follows the pixels of the scan before, its start follows that table.
+  const Data scans = writeJpeg({.progressive = true});
+  EXPECT_TRUE(decodeJpeg(strayBefore(scans, startOfScan, 1)));
+  EXPECT_FALSE(decodeJpeg(strayBefore(scans, huffman, 2)));
+}
+
 } // namespace
 } // namespace vitrelle::host
