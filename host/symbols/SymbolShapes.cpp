@@ -21,14 +21,63 @@ struct Bounds {
   double height() const { return bottom - top; }
 };
 
-/// Of the control points, which no curve reaches out of.
+/// One coordinate of a cubic curve.
+struct Curve {
+  double start;
+  double near;
+  double far;
+  double end;
+
+  double at(double t) const {
+    const double u = 1 - t;
+    return u * u * u * start + 3 * u * u * t * near + 3 * u * t * t * far + t * t * t * end;
+  }
+  /// Where on its way it turns back, if it does.
+  std::vector<double> turns() const {
+    const double a = end - start + 3 * (near - far);
+    const double b = 2 * (start - 2 * near + far);
+    const double c = near - start;
+    std::vector<double> found;
+    const auto add = [&](double t) {
+      if (t > 0 && t < 1) found.push_back(t);
+    };
+    if (std::abs(a) < 1e-9) {
+      if (b != 0) add(-c / b);
+      return found;
+    }
+    const double root = std::sqrt(std::max(b * b - 4 * a * c, 0.0));
+    add((-b + root) / (2 * a));
+    add((-b - root) / (2 * a));
+    return found;
+  }
+};
+
+/// Of what is drawn: control points may lie far outside of it.
 Bounds boundsOf(const Path& path) {
   Bounds bounds;
-  for (const PathPoint& point : path.points) {
-    bounds.left = std::min(bounds.left, point.x);
-    bounds.top = std::min(bounds.top, point.y);
-    bounds.right = std::max(bounds.right, point.x);
-    bounds.bottom = std::max(bounds.bottom, point.y);
+  const auto addX = [&](double x) {
+    bounds.left = std::min(bounds.left, x);
+    bounds.right = std::max(bounds.right, x);
+  };
+  const auto addY = [&](double y) {
+    bounds.top = std::min(bounds.top, y);
+    bounds.bottom = std::max(bounds.bottom, y);
+  };
+  std::size_t next = 0;
+  for (const PathCommand command : path.commands) {
+    const PathPoint* point = path.points.data() + next;
+    next += pointCount(command);
+    if (command == PathCommand::close) continue;
+    if (command == PathCommand::cubic) {
+      const Curve x{point[-1].x, point[0].x, point[1].x, point[2].x};
+      const Curve y{point[-1].y, point[0].y, point[1].y, point[2].y};
+      for (const double t : x.turns())
+        addX(x.at(t));
+      for (const double t : y.turns())
+        addY(y.at(t));
+    }
+    addX(path.points[next - 1].x);
+    addY(path.points[next - 1].y);
   }
   return bounds;
 }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <string>
 
@@ -241,6 +243,51 @@ TEST(Symbols, filledShape_hasItsGlyphAsAHole) {
   // The ring's inner edge is what the disc lacks.
   EXPECT_LT(disc.path.commands.size(), ring.path.commands.size());
   EXPECT_NE(symbols.outline("y.circle.fill").path, symbols.outline("x.circle.fill").path);
+}
+
+TEST(Symbols, glyphWithinAShape_fillsItsRoom) {
+  // A heart, whose control points lie far beside it, is as wide in its ring as a star is.
+  const Symbols symbols = makeSymbols();
+  for (const char* name : {"heart.circle", "star.circle", "drop.circle"}) {
+    const SymbolOutline symbol = symbols.outline(name);
+    const PathPoint* before = nullptr;
+    double left = symbol.width;
+    double right = 0;
+    double top = symbol.height;
+    double bottom = 0;
+    std::size_t next = 0;
+    int closed = 0;
+    for (const PathCommand command : symbol.path.commands) {
+      const PathPoint* point = symbol.path.points.data() + next;
+      next += pointCount(command);
+      if (command == PathCommand::close) ++closed;
+      if (command == PathCommand::close || closed < 2) continue; // the ring's two edges
+      constexpr int steps = 50;
+      for (int i = 1; command == PathCommand::cubic && i <= steps; ++i) {
+        const double t = i / double{steps};
+        const double u = 1 - t;
+        const auto along = [&](double PathPoint::*way) {
+          return u * u * u * before->*way + 3 * u * u * t * point[0].*way +
+                 3 * u * t * t * point[1].*way + t * t * t * point[2].*way;
+        };
+        left = std::min(left, along(&PathPoint::x));
+        right = std::max(right, along(&PathPoint::x));
+        top = std::min(top, along(&PathPoint::y));
+        bottom = std::max(bottom, along(&PathPoint::y));
+      }
+      before = symbol.path.points.data() + next - 1;
+      left = std::min(left, before->x);
+      right = std::max(right, before->x);
+      top = std::min(top, before->y);
+      bottom = std::max(bottom, before->y);
+    }
+    const double width = right - left;
+    const double height = bottom - top;
+    EXPECT_TRUE(std::max(width, height) > 8.45 || std::hypot(width, height) > 10.95)
+        << name << ' ' << width << " by " << height;
+    EXPECT_NEAR((left + right) / 2, 8, 0.01) << name;
+    EXPECT_NEAR((top + bottom) / 2, 8, 0.01) << name;
+  }
 }
 
 } // namespace vitrelle::host
