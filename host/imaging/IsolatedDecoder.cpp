@@ -1,5 +1,7 @@
 #include "host/imaging/IsolatedDecoder.h"
 
+#include "host/files/Descriptor.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
@@ -20,28 +22,13 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-class Descriptor final {
- public:
-  /// Takes the number of a standard stream, which is free in a program that was started without
-  /// it, to a higher one: the child's own streams go there.
-  explicit Descriptor(int number = -1) : number_(number) {
-    if (number < 0 || number > STDERR_FILENO) return;
-    number_ = fcntl(number, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
-    close(number);
-  }
-  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
-  Descriptor& operator=(Descriptor&& other) noexcept {
-    std::swap(number_, other.number_);
-    return *this;
-  }
-  ~Descriptor() {
-    if (number_ >= 0) close(number_);
-  }
-  int get() const { return number_; }
-
- private:
-  int number_;
-};
+/// Takes the number of a standard stream, which is free in a program that was started without it,
+/// to a higher one: the child's own streams go there.
+Descriptor beyondStreams(int number) {
+  Descriptor file(number);
+  if (number < 0 || number > STDERR_FILENO) return file;
+  return Descriptor(fcntl(number, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+}
 
 /// A process that is gone at the end, whatever it does.
 class Child final {
@@ -68,8 +55,8 @@ class Child final {
 
 /// A file in memory that holds the bytes and that nobody can change any more.
 std::optional<Descriptor> sealedFile(std::span<const std::uint8_t> bytes) {
-  Descriptor file(memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING));
-  if (file.get() < 0) return std::nullopt;
+  Descriptor file = beyondStreams(memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING));
+  if (!file) return std::nullopt;
   for (std::size_t done = 0; done < bytes.size();) { // the child reads from where this leaves it
     const ssize_t count =
         pwrite(file.get(), bytes.data() + done, bytes.size() - done, static_cast<off_t>(done));
@@ -91,8 +78,8 @@ struct Pipe {
 std::optional<Pipe> makePipe() {
   int ends[2] = {-1, -1};
   if (pipe2(ends, O_CLOEXEC) != 0) return std::nullopt;
-  Pipe pipe{Descriptor(ends[0]), Descriptor(ends[1])};
-  if (pipe.reading.get() < 0 || pipe.writing.get() < 0) return std::nullopt;
+  Pipe pipe{beyondStreams(ends[0]), beyondStreams(ends[1])};
+  if (!pipe.reading || !pipe.writing) return std::nullopt;
   constexpr int roomBytes = 1 << 20; // fewer turns for a picture; not granted to everyone
   fcntl(pipe.writing.get(), F_SETPIPE_SZ, roomBytes);
   return pipe;
