@@ -1,14 +1,18 @@
 #include "host/drawing/Fonts.h"
 
+#include <QFontDatabase>
+
 #include <fontconfig/fontconfig.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdlib>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -17,6 +21,7 @@ namespace vitrelle::host {
 namespace {
 
 constexpr const char* systemFamily = "Inter";
+constexpr const char* emojiFamily = "Noto Color Emoji";
 
 /// No widget has room for a larger letter, and numbers in stored records may be anything.
 constexpr double largestSize = 1000;
@@ -46,7 +51,7 @@ void forEachFace(FcPattern* wanted, Visit visit) {
   FcPatternAddBool(wanted, FC_VARIABLE, FcFalse);
   const std::unique_ptr<FcObjectSet, ObjectSetDelete> objects(
       FcObjectSetBuild(FC_FAMILY, FC_STYLE, FC_POSTSCRIPT_NAME, FC_WEIGHT, FC_SLANT, FC_WIDTH,
-                       FC_SYMBOL, FC_LANG, FC_FONTFORMAT, nullptr));
+                       FC_SYMBOL, FC_LANG, FC_CHARSET, FC_FONTFORMAT, FC_FILE, nullptr));
   const std::unique_ptr<FcFontSet, FontSetDelete> fonts(FcFontList(nullptr, wanted, objects.get()));
   if (fonts == nullptr) return;
   for (int i = 0; i < fonts->nfont; ++i) {
@@ -60,11 +65,30 @@ int number(const FcPattern* face, const char* object, int absent) {
   return value;
 }
 
+/// Whether it puts its signs at the codes of Western letters: it then has some at the control
+/// characters among those, and none beyond them.
+bool hasSignsForLetters(const FcPattern* face) {
+  constexpr FcChar32 firstControl = 0x80;
+  constexpr FcChar32 lastControl = 0x9F;
+  constexpr FcChar32 last = 0xFF;
+  FcCharSet* characters = nullptr;
+  if (FcPatternGetCharSet(face, FC_CHARSET, 0, &characters) != FcResultMatch) return false;
+  FcChar32 western = 0;
+  bool controls = false;
+  for (FcChar32 code = 0; code <= last; ++code) {
+    if (FcCharSetHasChar(characters, code) == FcFalse) continue;
+    ++western;
+    controls = controls || (code >= firstControl && code <= lastControl);
+  }
+  return controls && western == FcCharSetCount(characters);
+}
+
 /// Whether it has what a language is written with; fonts of signs and pictures have not.
 bool hasLetters(const FcPattern* face) {
   FcBool symbol = FcFalse;
   if (FcPatternGetBool(face, FC_SYMBOL, 0, &symbol) == FcResultMatch && symbol == FcTrue)
     return false;
+  if (hasSignsForLetters(face)) return false;
   FcLangSet* languages = nullptr;
   if (FcPatternGetLangSet(face, FC_LANG, 0, &languages) != FcResultMatch) return false;
   FcStrSet* names = FcLangSetGetLangs(languages);
@@ -78,14 +102,29 @@ bool hasLetters(const FcPattern* face) {
 /// How far a face is from an upright regular one of normal width.
 int distanceFromRegular(const FcPattern* face) {
   const int slant = number(face, FC_SLANT, FC_SLANT_ROMAN) == FC_SLANT_ROMAN ? 0 : 1000;
-  return slant + std::abs(number(face, FC_WEIGHT, FC_WEIGHT_REGULAR) - FC_WEIGHT_REGULAR) +
+  const int name = text(face, FC_STYLE) == "Regular" ? 0 : 1; // some bold ones do not say so
+  return slant + name + std::abs(number(face, FC_WEIGHT, FC_WEIGHT_REGULAR) - FC_WEIGHT_REGULAR) +
          std::abs(number(face, FC_WIDTH, FC_WIDTH_NORMAL) - FC_WIDTH_NORMAL);
 }
 
 struct Face {
   QString family;
   QString style;
+  // Families of one name from several makers are told apart by these alone.
+  QFont::Style slant;
+  int weight; ///< 400 is regular
 };
+
+QFont::Style slantOf(const FcPattern* face) {
+  switch (number(face, FC_SLANT, FC_SLANT_ROMAN)) {
+  case FC_SLANT_ITALIC:
+    return QFont::StyleItalic;
+  case FC_SLANT_OBLIQUE:
+    return QFont::StyleOblique;
+  default:
+    return QFont::StyleNormal;
+  }
+}
 
 std::optional<Face> findFace(const std::string& postScriptName) {
   std::optional<Face> found;
@@ -94,20 +133,53 @@ std::optional<Face> findFace(const std::string& postScriptName) {
                      reinterpret_cast<const FcChar8*>(postScriptName.c_str()));
   forEachFace(wanted, [&](const FcPattern* face) {
     if (found || text(face, FC_POSTSCRIPT_NAME) != postScriptName) return;
-    found = Face{QString::fromStdString(text(face, FC_FAMILY)),
-                 QString::fromStdString(text(face, FC_STYLE))};
+    found = Face{.family = QString::fromStdString(text(face, FC_FAMILY)),
+                 .style = QString::fromStdString(text(face, FC_STYLE)),
+                 .slant = slantOf(face),
+                 .weight = FcWeightToOpenType(number(face, FC_WEIGHT, FC_WEIGHT_REGULAR))};
   });
   return found;
 }
 
+/// The faces asked for so far, by their names.
+struct Known {
+  std::mutex mutex;
+  std::map<std::string, std::optional<Face>> faces;
+  std::chrono::steady_clock::time_point looked; ///< when new ones were last looked for
+};
+
+Known& known() {
+  static Known instance;
+  return instance;
+}
+
 /// Asking the font library takes longer than drawing a text, so answers are kept.
 std::optional<Face> installedFace(const std::string& postScriptName) {
-  static std::mutex mutex;
-  static std::map<std::string, std::optional<Face>> known;
-  const std::lock_guard lock(mutex);
-  const auto found = known.find(postScriptName);
-  if (found != known.end()) return found->second;
-  return known.emplace(postScriptName, findFace(postScriptName)).first->second;
+  Known& all = known();
+  const std::lock_guard lock(all.mutex);
+  const auto found = all.faces.find(postScriptName);
+  if (found != all.faces.end()) return found->second;
+  return all.faces.emplace(postScriptName, findFace(postScriptName)).first->second;
+}
+
+std::set<std::string> installedFiles() {
+  std::set<std::string> files;
+  forEachFace(FcPatternCreate(), [&](const FcPattern* face) { files.insert(text(face, FC_FILE)); });
+  return files;
+}
+
+/// The font library and Qt each know the fonts of the time when they were first asked.
+void lookForNewFonts() {
+  Known& all = known();
+  const std::lock_guard lock(all.mutex);
+  all.looked = std::chrono::steady_clock::now();
+  if (FcConfigUptoDate(nullptr) == FcTrue) return;
+  const std::set<std::string> before = installedFiles();
+  FcInitReinitialize();
+  all.faces.clear();
+  for (const std::string& file : installedFiles()) {
+    if (!before.contains(file)) QFontDatabase::addApplicationFont(QString::fromStdString(file));
+  }
 }
 
 std::vector<FontFamily> families() {
@@ -115,6 +187,7 @@ std::vector<FontFamily> families() {
     std::string postScriptName;
     int distance;
   };
+  lookForNewFonts();
   std::map<std::string, Regular> regulars;
   forEachFace(FcPatternCreate(), [&](const FcPattern* face) {
     const std::string family = text(face, FC_FAMILY);
@@ -131,10 +204,26 @@ std::vector<FontFamily> families() {
   return result;
 }
 
+void setSize(QFont& face, const Font& font, double pixelsPerPoint) {
+  face.setHintingPreference(QFont::PreferNoHinting);
+  face.setPixelSize(std::max(
+      1, static_cast<int>(std::lround(std::clamp(font.size, 0.0, largestSize) * pixelsPerPoint))));
+}
+
 } // namespace
 
 Fonts makeFonts() {
   return {.families = families};
+}
+
+void lookForFont(const std::string& postScriptName) {
+  constexpr std::chrono::seconds pause(1);
+  if (postScriptName.empty() || installedFace(postScriptName)) return;
+  const auto looked = [] {
+    const std::lock_guard lock(known().mutex);
+    return known().looked;
+  }();
+  if (std::chrono::steady_clock::now() - looked >= pause) lookForNewFonts();
 }
 
 QFont faceOf(const Font& font, double pixelsPerPoint) {
@@ -143,12 +232,21 @@ QFont faceOf(const Font& font, double pixelsPerPoint) {
   if (named) {
     face = QFont(named->family);
     face.setStyleName(named->style);
+    face.setStyle(named->slant);
+    face.setWeight(static_cast<QFont::Weight>(named->weight));
   } else {
     face.setWeight(static_cast<QFont::Weight>(font.weight));
   }
-  face.setHintingPreference(QFont::PreferNoHinting);
-  face.setPixelSize(std::max(
-      1, static_cast<int>(std::lround(std::clamp(font.size, 0.0, largestSize) * pixelsPerPoint))));
+  setSize(face, font, pixelsPerPoint);
+  return face;
+}
+
+QFont emojiFaceOf(const Font& font, double pixelsPerPoint) {
+  const QString family = QString::fromLatin1(emojiFamily);
+  QFont face(family);
+  // A selector that the font has no glyph for would be looked for in others, and part a picture.
+  if (QFontDatabase::hasFamily(family)) face.setStyleStrategy(QFont::NoFontMerging);
+  setSize(face, font, pixelsPerPoint);
   return face;
 }
 

@@ -1,6 +1,7 @@
 #include "host/drawing/Rasteriser.h"
 
 #include "host/drawing/Blur.h"
+#include "host/drawing/Fonts.h"
 #include "host/drawing/TextLayout.h"
 
 #include <QColor>
@@ -303,6 +304,7 @@ Result<Image> render(const Symbols& symbols, std::span<const DisplayList> layers
 Drawing makeDrawing(const Symbols& symbols) {
   return {.textSize =
               [](const std::string& text, const Font& font, const PointSize& room) {
+                lookForFont(font.name);
                 return layOutText(QString::fromStdString(text), font, room).size;
               },
           .render = [symbols](std::span<const DisplayList> layers, const PointRect& area,

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QTemporaryDir>
+
 #include <array>
 #include <cmath>
 #include <limits>
@@ -182,6 +184,8 @@ TEST_F(RasteriserTest, layers_lieOverEachOther) {
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
+  const QTemporaryDir data; // for fonts that a test installs
+  qputenv("XDG_DATA_HOME", data.path().toLocal8Bit());
   const vitrelle::host::DrawingProcess drawing;
   return RUN_ALL_TESTS();
 }
