@@ -1,8 +1,9 @@
 #include "host/drawing/TextLayout.h"
 
+#include "host/drawing/Emoji.h"
 #include "host/drawing/Fonts.h"
 
-#include <QFontMetricsF>
+#include <QTextBoundaryFinder>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -48,17 +49,47 @@ double roundedUp(double points) {
   return std::ceil(points * 4 - 1e-6) / 4;
 }
 
-void prepare(QTextLayout& layout, QTextOption::WrapMode wrap) {
-  QTextOption option;
-  option.setUseDesignMetrics(true);
-  option.setWrapMode(wrap);
-  layout.setTextOption(option);
-  layout.setCacheEnabled(true);
-}
+/// What the lines of a text have in common.
+struct Style {
+  Font font;
+  QFont face;
+  double width; ///< of the room, in units
+};
 
-bool isRightToLeft(const QString& paragraph) {
-  return paragraph.isRightToLeft();
-}
+/// The layout of a paragraph, or of a part of one, which has the whole one's direction.
+class Paragraph final {
+ public:
+  Paragraph(const QString& text, const Style& style, bool rightToLeft, QTextOption::WrapMode wrap)
+      : layout_(text, style.face) {
+    QTextOption option;
+    option.setUseDesignMetrics(true);
+    option.setWrapMode(wrap);
+    option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    layout_.setTextOption(option);
+    layout_.setCacheEnabled(true);
+    QList<QTextLayout::FormatRange> pictures;
+    for (const TextRange& range : emojiIn(text)) {
+      QTextCharFormat format;
+      format.setFont(emojiFaceOf(style.font, unitsPerPoint));
+      pictures.push_back({range.start, range.length, format});
+    }
+    if (!pictures.empty()) layout_.setFormats(pictures);
+    layout_.beginLayout();
+  }
+  ~Paragraph() { layout_.endLayout(); }
+  Paragraph(const Paragraph&) = delete;
+  Paragraph& operator=(const Paragraph&) = delete;
+
+  /// Not valid when there is none.
+  QTextLine nextLine(double width) {
+    QTextLine line = layout_.createLine();
+    if (line.isValid()) line.setLineWidth(width);
+    return line;
+  }
+
+ private:
+  QTextLayout layout_;
+};
 
 /// Adds a line of the layout below those that are there; `bottom` is in units.
 void append(TextLayout& to, const QTextLine& line, bool rightToLeft, double& bottom) {
@@ -80,49 +111,56 @@ void append(TextLayout& to, const QTextLine& line, bool rightToLeft, double& bot
   to.lines.push_back(std::move(added));
 }
 
+/// The longest beginning of the text that fits into a line with dots behind it; the whole text
+/// where that fits.
+QString elided(const QString& text, const Style& style, bool rightToLeft) {
+  const int fitting = Paragraph(text, style, rightToLeft, QTextOption::WrapAnywhere)
+                          .nextLine(style.width)
+                          .textLength();
+  if (fitting == text.size()) return text;
+  QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, text);
+  letters.setPosition(fitting);
+  for (qsizetype end = fitting;; end = letters.toPreviousBoundary()) {
+    QString shown = text.left(std::max(end, qsizetype{0})) + QChar(0x2026);
+    Paragraph line(shown, style, rightToLeft, QTextOption::NoWrap);
+    if (end <= 0 || line.nextLine(unboundedUnits).naturalTextWidth() <= style.width) return shown;
+  }
+}
+
 /// One line of the beginning of what is left.
-void appendElided(TextLayout& to, const QString& rest, const QFont& face, double width,
+void appendElided(TextLayout& to, const QString& rest, const Style& style, bool rightToLeft,
                   double& bottom) {
-  const QString shown = QFontMetricsF(face).elidedText(rest, Qt::ElideRight, width);
-  QTextLayout layout(shown, face);
-  prepare(layout, QTextOption::NoWrap);
-  layout.beginLayout();
-  QTextLine line = layout.createLine();
-  line.setLineWidth(unboundedUnits);
-  layout.endLayout();
-  append(to, line, isRightToLeft(shown), bottom);
+  Paragraph shown(elided(rest, style, rightToLeft), style, rightToLeft, QTextOption::NoWrap);
+  append(to, shown.nextLine(unboundedUnits), rightToLeft, bottom);
 }
 
 } // namespace
 
 TextLayout layOutText(const QString& text, const Font& font, const PointSize& room) {
-  const QFont face = faceOf(font, unitsPerPoint);
-  const double width = inUnits(room.width);
+  const Style style{
+      .font = font, .face = faceOf(font, unitsPerPoint), .width = inUnits(room.width)};
   const double height = inUnits(room.height);
   TextLayout result;
   double bottom = 0;
   const QStringList paragraphs = paragraphsOf(text);
   for (qsizetype i = 0; i < paragraphs.size(); ++i) {
-    const QString& paragraph = paragraphs[i];
-    QTextLayout layout(paragraph, face);
-    prepare(layout, QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-      line.setLineWidth(width);
-      const bool last = line.textStart() + line.textLength() >= paragraph.size();
+    const QString& words = paragraphs[i];
+    const bool rightToLeft = words.isRightToLeft();
+    Paragraph paragraph(words, style, rightToLeft, QTextOption::WrapAtWordBoundaryOrAnywhere);
+    for (QTextLine line = paragraph.nextLine(style.width); line.isValid();
+         line = paragraph.nextLine(style.width)) {
+      const bool last = line.textStart() + line.textLength() >= words.size();
       const bool nothingFollows = last && i + 1 == paragraphs.size();
       const bool another = bottom + 2 * line.height() <= height + 1e-6;
       if (!nothingFollows && !another) {
-        layout.endLayout();
-        QString rest = paragraph.mid(line.textStart());
+        QString rest = words.mid(line.textStart());
         if (last) rest += QChar(0x2026); // a paragraph follows that is not shown
-        appendElided(result, rest, face, width, bottom);
+        appendElided(result, rest, style, rightToLeft, bottom);
         result.size = {roundedUp(result.size.width), roundedUp(bottom / unitsPerPoint)};
         return result;
       }
-      append(result, line, isRightToLeft(paragraph), bottom);
+      append(result, line, rightToLeft, bottom);
     }
-    layout.endLayout();
   }
   result.size = {roundedUp(result.size.width), roundedUp(bottom / unitsPerPoint)};
   return result;

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <string>
+#include <utility>
 
 namespace vitrelle::host {
 namespace {
@@ -73,6 +75,44 @@ TEST(TextLayout, direction_isThatOfTheParagraph) {
 TEST(TextLayout, combiningMarks_takeNoRoom) {
   const double plain = layOut("e", endless, endless).size.width;
   EXPECT_NEAR(layOut("e\u0301", endless, endless).size.width, plain, 1);
+}
+
+TEST(TextLayout, emoji_areOnePictureEach) {
+  const double one = layOut("🎉", endless, endless).size.width;
+  for (const char* picture :
+       {"❤️", "👍🏽", "✌🏿", "🇩🇪", "👨‍👩‍👧", "1️⃣", "#⃣",
+        "🏴󠁧󠁢󠁥󠁮󠁧󠁿", "❤️‍🔥", "☎️"}) {
+    const TextLayout layout = layOut(picture, endless, endless);
+    EXPECT_EQ(layout.size.width, one) << picture;
+    for (const QGlyphRun& run : layout.lines[0].runs)
+      EXPECT_EQ(run.rawFont().familyName(), QStringLiteral("Noto Color Emoji")) << picture;
+  }
+  EXPECT_EQ(layOut("🇩🇪🇫🇷🎉", endless, endless).size.width, 3 * one);
+  for (const char* letter : {"5", "#", "©", "☎", "❤︎", "é"}) {
+    const TextLayout layout = layOut(letter, endless, endless);
+    for (const QGlyphRun& run : layout.lines[0].runs)
+      EXPECT_NE(run.rawFont().familyName(), QStringLiteral("Noto Color Emoji")) << letter;
+  }
+}
+
+TEST(TextLayout, cutLine_keepsTheDirectionOfItsParagraph) {
+  const char* text = "שלום this is English for a few lines";
+  const TextLayout whole = layOut(text, 100, endless);
+  const TextLayout cut = layOut(text, 100, 50);
+  ASSERT_GT(whole.lines.size(), 2U);
+  ASSERT_EQ(cut.lines.size(), 2U);
+  EXPECT_TRUE(cut.lines[1].rightToLeft) << "though no letter in it is";
+  const auto glyphAtLeft = [](const TextLine& line) {
+    std::pair<double, quint32> leftmost{endless, 0};
+    for (const QGlyphRun& run : line.runs) {
+      for (qsizetype i = 0; i < run.glyphIndexes().size(); ++i)
+        leftmost = std::min(leftmost, {run.positions()[i].x(), run.glyphIndexes()[i]});
+    }
+    return leftmost.second;
+  };
+  EXPECT_EQ(glyphAtLeft(cut.lines[1]), glyphAtLeft(layOut("…", endless, endless).lines[0]))
+      << "the dots are at the end, which is on the left";
+  EXPECT_FALSE(layOut("English and then\nשלום", 60, 20).lines[0].rightToLeft);
 }
 
 } // namespace
