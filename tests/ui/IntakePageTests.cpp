@@ -5,6 +5,9 @@
 #include <QImage>
 #include <QMimeData>
 
+#include <string>
+#include <tuple>
+
 namespace vitrelle {
 namespace {
 
@@ -60,6 +63,29 @@ TEST_F(IntakePageTest, pressingAHalf_opensThePickerAndCancellingItHarmsNothing) 
   EXPECT_TRUE(driver->eventually([&] { return !picking(); }));
   EXPECT_TRUE(folder.written.empty());
   EXPECT_EQ(console.reloads, 2) << "the launch's and the cancelled picker's";
+}
+
+TEST_F(IntakePageTest, press_choosesTheHalfInWhichItEnds) {
+  phone.bounds = {390, 844}; // its half is a whole number
+  setNumber("amountOfConfigs", 1);
+  addStyle(0);
+  folder.images.insert_or_assign("picked.png", screenshot);
+  const std::tuple<int, int, const char*> cases[] = {{60, 300, "0originalDark.png"},
+                                                     {300, 60, "0original.png"},
+                                                     {300, 194, "0original.png"},
+                                                     {60, 195, "0originalDark.png"},
+                                                     {195, 195, "0originalDark.png"}};
+  for (const auto& [from, to, written] : cases) {
+    SCOPED_TRACE(std::to_string(from) + " to " + std::to_string(to));
+    open({.screen = QStringLiteral("ModernChangeLightDark"), .framed = false, .animated = false});
+    folder.written.clear();
+    driver->drag({from, 400}, to - from);
+    auto* intake = driver->find("intakePage")->property("intake").value<ui::IntakeScreen*>();
+    ASSERT_TRUE(intake->isPickerOpen());
+    intake->pick(QUrl::fromLocalFile(QStringLiteral("/group/picked.png")));
+    ASSERT_FALSE(folder.written.empty());
+    EXPECT_EQ(folder.written.front(), written);
+  }
 }
 
 TEST_F(IntakePageTest, halfAStyle_isTakenBackOnLeaving) {

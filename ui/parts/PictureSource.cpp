@@ -32,8 +32,8 @@ QImage whole(const Bitmap& bitmap) {
   const bool aligned =
       bitmap.bytesPerRow % 4 == 0 && reinterpret_cast<std::uintptr_t>(bitmap.pixels) % 4 == 0;
   if (aligned)
-    return {bitmap.pixels, size.width(), size.height(),
-            static_cast<qsizetype>(bitmap.bytesPerRow), format};
+    return {bitmap.pixels, size.width(), size.height(), static_cast<qsizetype>(bitmap.bytesPerRow),
+            format};
   QImage copy(size, format);
   for (int y = 0; y < copy.height(); ++y)
     std::memcpy(copy.scanLine(y), bitmap.row(y), static_cast<std::size_t>(size.width()) * 4);

@@ -9,7 +9,8 @@ Item {
     property int role: Accessible.Button
     property real focusRadius: 12
     property bool ringed: true // else it shows in its own way where the keys go
-    readonly property bool held: tap.pressed
+    property bool tappable: true // else what lies above it takes the presses
+    property bool held: tap.pressed
 
     signal pressed
     /// A right click, or a long press.
@@ -28,6 +29,7 @@ Item {
 
     TapHandler {
         id: tap
+        enabled: pressable.tappable
         // Takes the press for itself, so that nothing beneath is pressed as well.
         gesturePolicy: TapHandler.ReleaseWithinBounds
         onTapped: pressable.pressed()

@@ -31,8 +31,9 @@ Page {
                 height: cells.height
                 intake: page.intake
                 dark: modelData
-                // The halves of the screen decide, wherever in them the press ends.
-                onPressed: page.intake.tap(x + width / 2)
+                tappable: false
+                held: gesture.pressed && gesture.dark === dark
+                onPressed: page.intake.choose(dark)
                 onMenuAsked: position => menu.open(cell, position)
                 Keys.onPressed: event => {
                     if (event.matches(StandardKey.Paste)) {
@@ -42,6 +43,14 @@ Page {
                 }
             }
         }
+    }
+    MouseArea { // one gesture over both halves: where it ends decides, wherever it began
+        id: gesture
+
+        readonly property bool dark: mapToItem(page, mouseX, 0).x >= page.width / 2
+
+        anchors.fill: cells
+        onReleased: event => page.intake.tap(mapToItem(page, event.x, 0).x)
     }
     CellMenu {
         id: menu
