@@ -81,6 +81,12 @@ TEST_F(FamilyPageTest, style_isMadeFromTheRootFoundAndEdited) {
   driver->click("tile0", Qt::RightButton);
   driver->click("editEntry");
   waitFor("setupPage");
+  driver->click("sheetClose");
+  waitForEndOf("setupPage");
+  EXPECT_TRUE(driver->isShown("galleryPage")) << "the form closes, and not the gallery with it";
+  driver->click("tile0", Qt::RightButton);
+  driver->click("editEntry");
+  waitFor("setupPage");
   EXPECT_EQ(text("textField"), "Hi there");
   EXPECT_EQ(text("stepperWords"), "Size: 19");
   driver->find("textField")->forceActiveFocus();

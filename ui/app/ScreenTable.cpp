@@ -41,22 +41,23 @@ QList<ScreenEntry> otherEntries() {
   const auto own = [](const char* name, const char* page) {
     return ScreenEntry{QString::fromLatin1(name), QString::fromLatin1(page), {}, {}};
   };
-  return {own("ModernContentView", "root"),
-          own("ModernNewLightDark", "newStyle"),
-          own("ModernChangeLightDark", "changeStyle"),
-          own("PerspectiveZoomDescription", "perspectiveZoom"),
-          own("ModernFontPicker", "fontPicker"),
-          plain("ModernKnowledgeCentre", qtTrId("app.help")),
-          // Until the centre has something to show.
-          {QStringLiteral("ModernWidgetCentre"), QStringLiteral("entry"), {}, QStringLiteral("text")},
-          plain("ModernInfoCentre", qtTrId("app.info")),
-          plain("OnboardingView", qtTrId("app.welcome")),
-          plain("UpgradeView", qtTrId("app.upgrade")),
-          plain("WidgetSettingsView", qtTrId("app.settings")),
-          plain("UpdateWidgetDescription", qtTrId("app.widgetRefreshing")),
-          plain("WidgetShowingNothingDescription", qtTrId("app.widgetNoData")),
-          plain("WidgetNameDescription", qtTrId("app.widgetLabel")),
-          plain("InvalidDeepLink", qtTrId("app.invalidLink"))};
+  return {
+      own("ModernContentView", "root"),
+      own("ModernNewLightDark", "newStyle"),
+      own("ModernChangeLightDark", "changeStyle"),
+      own("PerspectiveZoomDescription", "perspectiveZoom"),
+      own("ModernFontPicker", "fontPicker"),
+      plain("ModernKnowledgeCentre", qtTrId("app.help")),
+      // Until the centre has something to show.
+      {QStringLiteral("ModernWidgetCentre"), QStringLiteral("entry"), {}, QStringLiteral("text")},
+      plain("ModernInfoCentre", qtTrId("app.info")),
+      plain("OnboardingView", qtTrId("app.welcome")),
+      plain("UpgradeView", qtTrId("app.upgrade")),
+      plain("WidgetSettingsView", qtTrId("app.settings")),
+      plain("UpdateWidgetDescription", qtTrId("app.widgetRefreshing")),
+      plain("WidgetShowingNothingDescription", qtTrId("app.widgetNoData")),
+      plain("WidgetNameDescription", qtTrId("app.widgetLabel")),
+      plain("InvalidDeepLink", qtTrId("app.invalidLink"))};
 }
 
 } // namespace

@@ -16,9 +16,9 @@ struct ScreenEntry {
   Q_PROPERTY(QString family MEMBER family CONSTANT)
 
  public:
-  QString name;   ///< type name
-  QString page;   ///< "root", "newStyle", "changeStyle", "perspectiveZoom", "fontPicker", "plain"; of a
-                  ///< family "entry", "setup", "second", "gallery", "assign" or "preview"
+  QString name; ///< type name
+  QString page; ///< "root", "newStyle", "changeStyle", "perspectiveZoom", "fontPicker", "plain"; of
+                ///< a family "entry", "setup", "second", "gallery", "assign" or "preview"
   QString title;  ///< of a plain page, in the language of now
   QString family; ///< by its name in the family table; empty for other screens
 };

@@ -39,7 +39,7 @@ FocusScope {
         GalleryPage {
             id: galleryItem
             onClosed: flow.closed()
-            onEditAsked: stack.push(setupPage, { "editor": galleryItem.gallery.editor(), "hasBack": true, "hasClose": false, "gallery": galleryItem.gallery })
+            onEditAsked: stack.push(setupPage, { "editor": galleryItem.gallery.editor(), "gallery": galleryItem.gallery })
         }
     }
     Component {
@@ -49,8 +49,11 @@ FocusScope {
             property GalleryScreen gallery: null // the way back
 
             onSaved: stack.push(colourPage, { "editor": setupItem.editor.next(), "gallery": setupItem.gallery })
-            onClosed: flow.closed()
-            onBackAsked: {
+            onClosed: {
+                if (!setupItem.gallery) {
+                    flow.closed();
+                    return;
+                }
                 stack.pop();
                 setupItem.gallery.dismissEdit();
             }
