@@ -32,8 +32,8 @@ struct Sheet {
   std::string file;
   std::string frame; ///< "158x158" in points; the slot's when it is empty
   std::string slot = "topLeftSmall";
-  std::string background; ///< "RRGGBB", or "slice"
-  int scale = 3;
+  std::string background;   ///< "RRGGBB", or "slice"
+  std::optional<int> scale; ///< the phone's when it is not told
   bool list = false;
 };
 
@@ -51,6 +51,12 @@ PlatformColour platformColour(const Colour& colour) {
   return {colour.red, colour.green, colour.blue, colour.alpha};
 }
 
+/// The pixels of a screenshot in one point, which slots are measured in. A zoomed display has more
+/// than its scale says.
+double phoneScale(const Platform& platform) {
+  return platform.device.screenNativeScale();
+}
+
 /// The slot's, on the screen of the phone; what a gallery shows where there are no measurements.
 PointSize slotSize(const Platform& platform, WidgetLocationImageNames slot) {
   const WidgetMeasurements measured = Measurements::current(platform);
@@ -59,7 +65,7 @@ PointSize slotSize(const Platform& platform, WidgetLocationImageNames slot) {
     return {side, side};
   }
   const PixelRect pixels = slotRectangle(slot, measured);
-  const double scale = platform.device.screenNativeScale();
+  const double scale = phoneScale(platform);
   return {static_cast<double>(pixels.width) / scale, static_cast<double>(pixels.height) / scale};
 }
 
@@ -139,8 +145,8 @@ Status draw(const Platform& platform, const Sheet& sheet, const View& view) {
   const auto behind = background(platform, sheet, frame);
   if (!behind) return behind.failure();
   const std::array layers{*behind, face};
-  const auto picture =
-      platform.drawing.render(layers, {0, 0, frame.width, frame.height}, sheet.scale);
+  const double scale = sheet.scale ? *sheet.scale : phoneScale(platform);
+  const auto picture = platform.drawing.render(layers, {0, 0, frame.width, frame.height}, scale);
   if (!picture) return picture.failure();
   const PngFile file{sheet.file, *picture};
   const auto written = platform.images.writePngFiles({&file, 1});
@@ -176,9 +182,8 @@ void addSheetOptions(CLI::App& command, Sheet& sheet) {
       ->capture_default_str();
   command.add_option("--frame", sheet.frame, "Another size, in points")
       ->check(CLI::Validator(whyNoFrame, "WIDTHxHEIGHT"));
-  command.add_option("--scale", sheet.scale, "Pixels per point")
-      ->check(wholeNumber(1, 3))
-      ->capture_default_str();
+  command.add_option("--scale", sheet.scale, "Pixels per point; the phone's when it is not told")
+      ->check(wholeNumber(1, 3));
   command
       .add_option("--background", sheet.background,
                   "What is behind: a colour, or 'slice' for the slot's of the style in use")

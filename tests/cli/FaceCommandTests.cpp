@@ -31,6 +31,23 @@ TEST_F(FaceCommandTest, text_isDrawnAtTheSlotsSize) {
   EXPECT_EQ(plain.row(20)[4 * 40], 0x33);
 }
 
+TEST_F(FaceCommandTest, everyPhone_hasFacesAsLargeAsItsSlices) {
+  const auto sizeOn = [&](const std::vector<std::string>& told) {
+    std::vector<std::string> arguments{"face", "text", "--text", "x", file()};
+    arguments.insert(arguments.end(), told.begin(), told.end());
+    EXPECT_EQ(run(arguments).status, 0);
+    return readPicture(file()).size;
+  };
+  EXPECT_EQ(sizeOn({"--phone", "iPhone 15 Pro", "--zoomed"}), (PixelSize{421, 421}));
+  EXPECT_EQ(sizeOn({"--phone", "iPhone 15 Pro", "--zoomed", "--slot", "topMedium"}),
+            (PixelSize{875, 421}));
+  EXPECT_EQ(sizeOn({"--phone", "iPhone 11"}), (PixelSize{338, 338}));
+  EXPECT_EQ(sizeOn({"--phone", "iPhone 11", "--zoomed"}), (PixelSize{310, 310}));
+  EXPECT_EQ(sizeOn({"--phone", "iPhone SE (2nd generation)", "--zoomed"}), (PixelSize{282, 282}));
+  EXPECT_EQ(sizeOn({"--phone", "iPhone 11", "--scale", "3"}), (PixelSize{507, 507}));
+  EXPECT_EQ(sizeOn({"--phone", "iPhone 11", "--frame", "40x20"}), (PixelSize{80, 40}));
+}
+
 TEST_F(FaceCommandTest, record_isDrawnOverItsSlice) {
   const std::string screenshot = writePicture("screen.png", test::positionImage(1179, 2556));
   ASSERT_EQ(run({"style", "new", "--light", screenshot, "--dark", screenshot}).status, 0);
