@@ -1,16 +1,24 @@
-// Garbage in the store. The first byte chooses: a whole file of the rest, or one row of it in a
-// good file. Reading, writing and watching never crash, a value that was written can be read, and
-// every key can be asked for a value of its type.
+// Garbage in the store. The first byte's lowest bit chooses: a whole file of the rest, or one row
+// of it in a good file; the other bits choose a key. Reading, writing and watching never crash, a
+// value that was written can be read, what changed is told to those who watch, and a key can be
+// asked for a value of any type.
 #include "core/store/GroupStore.h"
 #include "host/store/SqliteDefaults.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <set>
 #include <string>
+#include <string_view>
 #include <tuple>
+#include <utility>
+#include <variant>
+
 #include <unistd.h>
 
 #include <sqlite3.h>
@@ -20,65 +28,30 @@ namespace {
 namespace fs = std::filesystem;
 using namespace vitrelle;
 
-const fs::path& home() {
-  static const fs::path folder = [] {
-    std::string pattern = fs::temp_directory_path() / "stored-values.XXXXXX";
-    const fs::path made = mkdtemp(pattern.data());
-    std::atexit([] { fs::remove_all(home()); });
-    return made;
-  }();
-  return folder;
-}
+/// Made in memory if the system has a place for that, since every write is synced.
+class Folder final {
+ public:
+  Folder() {
+    const fs::path memory = "/dev/shm";
+    const bool hasMemory = access(memory.c_str(), W_OK) == 0;
+    std::string pattern = (hasMemory ? memory : fs::temp_directory_path()) / "stored-values.XXXXXX";
+    path_ = mkdtemp(pattern.data());
+  }
+  ~Folder() { fs::remove_all(path_); }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+  const fs::path& path() const { return path_; }
 
-Defaults open() {
-  return host::makeSqliteDefaults(
-      home(), {.whenReadable = [](int, const std::function<void()>&) { return Subscription(); },
-               .every = [](double, const std::function<void()>&) { return Subscription(); }});
-}
+ private:
+  fs::path path_;
+};
 
-std::string groupFile() {
-  return home() / (std::string(groupIdentifier) + ".sqlite");
-}
-
-/// The bytes as one row of every key: a type, and a value of SQLite's own four kinds.
-void putRow(const std::uint8_t* bytes, std::size_t size) {
-  static const char* const types[] = {"Int",  "Double", "Bool",    "String",
-                                      "Data", "Date",   "removed", "x"};
-  if (size < 1 || !open().set(Suite::group, "any", true)) return;
-  sqlite3* database = nullptr;
-  sqlite3_stmt* insert = nullptr;
-  sqlite3_open(groupFile().c_str(), &database);
-  sqlite3_prepare_v2(database, "INSERT OR REPLACE INTO kv VALUES(?1, ?2, ?3, 7)", -1, &insert,
-                     nullptr);
-  const auto length = static_cast<int>(size - 1);
-  const auto* content = reinterpret_cast<const char*>(bytes + 1);
-  const std::string text(content, size - 1);
-  std::apply(
-      [&](const auto&... keys) {
-        const auto put = [&](const char* key) {
-          sqlite3_bind_text(insert, 1, key, -1, SQLITE_STATIC);
-          sqlite3_bind_text(insert, 2, types[bytes[0] & 7], -1, SQLITE_STATIC);
-          switch (bytes[0] >> 3 & 3) {
-          case 0:
-            sqlite3_bind_int64(insert, 3, std::strtoll(text.c_str(), nullptr, 10));
-            break;
-          case 1:
-            sqlite3_bind_double(insert, 3, std::strtod(text.c_str(), nullptr));
-            break;
-          case 2:
-            sqlite3_bind_text(insert, 3, content, length, SQLITE_STATIC);
-            break;
-          default:
-            sqlite3_bind_blob(insert, 3, content, length, SQLITE_STATIC);
-          }
-          sqlite3_step(insert);
-          sqlite3_reset(insert);
-        };
-        (put(keys.name), ...);
-      },
-      keys::groupKeys);
-  sqlite3_finalize(insert);
-  sqlite3_close(database);
+/// A folder of this name for a store.
+fs::path makeHome(const char* name) {
+  static const Folder folder;
+  const fs::path home = folder.path() / name;
+  fs::create_directory(home);
+  return home;
 }
 
 /// A Platform whose other operations are never called.
@@ -100,34 +73,151 @@ Platform platformOf(Defaults defaults) {
           .symbols = {}};
 }
 
-void readEverything(const GroupStore& store) {
-  std::apply([&](const auto&... keys) { (static_cast<void>(store.valueOrDefault(keys)), ...); },
-             keys::groupKeys);
-  forEachFamily([&](const auto& family) { static_cast<void>(store.loadRecords(family)); });
+/// The key's value as each type that a reader may ask for, and as records if it is a family's.
+void readAsAnything(const GroupStore& store, const char* key) {
+  const auto as = [&]<class... Values>(const std::variant<Values...>*) {
+    (static_cast<void>(store.valueOrDefault(Key<Values>{Suite::group, key, Absence::isAState})),
+     ...);
+  };
+  as(static_cast<const StoreValue*>(nullptr));
+  forEachFamily([&](const auto& family) {
+    if (std::string_view(family.records.name) == key) static_cast<void>(store.loadRecords(family));
+  });
 }
+
+constexpr auto keyNames =
+    std::apply([](const auto&... keys) { return std::array{keys.name...}; }, keys::groupKeys);
+
+/// A store that is watched, kept from one input to the next: opening one and ending a watch take
+/// many times as long as all that is done with them.
+class KeptStore final {
+ public:
+  explicit KeptStore(const char* name) : home_(makeHome(name)) {}
+
+  const Defaults& defaults() const { return platform_.defaults; }
+  GroupStore values() const { return GroupStore(platform_); }
+  std::string file() const { return home_ / (std::string(groupIdentifier) + ".sqlite"); }
+
+  /// The keys that changed since the last time, as a program's loop would deliver them.
+  const std::set<std::string>& news() {
+    told_.clear();
+    wake_();
+    return told_;
+  }
+
+ private:
+  Defaults open() {
+    return host::makeSqliteDefaults(
+        home_, {.whenReadable =
+                    [this](int, const std::function<void()>& wake) {
+                      wake_ = wake;
+                      return Subscription();
+                    },
+                .every = [](double, const std::function<void()>&) { return Subscription(); }});
+  }
+
+  fs::path home_;
+  std::function<void()> wake_;
+  std::set<std::string> told_;
+  Platform platform_ = platformOf(open());
+  Subscription watch_ = platform_.defaults.watchKeys(
+      Suite::group, [this](const std::string& key) { told_.insert(key); });
+};
+
+/// The bytes as the store's file.
+void useFile(const char* key, const std::uint8_t* bytes, std::size_t size) {
+  static KeptStore store("files");
+  for (const char* suffix : {"", "-journal", "-wal", "-shm"})
+    fs::remove(store.file() + suffix);
+  std::ofstream(store.file(), std::ios::binary)
+      .write(reinterpret_cast<const char*>(bytes), static_cast<std::streamsize>(size));
+  store.news();
+  if (store.defaults().keys(Suite::group)) {
+    readAsAnything(store.values(), key);
+  } else { // for nobody, whatever is asked; each time, what can't be opened is tried anew
+    static_cast<void>(store.defaults().value(Suite::group, key));
+  }
+  if (store.defaults().set(Suite::group, "written", Data(bytes, bytes + size))) {
+    static_cast<void>(store.defaults().value(Suite::group, "written")); // which may be lost again
+    store.news();
+  }
+}
+
+/// Rows in a good file, put there beside the store as another program would.
+class RowsStore final {
+ public:
+  RowsStore() {
+    const bool made = store_.defaults().set(Suite::group, "any", true).ok();
+    const std::string file = store_.file();
+    constexpr const char* put = "INSERT OR REPLACE INTO kv VALUES(?1, ?2, ?3, ?4)";
+    if (!made || sqlite3_open(file.c_str(), &database_) != SQLITE_OK ||
+        sqlite3_prepare_v2(database_, put, -1, &put_, nullptr) != SQLITE_OK) {
+      std::abort();
+    }
+  }
+  ~RowsStore() {
+    sqlite3_finalize(put_);
+    sqlite3_close(database_);
+  }
+  RowsStore(const RowsStore&) = delete;
+  RowsStore& operator=(const RowsStore&) = delete;
+
+  /// The bytes are the row's type, of which the key may be removed, and its value.
+  void use(const char* key, const std::uint8_t* bytes, std::size_t size) {
+    putRow(key, bytes, size);
+    if (store_.news().count(key) == 0) std::abort();
+    readAsAnything(store_.values(), key);
+
+    const StoreValue value = Data(bytes, bytes + size);
+    const Defaults& defaults = store_.defaults();
+    if (!defaults.set(Suite::group, "written", value)) return;
+    const auto read = defaults.value(Suite::group, "written");
+    if (!read || *read != value || store_.news().count("written") == 0) std::abort();
+    static_cast<void>(defaults.keys(Suite::group));
+  }
+
+ private:
+  void putRow(const char* key, const std::uint8_t* bytes, std::size_t size) {
+    static const char* const types[] = {"Int",  "Double", "Bool",    "String",
+                                        "Data", "Date",   "removed", "x"};
+    const std::string text(reinterpret_cast<const char*>(bytes + 1), size - 1);
+    sqlite3_bind_text(put_, 1, key, -1, SQLITE_STATIC);
+    sqlite3_bind_text(put_, 2, types[bytes[0] & 7], -1, SQLITE_STATIC);
+    switch (bytes[0] >> 3 & 3) {
+    case 0:
+      sqlite3_bind_int64(put_, 3, std::strtoll(text.c_str(), nullptr, 10));
+      break;
+    case 1:
+      sqlite3_bind_double(put_, 3, std::strtod(text.c_str(), nullptr));
+      break;
+    case 2:
+      sqlite3_bind_text64(put_, 3, text.data(), text.size(), SQLITE_STATIC, SQLITE_UTF8);
+      break;
+    default:
+      sqlite3_bind_blob64(put_, 3, text.data(), text.size(), SQLITE_STATIC);
+    }
+    sqlite3_bind_int64(put_, 4, revision_);
+    revision_ += 2; // the store's own write takes the one between
+    if (sqlite3_step(put_) != SQLITE_DONE) std::abort();
+    sqlite3_reset(put_);
+  }
+
+  KeptStore store_{"rows"};
+  sqlite3* database_ = nullptr;
+  sqlite3_stmt* put_ = nullptr;
+  std::int64_t revision_ = 2;
+};
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-  if (size == 0) return 0;
-  for (const char* suffix : {"", "-wal", "-shm"})
-    fs::remove(groupFile() + suffix);
+  if (size < 2) return 0;
+  const char* key = keyNames[(bytes[0] >> 1) % keyNames.size()];
   if (bytes[0] & 1) {
-    std::ofstream(groupFile(), std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes + 1), static_cast<std::streamsize>(size - 1));
+    useFile(key, bytes + 1, size - 1);
   } else {
-    putRow(bytes + 1, size - 1);
+    static RowsStore store;
+    store.use(key, bytes + 1, size - 1);
   }
-  const Platform platform = platformOf(open());
-  const GroupStore store(platform);
-  readEverything(store);
-  const Subscription watch = platform.defaults.watchKeys(Suite::group, [](const auto&) {});
-  const StoreValue value = Data(bytes, bytes + size);
-  if (platform.defaults.set(Suite::group, "written", value)) {
-    const auto read = platform.defaults.value(Suite::group, "written");
-    const bool damaged = bytes[0] & 1; // such a file may forget
-    if (!damaged && (!read || *read != value)) std::abort();
-  }
-  static_cast<void>(platform.defaults.keys(Suite::group));
   return 0;
 }
