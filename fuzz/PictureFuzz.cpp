@@ -1,5 +1,5 @@
 // Any bytes as a picture file: refused, or decoded to a picture that survives being written. HEIC
-// is left out, which another library decodes in a process of its own.
+// is left out, which another library decodes in a process of its own: see DecoderAnswerFuzz.
 
 #include "host/imaging/JpegReader.h"
 #include "host/imaging/PngReader.h"
