@@ -1,7 +1,7 @@
 #include "tests/cli/Program.h"
 
 #include "host/imaging/ImageFile.h"
-#include "tests/imaging/LibpngPeer.h"
+#include "tests/host/imaging/LibpngPeer.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #include "ui/Trouble.h"
 
-#include "tests/app/AppTest.h"
+#include "tests/core/app/AppTest.h"
 
 namespace vitrelle {
 namespace {

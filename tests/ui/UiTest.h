@@ -1,7 +1,7 @@
 // The real pages, offscreen, driven by pointer and keys. Any warning of Qt or QML fails the test.
 #pragma once
 
-#include "tests/app/AppTest.h"
+#include "tests/core/app/AppTest.h"
 #include "ui/Shell.h"
 
 #include <QQuickItem>

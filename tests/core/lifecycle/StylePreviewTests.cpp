@@ -1,0 +1,52 @@
+#include "core/drawing/Describe.h"
+#include "core/faces/FamilyScreens.h"
+#include "tests/core/lifecycle/LifecycleTest.h"
+
+namespace vitrelle {
+namespace {
+
+class StylePreviewTest : public test::LifecycleTest {
+ protected:
+  std::string drawn() {
+    preview->appear();
+    return describe(preview->face({98, 98}));
+  }
+  std::unique_ptr<StylePreview> preview = familyScreens("text").preview(platform);
+};
+
+TEST_F(StylePreviewTest, style_isTheLastWithTheCurrentTag) {
+  storeStyles(3);
+  EXPECT_NE(drawn().find("text \"0\""), std::string::npos);
+  setNumber("textSelectedConfig", 2);
+  EXPECT_NE(drawn().find("text \"2\""), std::string::npos);
+  auto records = stored();
+  records[0].textConfigTag = 2;
+  records[2].textConfigTag = 2;
+  records[2].textWidgetTextColour = Colour::parse("102030");
+  store(records);
+  EXPECT_NE(drawn().find("text \"2\" in \"\" 18 102030"), std::string::npos);
+}
+
+TEST_F(StylePreviewTest, pages_preferTheLightScreenshot) {
+  setNumber("amountOfConfigs", 3);
+  addStyle(0);
+  addOriginal(1, darkStyle);
+  phone.userInterfaceStyle = darkStyle;
+  const auto pages = preview->pages();
+  ASSERT_EQ(pages.size(), 3U);
+  EXPECT_EQ(pages[0], (SliceName{"original", 0, lightStyle}));
+  EXPECT_EQ(pages[1], (SliceName{"original", 1, darkStyle}));
+  EXPECT_FALSE(pages[2]);
+}
+
+TEST_F(StylePreviewTest, widget_liesWhereTheTopLeftOneDoes) {
+  EXPECT_EQ(preview->pageSize(), (PointSize{393 / 1.5, 852 / 1.5}));
+  const PointRect box = preview->widgetBox();
+  EXPECT_DOUBLE_EQ(box.width, 393 * 0.25);
+  EXPECT_DOUBLE_EQ(box.height, box.width);
+  EXPECT_DOUBLE_EQ(box.y, 852 / 1.5 * 0.125);
+  EXPECT_DOUBLE_EQ(2 * box.x + box.width + 393 / 3.5, 393 / 1.5);
+}
+
+} // namespace
+} // namespace vitrelle
