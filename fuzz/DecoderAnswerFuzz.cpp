@@ -32,7 +32,8 @@ void require(bool holds) {
 
 bool isPlain(const Failure& failure) {
   return failure.what == "HEIC" && failure.why.size() <= 200 &&
-         std::ranges::all_of(failure.why, [](char letter) { return letter >= ' ' && letter <= '~'; });
+         std::ranges::all_of(failure.why,
+                             [](char letter) { return letter >= ' ' && letter <= '~'; });
 }
 
 void check(Wanted wanted, const DecodedPicture& picture) {
