@@ -1,11 +1,8 @@
 #include "core/lifecycle/Backdrop.h"
 
 #include "core/slicing/ImageLoader.h"
-#include "core/slicing/Measurements.h"
 #include "core/store/GroupStore.h"
 #include "core/store/Keys.h"
-
-#include <cmath>
 
 namespace vitrelle {
 
@@ -33,17 +30,7 @@ double panelWidth(const Platform& platform) {
 }
 
 PointSize mediumPreviewSize(const Platform& platform) {
-  // A phone without measurements gets the proportions of most of the others.
-  constexpr PixelRect usual{0, 0, 1014, 474};
-  Platform quiet = platform; // the lookup tells the debug console, which this is no news for
-  quiet.debugConsole.print = [](const std::string&) {};
-  const WidgetMeasurements measured = Measurements::current(quiet);
-  const PixelRect slot = measured.widgetSize > 0
-                             ? slotRectangle(WidgetLocationImageNames::mediumTop, measured)
-                             : usual;
-  const double width = panelWidth(platform);
-  return {width,
-          std::round(width * static_cast<double>(slot.height) / static_cast<double>(slot.width))};
+  return {panelWidth(platform), platform.device.screenBounds().width / 2.5};
 }
 
 } // namespace vitrelle

@@ -32,7 +32,8 @@ std::optional<SliceName> findSlice(const Platform& platform, WidgetLocationImage
 /// The slice of the style in use in the present appearance.
 std::optional<SliceName> currentSlice(const Platform& platform, WidgetLocationImageNames slot);
 
-/// How large a medium widget is shown above a form, in points: in the proportions of the phone's.
+/// How large a medium widget is shown above a form, in points. The slice is stretched into it,
+/// whatever the proportions of the phone's own widgets.
 PointSize mediumPreviewSize(const Platform& platform);
 
 /// How wide the panels of the forms are, and their medium widgets.

@@ -14,7 +14,7 @@ Pressable {
     objectName: "tile" + index
     width: gallery.tileSide
     height: gallery.tileSide
-    focusRadius: 27
+    focusRadius: 29
     name: qsTrId("app.gallery.tile").arg(index + 1)
     Accessible.description: SharedWords.galleryHint
     onPressed: menuAsked(Qt.point(width / 2, height / 2))

@@ -7,7 +7,7 @@ Item {
 
     required property backdropName name
     property int revision: 0
-    property real radius: 22
+    property real radius: 24 // of every widget preview
 
     ContinuousRectangle {
         anchors.fill: parent

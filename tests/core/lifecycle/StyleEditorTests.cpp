@@ -222,6 +222,12 @@ TEST_F(StyleEditorTest, twoCopies_lastSaveWins) {
   EXPECT_EQ(stored()[1].textWidgetText, "second");
 }
 
+TEST_F(StyleEditorTest, preview_hasTheSizeOfEveryMediumOne) {
+  const PointSize size = mediumPreviewSize(platform);
+  EXPECT_EQ(size.width, 333);
+  EXPECT_DOUBLE_EQ(size.height, 157.2);
+}
+
 TEST_F(StyleEditorTest, preview_standsOnTheSliceOfTheStyleInUse) {
   setNumber("selectedConfig", 3);
   addSlice("topMedium", 3, darkStyle);
