@@ -10,7 +10,6 @@
 #include <string>
 #include <string_view>
 #include <variant>
-#include <vector>
 
 namespace vitrelle {
 
@@ -22,7 +21,6 @@ enum class FormControl {
   font,       ///< a string: a PostScript name, picked on a sheet
   stepper,    ///< a number, shown behind the title
   toggle,     ///< a bool
-  segments,   ///< a number: which of the symbols
   colourWell, ///< a colour
 };
 
@@ -42,7 +40,6 @@ struct FormRow {
   std::function<void(Record&, const FormValue&)> set = {};
   std::function<bool(const Record&)> shown = {}; ///< always, when it is empty
   NumberRange range = {};
-  std::vector<std::string_view> symbols = {}; ///< of segments
 };
 
 /// A row over one field of the record.
@@ -64,7 +61,6 @@ struct ShownRow {
   FormControl control = FormControl::toggle;
   FormValue value;
   NumberRange range;
-  std::vector<std::string_view> symbols;
   bool operator==(const ShownRow&) const = default;
 };
 

@@ -68,7 +68,7 @@ class EditorForm {
     for (std::size_t i = 0; i < rows_.size(); ++i) {
       const FormRow<Record>& row = rows_[i];
       if (row.shown && !row.shown(record)) continue;
-      shown.push_back({i, row.title, row.control, row.get(record), row.range, row.symbols});
+      shown.push_back({i, row.title, row.control, row.get(record), row.range});
     }
     return shown;
   }

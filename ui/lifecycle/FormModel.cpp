@@ -3,7 +3,6 @@
 #include "ui/lifecycle/FamilyWords.h"
 
 #include <QColor>
-#include <QStringList>
 
 #include <algorithm>
 #include <limits>
@@ -12,14 +11,7 @@ namespace vitrelle::ui {
 
 namespace {
 
-enum Role {
-  titleRole = Qt::UserRole,
-  controlRole,
-  valueRole,
-  lowestRole,
-  highestRole,
-  symbolsRole
-};
+enum Role { titleRole = Qt::UserRole, controlRole, valueRole, lowestRole, highestRole };
 
 QVariant qValue(const FormValue& value) {
   struct Converter {
@@ -47,13 +39,6 @@ FormValue formValue(const QVariant& value, const FormValue& like) {
   return Colour{colour.redF(), colour.greenF(), colour.blueF(), colour.alphaF()};
 }
 
-QStringList qList(const std::vector<std::string_view>& words) {
-  QStringList list;
-  for (const std::string_view word : words)
-    list += qText(word);
-  return list;
-}
-
 } // namespace
 
 int FormModel::rowCount(const QModelIndex& parent) const {
@@ -74,16 +59,17 @@ QVariant FormModel::data(const QModelIndex& index, int role) const {
     return static_cast<int>(row.range.lowest);
   case highestRole:
     return static_cast<int>(row.range.highest);
-  case symbolsRole:
-    return qList(row.symbols);
   default:
     return {};
   }
 }
 
 QHash<int, QByteArray> FormModel::roleNames() const {
-  return {{titleRole, "title"},   {controlRole, "control"}, {valueRole, "value"},
-          {lowestRole, "lowest"}, {highestRole, "highest"}, {symbolsRole, "symbols"}};
+  return {{titleRole, "title"},
+          {controlRole, "control"},
+          {valueRole, "value"},
+          {lowestRole, "lowest"},
+          {highestRole, "highest"}};
 }
 
 void FormModel::setValue(int index, const QVariant& value) {

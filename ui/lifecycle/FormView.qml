@@ -24,11 +24,10 @@ Column {
             required property var value
             required property int lowest
             required property int highest
-            required property list<string> symbols
 
             width: Shell.screenWidth - 60
             // In the order of the controls that the logic has.
-            sourceComponent: [textRow, fontRow, stepperRow, toggleRow, segmentsRow, colourRow][control]
+            sourceComponent: [textRow, fontRow, stepperRow, toggleRow, colourRow][control]
 
             function set(now: var) {
                 form.rows.setValue(index, now);
@@ -66,15 +65,6 @@ Column {
                     title: row.title
                     value: row.value
                     onToggled: row.set(!row.value)
-                }
-            }
-            Component {
-                id: segmentsRow
-                SegmentsRow {
-                    title: row.title
-                    value: row.value
-                    symbols: row.symbols
-                    onPicked: now => row.set(now)
                 }
             }
             Component {
