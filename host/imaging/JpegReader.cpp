@@ -1,13 +1,16 @@
 #include "host/imaging/JpegReader.h"
 
+#include "host/imaging/BigEndian.h"
 #include "host/imaging/IccProfile.h"
 #include "host/imaging/PictureBounds.h"
 #include "host/imaging/PixelBuffer.h"
 
+#include <array>
 #include <csetjmp>
 #include <cstdio>
-#include <cstdlib>
+#include <cstring>
 #include <string>
+#include <string_view>
 
 #include <jpeglib.h>
 
@@ -88,7 +91,6 @@ class Decompression final {
     progress_.progress_monitor = limitScans;
     info_.progress = &progress_;
     jpeg_mem_src(&info_, bytes_.data(), bytes_.size());
-    jpeg_save_markers(&info_, JPEG_APP0 + 2, 0xFFFF); // where ICC profiles lie
     jpeg_read_header(&info_, TRUE);
     return true;
   }
@@ -115,16 +117,6 @@ class Decompression final {
     return true;
   }
 
-  Data icc() {
-    JOCTET* profile = nullptr;
-    unsigned int size = 0;
-    if (setjmp(errors_.back) != 0) return {};
-    if (!jpeg_read_icc_profile(&info_, &profile, &size)) return {};
-    Data data(profile, profile + size);
-    std::free(profile);
-    return isIccProfile(data) ? data : Data();
-  }
-
   Failure failure() const {
     return {"JPEG", std::string("the picture is damaged (") + errors_.complaint + ")"};
   }
@@ -135,6 +127,42 @@ class Decompression final {
   jpeg_progress_mgr progress_{};
   Errors errors_{};
 };
+
+/// The ICC profile, whose numbered parts lie in segments before the pixels. libjpeg would keep all
+/// segments of that kind in a list that it walks through for each: some minutes for a megabyte.
+Data readIcc(std::span<const std::uint8_t> file) {
+  constexpr std::uint8_t startOfScan = 0xDA;
+  constexpr std::uint8_t app2 = 0xE2;
+  constexpr std::string_view name("ICC_PROFILE", 12);     // with its zero
+  std::array<std::span<const std::uint8_t>, 256> parts{}; // by their numbers, from 1
+  std::size_t partCount = 0;
+  std::size_t at = 2;
+  while (at + 4 <= file.size() && file[at] == 0xFF && file[at + 1] != startOfScan) {
+    if (file[at + 1] == 0xFF) { // a filling byte
+      ++at;
+      continue;
+    }
+    const std::size_t length = readBigEndian16(&file[at + 2]); // its own two bytes included
+    if (length < 2 || length > file.size() - at - 2) break;
+    const auto content = file.subspan(at + 4, length - 2);
+    if (file[at + 1] == app2 && content.size() >= name.size() + 2 &&
+        std::memcmp(content.data(), name.data(), name.size()) == 0) {
+      const std::size_t number = content[name.size()];
+      const std::size_t of = content[name.size() + 1];
+      const bool fits = number >= 1 && number <= of && (partCount == 0 || partCount == of);
+      if (!fits || parts[number].data() != nullptr) return {};
+      parts[number] = content.subspan(name.size() + 2);
+      partCount = of;
+    }
+    at += 2 + length;
+  }
+  Data profile;
+  for (const auto& part : std::span(parts).subspan(1, partCount)) {
+    if (part.data() == nullptr) return {};
+    profile.insert(profile.end(), part.begin(), part.end());
+  }
+  return isIccProfile(profile) ? profile : Data();
+}
 
 /// Without a colour-managed conversion, the plain one. Adobe's files hold the inks inverted.
 void convertCmyk(std::uint8_t* rgba, std::size_t pixels, bool inverted) {
@@ -179,7 +207,7 @@ Result<DecodedPicture> decodeJpeg(std::span<const std::uint8_t> bytes) {
   const std::shared_ptr<std::uint8_t> pixels = allocatePixels(bytesPerRow * height);
   if (!pixels) return Failure{"JPEG", "not enough memory"};
   ColourProfile profile;
-  profile.icc = jpeg.icc();
+  profile.icc = readIcc(bytes);
   if (!jpeg.readPixels(pixels.get(), bytesPerRow)) return jpeg.failure();
   if (jpeg.isCmyk()) convertCmyk(pixels.get(), bytesPerRow * height / 4, jpeg.isInverted());
   return DecodedPicture{.bitmap = {.size = *size,

@@ -1,11 +1,16 @@
 #include "host/imaging/JpegReader.h"
 
+#include "host/imaging/BigEndian.h"
 #include "tests/host/imaging/LibpngPeer.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
+#include <string_view>
 
 #include <jpeglib.h>
 
@@ -84,14 +89,34 @@ TEST(JpegReader, cmyk_becomesRgb) {
 }
 
 TEST(JpegReader, iccProfile_isCarriedIfSound) {
-  Data icc(400);
-  icc[2] = 1;
-  icc[3] = 144;
-  std::copy_n("RGB ", 4, icc.begin() + 16);
-  std::copy_n("acsp", 4, icc.begin() + 36);
-  EXPECT_EQ(decodeJpeg(writeJpeg({.icc = icc})).value().profile.icc, icc);
-  icc[36] = 'x';
-  EXPECT_TRUE(decodeJpeg(writeJpeg({.icc = icc})).value().profile.icc.empty());
+  for (const std::uint32_t size : {400U, 65'519U, 65'520U, 200'000U}) { // of 1, 1, 2 and 4 parts
+    Data icc(size);
+    writeBigEndian32(icc.data(), size);
+    std::copy_n("RGB ", 4, icc.begin() + 16);
+    std::copy_n("acsp", 4, icc.begin() + 36);
+    icc.back() = 9;
+    Data file = writeJpeg({.icc = icc});
+    EXPECT_EQ(decodeJpeg(file).value().profile.icc, icc) << size;
+    constexpr std::string_view name = "ICC_PROFILE";
+    const auto last = std::find_end(file.begin(), file.end(), name.begin(), name.end());
+    last[12] = 9; // the part's number
+    EXPECT_TRUE(decodeJpeg(file).value().profile.icc.empty()) << size;
+    icc[36] = 'x';
+    EXPECT_TRUE(decodeJpeg(writeJpeg({.icc = icc})).value().profile.icc.empty()) << size;
+  }
+}
+
+TEST(JpegReader, manySegments_takeNoTime) {
+  Data file = writeJpeg({});
+  const std::uint8_t empty[] = {0xFF, 0xE2, 0, 2};
+  Data segments;
+  for (int i = 0; i < 200'000; ++i)
+    segments.insert(segments.end(), std::begin(empty), std::end(empty));
+  segments.insert(segments.end(), 1000, 0xFF); // which may fill the room between two
+  file.insert(file.begin() + 2, segments.begin(), segments.end());
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_TRUE(decodeJpeg(file));
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
 }
 
 TEST(JpegReader, incompleteFile_isRefusedAtEveryLength) {
