@@ -168,6 +168,7 @@ TEST_F(HeicFileTest, severalAtOnce_areDecodedAsOneByOne) {
 }
 
 TEST_F(HeicFileTest, damage_isRefusedOrDecodedButNeverFatal) {
+  testing::internal::CaptureStderr();
   const Data bytes = heic(write("a.png", test::writeWithLibpng(64, 48, {8, PNG_COLOR_TYPE_RGB})));
   for (std::size_t length = 12; length < bytes.size(); length += bytes.size() / 12) {
     const std::string why = whyNot(write(
@@ -181,6 +182,7 @@ TEST_F(HeicFileTest, damage_isRefusedOrDecodedButNeverFatal) {
       damaged[12 + random() % (damaged.size() - 12)] = static_cast<std::uint8_t>(random());
     EXPECT_NE(whyNot(write("damaged.heic", damaged)), "") << "round " << round;
   }
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "of the library's own";
 }
 
 TEST_F(ImageFileTest, writePngFiles_putsEachInPlaceAndReportsTheRest) {

@@ -120,6 +120,7 @@ TEST(JpegReader, manySegments_takeNoTime) {
 }
 
 TEST(JpegReader, incompleteFile_isRefusedAtEveryLength) {
+  testing::internal::CaptureStderr();
   for (const bool progressive : {false, true}) {
     const Data file = writeJpeg({.progressive = progressive});
     for (std::size_t length = 0; length + 2 < file.size(); length += 7) {
@@ -127,6 +128,7 @@ TEST(JpegReader, incompleteFile_isRefusedAtEveryLength) {
       EXPECT_FALSE(decodeJpeg(start)) << length << " of " << file.size();
     }
   }
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "of the library's own";
 }
 
 /// Where the nth marker of a kind is, from 0; the end of the file when there are fewer.

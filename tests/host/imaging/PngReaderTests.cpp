@@ -283,6 +283,7 @@ TEST(PngReader, streamOfAnotherLength_givesThePixelsOrIsRefused) {
 }
 
 TEST(PngReader, flippedBits_areRefusedOrHarmless) {
+  testing::internal::CaptureStderr();
   std::mt19937 random(1);
   for (const int colourType : {PNG_COLOR_TYPE_RGB, PNG_COLOR_TYPE_RGBA, PNG_COLOR_TYPE_GRAY}) {
     const Data file = test::writeWithLibpng(50, 30, {8, colourType});
@@ -295,6 +296,7 @@ TEST(PngReader, flippedBits_areRefusedOrHarmless) {
       EXPECT_EQ(test::packedPixels(picture->bitmap), pixels) << "checksums cover every pixel";
     }
   }
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "of the library's own";
 }
 
 TEST(PngReader, sizesThatLie_takeNoMemory) {
