@@ -3,6 +3,7 @@
 #include "cli/Interruption.h"
 #include "cli/Numbers.h"
 #include "core/app/ModernContentView.h"
+#include "core/slicing/WallpaperIntake.h"
 #include "core/store/GroupStore.h"
 #include "core/store/Keys.h"
 
@@ -103,9 +104,10 @@ bool prepareStore(const Platform& platform, bool hasAmount) {
 
 /// The style counts last: whatever ends the program before, its number is the next one's again.
 Exit makeNew(const Platform& platform, const Screenshots& screenshots) {
-  const Interruption interruption;
   const auto lock = lockHome(platform);
   if (!lock) return Exit::failed;
+  const Interruption interruption;
+  judgeAbandonedStyle(platform);
   const auto amount = GroupStore(platform).read(keys::amountOfConfigs);
   if (!amount) {
     complain(amount.failure());
@@ -147,8 +149,8 @@ bool exists(const Platform& platform, std::int64_t number) {
 }
 
 Exit change(const Platform& platform, const StyleArguments& arguments) {
-  const Interruption interruption;
   const auto lock = lockHome(platform);
+  const Interruption interruption;
   if (!lock || !exists(platform, arguments.number)) return Exit::failed;
   const auto cut = cutStyle(platform, arguments.number, arguments.screenshots);
   if (!cut) {

@@ -17,6 +17,8 @@ namespace {
 
 /// The slices of a move are written beside the launch, and are all there by then.
 constexpr double secondsUntilMoved = 2.0;
+/// A window that starts does not wait longer for a program that is changing styles.
+constexpr double patienceSeconds = 0.5;
 
 } // namespace
 
@@ -29,14 +31,39 @@ ModernContentView::ModernContentView(const Platform& platform)
       lastUsedAppVersion_(platform, keys::lastUsedAppVersion),
       configAmounts_(platform, keys::amountOfConfigs),
       selectedConfig_(platform, keys::selectedConfig) {
-  const auto redraw = [this](const std::optional<std::int64_t>&) { changed(); };
-  bindings_.push_back(configAmounts_.onChange(redraw));
-  bindings_.push_back(selectedConfig_.onChange(redraw));
+  const auto follow = [this](const auto&) { followStores(); };
+  bindings_.push_back(configAmounts_.onChange(follow));
+  bindings_.push_back(selectedConfig_.onChange(follow));
+  bindings_.push_back(lastUsedAppVersion_.onChange(follow));
+}
+
+/// A store that could not be read delivers its values anew when it can.
+void ModernContentView::followStores() {
+  if (isLaunchDelayed_) return appear();
+  if (isListOld_) reloadConfigs();
+  changed();
+}
+
+/// Whether the launch can be decided now. One that writes needs both stores read, since one that
+/// can't be read would pass for the first run, and no other program at work on the styles.
+bool ModernContentView::canLaunch(const Result<HomeLock>& lock) const {
+  const auto amount = configAmounts_.read();
+  const auto version = lastUsedAppVersion_.read();
+  if (!amount || !version) return false;
+  const bool writes = !*amount || !*version || isOfFirstGeneration(**version);
+  return !writes || lock;
 }
 
 void ModernContentView::appear() {
   takeBackAbandonedStyle(platform_);
-  if (const auto amount = configAmounts_.read(); amount && !*amount) resetCounts();
+  const Result<HomeLock> lock = platform_.files.lock(patienceSeconds);
+  isLaunchDelayed_ = launchWaits_ = !canLaunch(lock);
+  if (isLaunchDelayed_) {
+    platform_.widgetCenter.reloadAllTimelines();
+    changed();
+    return;
+  }
+  if (!configAmounts_.get()) resetCounts();
   platform_.debugConsole.print(std::to_string(amountOfConfigs()));
   platform_.debugConsole.print(deviceName(platform_));
   if (Measurements::current(platform_).widgetSize == 0) {
@@ -59,12 +86,8 @@ void ModernContentView::appearBeneath() {
   changed();
 }
 
-/// What kind of run this is shows only where both stores can be read: one that can't would pass for
-/// the first run, whose counts begin at 0.
 void ModernContentView::decideKindOfRun() {
-  const auto version = lastUsedAppVersion_.read();
-  if (!version || !configAmounts_.read()) return;
-  const std::optional<std::string>& stored = *version;
+  const auto stored = lastUsedAppVersion_.get();
   if (!stored) {
     showOnboarding_ = true;
     lastUsedAppVersion_.set(currentVersion());
@@ -114,9 +137,12 @@ void ModernContentView::moveLegacyImages() const {
 }
 
 void ModernContentView::reloadConfigs() {
+  const auto stored = configAmounts_.read();
+  isListOld_ = !stored;
+  if (isListOld_) return changed();
   vitrelleConfigs_.clear();
   const ImageLoader loader(platform_);
-  const std::int64_t amount = listed(amountOfConfigs());
+  const std::int64_t amount = listed(stored->value_or(0));
   for (std::int64_t number = 0; number < amount; ++number) {
     const auto light = loader.loadSlice("original", lightStyle, number);
     const auto dark = loader.loadSlice("original", darkStyle, number);

@@ -77,6 +77,8 @@ class ModernContentView final : public Screen {
   bool popoverIsPresented() const { return popoverIsPresented_; }
 
  private:
+  void followStores();
+  bool canLaunch(const Result<HomeLock>& lock) const;
   void decideKindOfRun();
   std::string currentVersion() const;
   void resetCounts() const;
@@ -91,6 +93,8 @@ class ModernContentView final : public Screen {
   std::optional<ActivePopoverContent> activePopover_;
   bool popoverIsPresented_ = false;
   bool launchWaits_ = false;
+  bool isLaunchDelayed_ = false; ///< until the stores tell what kind of run this is
+  bool isListOld_ = false;       ///< the styles could not be listed anew
   bool showUpdateFromOne_ = false;
   bool showOnboarding_ = false;
   bool showingAlert_ = false;

@@ -14,7 +14,7 @@ namespace vitrelle {
 namespace {
 
 /// Commands that cut pictures hold the lock for less.
-constexpr double patienceSeconds = 1;
+constexpr double patienceSeconds = 0.5;
 
 std::int64_t required(const std::optional<std::int64_t>& amount) {
   if (!amount) fatalError("amountOfConfigs is missing");
@@ -115,6 +115,7 @@ ModernNewLightDark::ModernNewLightDark(const Platform& platform)
 
 void ModernNewLightDark::appear() {
   WallpaperIntake::appear();
+  if (!obstacle()) judgeAbandonedStyle(platform());
   const auto amount = configAmount_.read();
   if (!amount) {
     setObstacle(amount.failure());
@@ -149,13 +150,17 @@ std::int64_t ModernNewLightDark::styleNumber() const {
 }
 
 void takeBackAbandonedStyle(const Platform& platform) {
+  // A home without such a style may be one that is not made yet, and is not made by looking.
+  if (!StoredValue<std::int64_t>(platform, keys::styleInTheMaking).get()) return;
+  if (const auto lock = platform.files.lock(0)) judgeAbandonedStyle(platform);
+}
+
+void judgeAbandonedStyle(const Platform& platform) {
   const StoredValue<std::int64_t> inTheMaking(platform, keys::styleInTheMaking);
-  if (!inTheMaking.get()) return;
-  const auto lock = platform.files.lock(0);
   const auto number = inTheMaking.get();
   const StoredValue<std::int64_t> amount(platform, keys::amountOfConfigs);
   const auto stored = amount.get();
-  if (!lock || !number || !stored || !canBeSearched(platform)) return;
+  if (!number || !stored || !canBeSearched(platform)) return;
   // Where another style was made since, there is no number to give back.
   const bool newest = *number < *stored && *number + 1 == *stored;
   if (newest && !newestIsComplete(platform, *stored)) {

@@ -112,9 +112,13 @@ class ModernChangeLightDark final : public WallpaperIntake {
   std::int64_t numberOfConfig_;
 };
 
-/// At a start, before styles are listed: where the last run ended in the midst of a new style, the
-/// style is judged as it would have been on leaving. Nothing happens while a program holds the lock
-/// of the home, for it may be at work on that style, nor where store or folder can't be read.
+/// For who holds the lock of the home, before a style is made: where a run ended in the midst of a
+/// new style, the style is judged as it would have been on leaving. Nothing happens where store or
+/// folder can't be read.
+void judgeAbandonedStyle(const Platform& platform);
+
+/// The same at a start, before styles are listed. Nothing happens while another program holds the
+/// lock, for it may be at work on that style.
 void takeBackAbandonedStyle(const Platform& platform);
 
 } // namespace vitrelle

@@ -145,6 +145,15 @@ TEST_F(StyleCommandTest, homeOfTheFirstGeneration_isLeftToTheApplication) {
   EXPECT_EQ(amount(), "");
 }
 
+TEST_F(StyleCommandTest, numberThatAKilledWindowLeft_isTakenBackFirst) {
+  ASSERT_EQ(make().status, 0);
+  // A window that was killed in the midst of style 1, which has no dark screenshot.
+  ASSERT_EQ(run({"defaults", "write", "amountOfConfigs", "-int", "2"}).status, 0);
+  ASSERT_EQ(run({"defaults", "write", "styleInTheMaking", "-int", "1", "--standard"}).status, 0);
+  EXPECT_EQ(make().output, "1\n");
+  EXPECT_EQ(amount(), "2\n");
+}
+
 TEST_F(StyleCommandTest, numbers_areTakenOnlyAsTheyAreWritten) {
   ASSERT_EQ(make().status, 0);
   for (const char* number :

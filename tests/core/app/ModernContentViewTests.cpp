@@ -80,8 +80,53 @@ TEST_F(ModernContentViewTest, storeThatCannotBeRead_passesForNoKindOfRun) {
     defaults.broken = {};
     EXPECT_EQ(defaults.values(Suite::group), before);
     EXPECT_EQ(storedVersion(), "2.2");
+    ASSERT_TRUE(platform.defaults.set(Suite::group, "selectedConfig", std::int64_t{2}));
     EXPECT_TRUE(root.showsCreateCard());
   }
+}
+
+TEST_F(ModernContentViewTest, launchOverAStoreThatCannotBeRead_isDecidedWhenItCan) {
+  defaults.broken = {Suite::standard};
+  ModernContentView root(platform);
+  root.appear();
+  root.contentAppear();
+  EXPECT_FALSE(root.showsCreateCard());
+  EXPECT_EQ(number("amountOfConfigs"), std::nullopt);
+  defaults.broken = {};
+  EXPECT_FALSE(root.showsCreateCard()) << "the first run would lose what is made before it";
+  ASSERT_TRUE(platform.defaults.remove(Suite::standard, "last_used_app_version"));
+  EXPECT_TRUE(root.showOnboarding());
+  EXPECT_EQ(number("amountOfConfigs"), 0);
+  EXPECT_TRUE(root.showsCreateCard());
+}
+
+TEST_F(ModernContentViewTest, firstRunBesideAProgramThatMakesAStyle_waitsForIt) {
+  auto lock = platform.files.lock(0);
+  ModernContentView root(platform);
+  root.appear();
+  EXPECT_FALSE(root.showOnboarding());
+  setNumber("selectedConfig", 0);
+  setStoredVersion("2.2");
+  lock = Failure{"test", "let go"};
+  ASSERT_TRUE(platform.defaults.set(Suite::group, "amountOfConfigs", std::int64_t{1}));
+  EXPECT_EQ(number("amountOfConfigs"), 1) << "it made one, and stored the version";
+  EXPECT_FALSE(root.showOnboarding());
+  EXPECT_TRUE(root.showsCreateCard());
+}
+
+TEST_F(ModernContentViewTest, stylesThatCannotBeListedNow_areListedWhenTheyCan) {
+  setStoredVersion("2.2");
+  setNumber("amountOfConfigs", 1);
+  addStyle(0);
+  ModernContentView root(platform);
+  root.appear();
+  root.contentAppear();
+  defaults.broken = {Suite::group};
+  root.reloadConfigs();
+  defaults.broken = {};
+  addStyle(1);
+  ASSERT_TRUE(platform.defaults.set(Suite::group, "amountOfConfigs", std::int64_t{2}));
+  EXPECT_EQ(listed(root), (std::vector<std::int64_t>{0, 1}));
 }
 
 TEST_F(ModernContentViewTest, upgradeWithinTheGeneration_isTakenAgainAtEachLaunch) {
