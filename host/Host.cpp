@@ -49,7 +49,7 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
   const HomeFolder& home = options.home;
   const PhoneChoice phone = choosePhone(home, options.phone);
   return {
-      .defaults = makeSqliteDefaults(home.path(), loop),
+      .defaults = makeSqliteDefaults(home.path(), loop, options.storePatience),
       .files = home.files(),
       .images = makeImages(home),
       .device = makeDevice(phone, options.dark),

@@ -12,6 +12,8 @@ struct HostOptions {
   HomeFolder home;
   PhoneOverrides phone;
   bool dark = false;    ///< the appearance
+  /// How long another program's lock on a store is waited for, in milliseconds.
+  int storePatience = 5000;
   bool verbose = false; ///< the debug console goes to stderr, else nowhere
 };
 

@@ -12,13 +12,15 @@ namespace {
 /// What has been told of and has not worked since.
 struct Told {
   std::function<void(Trouble, const Failure&)> tell;
+  std::function<void()> over;
   std::array<bool, 2> reading{}; ///< by suite
   std::array<bool, 2> writing{};
   bool files = false;
 
   void note(bool& told, Trouble trouble, const Failure* failure) const {
-    if (failure != nullptr && !told) tell(trouble, *failure);
-    told = failure != nullptr;
+    const bool wasTold = std::exchange(told, failure != nullptr);
+    if (failure != nullptr && !wasTold) tell(trouble, *failure);
+    if (failure == nullptr && wasTold) over();
   }
 };
 
@@ -29,9 +31,11 @@ const Failure* failureOf(const Result<T>& result) {
 
 } // namespace
 
-Platform withTroubleTold(Platform platform, std::function<void(Trouble, const Failure&)> tell) {
+Platform withTroubleTold(Platform platform, std::function<void(Trouble, const Failure&)> tell,
+                         std::function<void()> over) {
   const auto told = std::make_shared<Told>();
   told->tell = std::move(tell);
+  told->over = std::move(over);
   const auto index = [](Suite suite) { return suite == Suite::group ? 0U : 1U; };
 
   platform.defaults.value = [told, index, value = platform.defaults.value](Suite suite,

@@ -141,21 +141,22 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
               host::AppInstance* instance) {
   const bool interactive = arguments.screenshot.empty();
   ui::Shell* shell = nullptr;
-  QString early; // what there is to tell before there is a shell
+  QString told; // of trouble; shown as soon as there is a shell
   bool suspended = false;
-  Platform onHome = host::makePlatform(cli::hostOptions(arguments.options), loop);
+  host::HostOptions options = cli::hostOptions(arguments.options);
+  options.storePatience = 500; // the window stands still meanwhile
+  Platform onHome = host::makePlatform(options, loop);
   Platform platform = ui::withTroubleTold(
       interactive ? std::move(onHome) : ui::withNothingWritten(std::move(onHome)),
       [&](ui::Trouble trouble, const Failure& failure) {
         const QString pattern = trouble == ui::Trouble::reading ? qtTrId("app.store.unreadable")
                                                                 : qtTrId("app.store.readOnly");
-        const QString words =
-            pattern.arg(QString::fromStdString(failure.what + ": " + failure.why));
-        if (shell == nullptr) {
-          early = words;
-        } else {
-          shell->showNotice(words);
-        }
+        told = pattern.arg(QString::fromStdString(failure.what + ": " + failure.why));
+        if (shell != nullptr) shell->showNotice(told);
+      },
+      [&] {
+        if (shell != nullptr && shell->notice() == told) shell->dismissNotice();
+        told.clear();
       });
   platform.application.suspend = [&] {
     suspended = true; // a hidden window does not end the program
@@ -182,7 +183,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
                                 .animated = interactive,
                                 .launches = !interactive || arguments.screen.empty()});
   shell = &theShell;
-  if (!early.isEmpty()) shell->showNotice(early);
+  if (!told.isEmpty()) shell->showNotice(told);
   if (!theShell.open()) return 1;
   if (!interactive) return takeScreenshot(theShell, arguments.screenshot);
 

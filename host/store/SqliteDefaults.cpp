@@ -20,13 +20,14 @@ constexpr double slowPollSeconds = 1;
 
 class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults> {
   struct Watched {
-    Watched(const std::string& home, const char* name) : file(home, name) {}
+    Watched(const std::string& home, const char* name, int patience) : file(home, name, patience) {}
     SuiteFile file;
     /// Why the last read failed. Until one works again nothing is written: whoever writes may be
     /// about to put a little in the place of much that only could not be read.
     std::optional<Failure> unreadable;
-    std::set<std::string>
-        missed; ///< keys whose value could not be read when it was to be delivered
+    bool isTroubled = false;    ///< a read failed since the watchers were last told
+    bool isTroubleTold = false; ///< the watchers know that the suite can't be read
+    std::set<std::string> watchedKeys;
     SeenChanges seen;
     std::set<std::string> known; ///< every key seen so far in the present file
     Subscribers<const std::string&> subscribers;
@@ -36,15 +37,16 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
   static auto readIn(Watched& watch, Method method, Arguments&... arguments) {
     auto result = (watch.file.*method)(arguments...);
     watch.unreadable = result ? std::nullopt : std::optional(result.failure());
+    watch.isTroubled = watch.isTroubled || !result;
     watch.file.setPatient(result.ok());
     return result;
   }
 
  public:
-  SqliteDefaults(std::string home, EventLoop loop)
+  SqliteDefaults(std::string home, EventLoop loop, int patience)
       : home_(std::move(home)),
         loop_(std::move(loop)),
-        suites_{Watched(home_, groupIdentifier), Watched(home_, "standard")} {}
+        suites_{Watched(home_, groupIdentifier, patience), Watched(home_, "standard", patience)} {}
   ~SqliteDefaults() { stopListening(); }
   SqliteDefaults(const SqliteDefaults&) = delete;
   SqliteDefaults& operator=(const SqliteDefaults&) = delete;
@@ -62,6 +64,7 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
     if (unreadable) return *unreadable;
     SuiteFile& file = watched(suite).file;
     Status written = value ? file.set(key, *value) : file.remove(key);
+    file.setPatient(written.ok());
     if (written) {
       watchHome(); // it may be new
       file.poke();
@@ -76,7 +79,7 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
           if (changed == key) deliver(suite, key, subscriber);
         });
     const auto present = read(suite, &SuiteFile::value, key);
-    if (!present) watched(suite).missed.insert(key);
+    watched(suite).watchedKeys.insert(key);
     subscriber(present ? *present : std::nullopt);
     return subscription;
   }
@@ -99,24 +102,29 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
  private:
   Watched& watched(Suite suite) { return suites_[suite == Suite::group ? 0 : 1]; }
 
-  /// What can't be read now is delivered when it can.
+  /// What can't be read now is absent, and delivered anew when it can.
   void deliver(Suite suite, const std::string& key,
                const std::function<void(const std::optional<StoreValue>&)>& subscriber) {
     const auto value = read(suite, &SuiteFile::value, key);
-    value ? subscriber(*value) : static_cast<void>(watched(suite).missed.insert(key));
+    subscriber(value ? *value : std::nullopt);
   }
 
   /// The keys that changed since the last call; with another file, also those of the old one.
   std::set<std::string> news(Watched& watch) {
     const std::lock_guard lock(mutex_);
     const std::uint64_t fileBefore = watch.seen.file;
-    const bool couldBeRead = !watch.unreadable;
     const auto changes = readIn(watch, &SuiteFile::changes, watch.seen);
-    if (!changes) return {};
+    if (!changes) {
+      const bool isTold = std::exchange(watch.isTroubleTold, true);
+      return isTold ? std::set<std::string>() : watch.watchedKeys;
+    }
+    watch.isTroubleTold = false;
     std::set<std::string> keys(changes->begin(), changes->end());
-    keys.merge(std::exchange(watch.missed, {}));
     // Whoever read meanwhile was told of an absence that was none.
-    if (!couldBeRead) keys.insert(watch.known.begin(), watch.known.end());
+    if (std::exchange(watch.isTroubled, false)) {
+      keys.insert(watch.known.begin(), watch.known.end());
+      keys.insert(watch.watchedKeys.begin(), watch.watchedKeys.end());
+    }
     std::set<std::string> known = keys;
     known.merge(watch.known);
     if (watch.seen.file == fileBefore) {
@@ -196,8 +204,9 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
 
 } // namespace
 
-Defaults makeSqliteDefaults(std::string home, EventLoop loop) {
-  const auto store = std::make_shared<SqliteDefaults>(std::move(home), std::move(loop));
+Defaults makeSqliteDefaults(std::string home, EventLoop loop, int patienceMilliseconds) {
+  const auto store =
+      std::make_shared<SqliteDefaults>(std::move(home), std::move(loop), patienceMilliseconds);
   return {
       .value =
           [store](Suite suite, const std::string& key) {

@@ -12,6 +12,8 @@ namespace vitrelle::host {
 /// Values may be read and written on any thread. Watching is for the main thread, and every change
 /// is delivered inside the loop, those of this process too, never from within a write. Watching
 /// ends with the last copy of the result; the loop must outlive all subscriptions and that copy.
-Defaults makeSqliteDefaults(std::string home, EventLoop loop);
+/// Another program's lock is waited for so long, once: what could not be read or written is then
+/// tried without waiting until it works.
+Defaults makeSqliteDefaults(std::string home, EventLoop loop, int patienceMilliseconds = 5000);
 
 } // namespace vitrelle::host

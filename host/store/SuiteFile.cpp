@@ -1,5 +1,6 @@
 #include "host/store/SuiteFile.h"
 
+#include "host/files/Descriptor.h"
 #include "host/files/HomeFolder.h"
 #include "host/files/PendingFile.h"
 
@@ -15,6 +16,7 @@
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -55,7 +57,7 @@ constexpr std::array<const char*, 5> statements{readSql, writeSql, removeSql, li
 constexpr std::size_t longestPath = 512 - std::string_view("-journal").size();
 
 /// How long another program's lock is waited for, in milliseconds.
-constexpr int patient = 5000;
+constexpr int patient = 5000; ///< while a store is made
 constexpr int impatient = 20;
 
 constexpr const char* notRegular = "it is no regular file";
@@ -64,11 +66,23 @@ Failure systemFailure(const std::string& path) {
   return {path, std::strerror(errno)};
 }
 
-/// A folder that is gone again with this.
+/// A folder that is gone again with this. Until then it is locked, by which others tell it from one
+/// that a killed process left.
 class TemporaryFolder final {
  public:
-  explicit TemporaryFolder(std::string pattern) : path_(std::move(pattern)) {
-    if (!mkdtemp(path_.data())) path_.clear();
+  explicit TemporaryFolder(const std::string& pattern) {
+    constexpr int attempts = 100;
+    for (int attempt = 0; attempt < attempts && !lock_; ++attempt) {
+      path_ = pattern;
+      if (!mkdtemp(path_.data())) break;
+      lock_ = Descriptor(::open(path_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+      struct stat status {};
+      // Someone who clears up may have been faster.
+      const bool ours = lock_ && flock(lock_.get(), LOCK_EX | LOCK_NB) == 0 &&
+                        fstat(lock_.get(), &status) == 0 && status.st_nlink != 0;
+      if (!ours) lock_ = Descriptor();
+    }
+    if (!lock_) path_.clear();
   }
   ~TemporaryFolder() {
     std::error_code ignored;
@@ -82,6 +96,7 @@ class TemporaryFolder final {
 
  private:
   std::string path_;
+  Descriptor lock_;
 };
 
 Status fillDatabase(const std::string& path) {
@@ -102,14 +117,15 @@ Status makeDatabase(const std::string& path) {
 
 } // namespace
 
-SuiteFile::SuiteFile(std::string home, const std::string& suiteName)
+SuiteFile::SuiteFile(std::string home, const std::string& suiteName, int patienceMilliseconds)
     : home_(std::move(home)),
       path_(home_ + "/" + suiteName + ".sqlite"),
       pokePath_(home_ + "/" + suiteName + ".poke"),
-      patience_(patient) {}
+      longPatience_(patienceMilliseconds),
+      patience_(patienceMilliseconds) {}
 
 void SuiteFile::setPatient(bool isPatient) {
-  const int wanted = isPatient ? patient : impatient;
+  const int wanted = isPatient ? longPatience_ : impatient;
   if (wanted != patience_ && open_) open_->connection.setPatience(wanted);
   patience_ = wanted;
 }
@@ -151,6 +167,9 @@ Result<SuiteFile::Open*> SuiteFile::open(Purpose purpose) {
       !opened && missesFiles && purpose == Purpose::reading && !now.logged) {
     Result<Open> frozen = connect(stamp, now, missesFiles);
     if (frozen) opened = std::move(frozen);
+  }
+  if (!opened && missesFiles && purpose == Purpose::reading && content().logged) {
+    return Failure{path_, "its latest changes can't be read without writing beside it"};
   }
   if (!opened) return opened.failure();
   open_.emplace(std::move(opened).value());

@@ -26,7 +26,7 @@ struct SeenChanges {
 /// holds no values, and takes some. For one thread at a time.
 class SuiteFile final {
  public:
-  SuiteFile(std::string home, const std::string& suiteName);
+  SuiteFile(std::string home, const std::string& suiteName, int patienceMilliseconds);
   ~SuiteFile() { leave(); }
   SuiteFile(const SuiteFile&) = delete;
   SuiteFile& operator=(const SuiteFile&) = delete;
@@ -94,6 +94,7 @@ class SuiteFile final {
   std::string pokePath_;
   std::optional<Open> open_;
   std::uint64_t file_ = 0;
+  int longPatience_; ///< for another program's lock, in milliseconds
   int patience_;
 };
 

@@ -7,10 +7,13 @@ namespace {
 
 class TroubleTest : public test::AppTest {
  protected:
-  Platform telling =
-      ui::withTroubleTold(platform, [this](ui::Trouble trouble, const Failure& failure) {
+  Platform telling = ui::withTroubleTold(
+      platform,
+      [this](ui::Trouble trouble, const Failure& failure) {
         told.emplace_back(trouble, failure.what);
-      });
+      },
+      [this] { ++over; });
+  int over = 0;
   std::vector<std::pair<ui::Trouble, std::string>> told;
 };
 
@@ -41,7 +44,9 @@ TEST_F(TroubleTest, suiteThatCannotBeRead_isToldOnceThoughTheOtherCan) {
   }
   EXPECT_EQ(told, (decltype(told){{ui::Trouble::reading, "standard store"}}));
   defaults.broken = {};
+  EXPECT_EQ(over, 0);
   (void)telling.defaults.value(Suite::standard, "a");
+  EXPECT_EQ(over, 1);
   defaults.broken = {Suite::standard};
   (void)telling.defaults.value(Suite::standard, "a");
   EXPECT_EQ(told.size(), 2U);

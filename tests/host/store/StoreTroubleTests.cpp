@@ -77,9 +77,11 @@ TEST_F(StoreTroubleTest, watcherOfALockedStore_getsTheValuesWhenItIsFree) {
   fs::rename(groupFile(), groupFile() + ".away");
   std::ofstream(groupFile()) << "garbage";
   EXPECT_FALSE(defaults.value(Suite::group, "key"));
+  EXPECT_TRUE(runUntil([&] { return !seen.back(); })) << "nobody is told of the damage";
   seen.clear();
   fs::rename(groupFile() + ".away", groupFile());
-  EXPECT_TRUE(runUntil([&] { return !seen.empty(); }));
+  EXPECT_EQ(read(defaults, Suite::group, "key"), StoreValue(std::int64_t{3}));
+  EXPECT_TRUE(runUntil([&] { return !seen.empty(); })) << "another reader saw the end first";
   EXPECT_EQ(seen.front(), StoreValue(std::int64_t{3}));
 }
 
