@@ -152,15 +152,18 @@ void removeAbandonedFiles(const HomeFolder& home) {
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(home.pendingFolder(), error)) {
     const char* path = entry.path().c_str();
-    const Descriptor file(open(path, O_WRONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
+    // A folder holds a store in the making; it is opened for reading, as folders are.
+    const int mode = entry.is_directory(error) ? O_RDONLY | O_DIRECTORY : O_WRONLY;
+    const Descriptor file(open(path, mode | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
     struct stat opened {};
     struct stat named {};
     // Whoever writes to it now goes on under the lock; a name that is put into place meanwhile is
     // gone, or another's.
-    if (file && fstat(file.get(), &opened) == 0 && S_ISREG(opened.st_mode) &&
+    if (file && fstat(file.get(), &opened) == 0 &&
+        (S_ISREG(opened.st_mode) || S_ISDIR(opened.st_mode)) &&
         flock(file.get(), LOCK_EX | LOCK_NB) == 0 && lstat(path, &named) == 0 &&
         named.st_ino == opened.st_ino) {
-      unlink(path);
+      std::filesystem::remove_all(path, error);
     }
   }
 }

@@ -49,7 +49,8 @@ void syncFolder(const std::string& path);
 Status replaceFile(const HomeFolder& home, const std::string& path,
                    std::span<const std::uint8_t> bytes);
 
-/// Removes what killed processes left in the pending folder: the files that nobody has locked.
+/// Removes what killed processes left in the pending folder: the files and folders that nobody has
+/// locked.
 /// Where the file system knows no locks, nothing.
 void removeAbandonedFiles(const HomeFolder& home);
 

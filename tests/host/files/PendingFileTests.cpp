@@ -5,6 +5,7 @@
 #include <thread>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -50,10 +51,16 @@ TEST_F(PendingFileTest, clearingUp_takesWhatTheDeadLeftAndNothingElse) {
   fs::create_directory(others / "store.abcdef");
   std::ofstream(others / "store.abcdef" / "new.sqlite") << "being made";
   ASSERT_EQ(mkfifo((others / "pipe").c_str(), 0600), 0);
-  removeAbandonedFiles(home);
+  {
+    const Descriptor maker(open((others / "store.abcdef").c_str(), O_RDONLY | O_DIRECTORY));
+    ASSERT_EQ(flock(maker.get(), LOCK_EX), 0);
+    removeAbandonedFiles(home);
+  }
   EXPECT_EQ(waiting(), 0U);
   EXPECT_TRUE(fs::exists(others / "store.abcdef" / "new.sqlite"));
   EXPECT_TRUE(fs::exists(others / "pipe"));
+  removeAbandonedFiles(home);
+  EXPECT_FALSE(fs::exists(others / "store.abcdef")) << "its maker is gone";
 }
 
 TEST_F(PendingFileTest, clearingUpAllTheTime_losesNothing) {
