@@ -13,8 +13,8 @@ std::string phoneName(const Platform& platform) {
 }
 
 HomeLock lockHome(const Platform& platform) {
-  // Commands hold it for well under a second, but several may wait; the application holds it while
-  // a style is made by hand, which is not waited for.
+  // Commands hold it for well under a second, but several may wait. The application holds it while
+  // a style is made by hand, which may take longer than anyone waits.
   constexpr double patienceSeconds = 30;
   auto lock = platform.files.lock(patienceSeconds);
   if (lock) return *std::move(lock);

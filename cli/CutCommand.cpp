@@ -84,10 +84,10 @@ bool writeOverview(const Platform& platform, const CutArguments& arguments) {
 }
 
 Exit cutOne(const CommandContext& context, const CutArguments& arguments) {
-  const Interruption interruption;
   const Platform& platform = context.platform();
   const auto lock = lockHome(platform);
   if (!lock) return Exit::failed;
+  const Interruption interruption;
   const auto start = Clock::now();
   const Result<CutStyle> cut = cutStyle(platform, arguments.style, arguments.screenshots);
   if (!cut) {

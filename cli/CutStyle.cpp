@@ -1,6 +1,7 @@
 #include "cli/CutStyle.h"
 
 #include "cli/Command.h"
+#include "cli/Interruption.h"
 #include "core/slicing/Measurements.h"
 #include "core/slicing/WallpaperInterface.h"
 
@@ -67,6 +68,7 @@ Result<CutStyle> cutScreenshots(const Platform& platform, const Screenshots& scr
                                 const StoreScreenshot& store) {
   const auto loaded = load(platform, screenshots);
   if (!loaded) return loaded.failure();
+  if (Interruption::came()) return Failure{"the cut", "it was interrupted"};
   CutStyle cut;
   for (const Screenshot& screenshot : *loaded) {
     if (auto remark = sizeRemark(platform, screenshot)) cut.remarks.push_back(*std::move(remark));

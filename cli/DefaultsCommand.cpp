@@ -1,4 +1,6 @@
 #include "cli/Command.h"
+
+#include "cli/Numbers.h"
 #include "cli/OneLine.h"
 
 #include <nlohmann/json.hpp>
@@ -103,12 +105,16 @@ void printJson(const Json& json) {
 
 // Text as values.
 
-template <class Number>
-std::optional<StoreValue> parseNumber(const std::string& text) {
-  Number number{};
+std::optional<StoreValue> parseInteger(const std::string& text) {
+  if (const auto number = wholeNumber(text)) return *number;
+  return std::nullopt;
+}
+
+std::optional<StoreValue> parseReal(const std::string& text) {
+  double number = 0;
   const char* end = text.data() + text.size();
   const auto read = std::from_chars(text.data(), end, number);
-  if (read.ec != std::errc() || read.ptr != end) return std::nullopt;
+  if (read.ec != std::errc() || read.ptr != end || !std::isfinite(number)) return std::nullopt;
   return number;
 }
 
@@ -184,8 +190,8 @@ struct ValueType {
 };
 
 constexpr std::array<ValueType, 6> valueTypes{{
-    {"int", "an integer", parseNumber<std::int64_t>},
-    {"float", "a number", parseNumber<double>},
+    {"int", "an integer", parseInteger},
+    {"float", "a number", parseReal},
     {"bool", "true or false", parseBool},
     {"string", "a string", [](const std::string& text) { return std::optional<StoreValue>(text); }},
     {"data", "pairs of hexadecimal digits", parseData},
@@ -279,8 +285,10 @@ Exit watch(const CommandContext& context, const Platform& platform,
     // A watch alone shows a store that can't be read as one without values.
     const auto value = platform.defaults.value(suite, options.key);
     if (!value) return failed(value.failure());
-    subscription = platform.defaults.watch(
-        suite, options.key, [&](const auto& value) { printChange(options, options.key, value); });
+    printChange(options, options.key, *value);
+    subscription = platform.defaults.watchKeys(suite, [&](const std::string& key) {
+      if (key == options.key) print(key);
+    });
   } else {
     subscription = platform.defaults.watchKeys(suite, print);
     const auto keys = platform.defaults.keys(suite);

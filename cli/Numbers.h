@@ -4,8 +4,13 @@
 #include <CLI/CLI.hpp>
 
 #include <cstdint>
+#include <optional>
+#include <string>
 
 namespace vitrelle::cli {
+
+/// Nothing unless the text is the number as it would be written: no "0x1", no "01", no blank.
+std::optional<std::int64_t> wholeNumber(const std::string& text);
 
 /// Lets through whole decimal numbers in the range and nothing else: the option parser by itself
 /// takes an empty text for 0, and "0x1", "010" and " 1" for numbers.
