@@ -47,20 +47,6 @@ bool canBeSearched(const Platform& platform) {
 
 } // namespace
 
-std::vector<WallpaperCell> WallpaperIntake::cellWords() {
-  return {{lightStyle, "Light Mode", "sun.max.fill", std::nullopt},
-          {darkStyle, "Dark Mode", "moon.fill", std::nullopt}};
-}
-
-std::vector<WallpaperCell> WallpaperIntake::cells() const {
-  std::vector<WallpaperCell> cells = cellWords();
-  for (WallpaperCell& cell : cells) {
-    cell.screenshot = ImageLoader(platform_).loadSlice(
-        rawValue(WidgetLocationImageNames::fullImage), cell.style, styleNumber());
-  }
-  return cells;
-}
-
 void WallpaperIntake::appear() {
   auto lock = lock_ ? Result<HomeLock>(lock_) : platform_.files.lock(patienceSeconds);
   obstacle_ = lock ? std::nullopt : std::optional(lock.failure());

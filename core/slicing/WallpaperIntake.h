@@ -8,6 +8,7 @@
 #include "core/slicing/ImageCropper.h"
 #include "core/store/StoredValue.h"
 
+#include <array>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -18,9 +19,8 @@ namespace vitrelle {
 /// One half of the screen, as shown.
 struct WallpaperCell {
   InterfaceStyle style = lightStyle;
-  std::string_view title;          ///< "Light Mode"
-  std::string_view symbol;         ///< in the place of a picture
-  std::optional<Image> screenshot; ///< the stored one
+  std::string_view title;  ///< "Light Mode"
+  std::string_view symbol; ///< in the place of a picture
 };
 
 /// What both screens share: the two cells, the picker, and the storing of what was picked.
@@ -37,12 +37,11 @@ class WallpaperIntake : public Screen {
   virtual void appear();
   virtual void disappear() { lock_.reset(); }
 
-  /// The two halves without their pictures, light first.
-  static std::vector<WallpaperCell> cellWords();
+  /// The two halves: the left one, the right one. Their pictures are the stored screenshots.
+  static constexpr std::array<WallpaperCell, 2> cells{
+      {{lightStyle, "Light Mode", "sun.max.fill"}, {darkStyle, "Dark Mode", "moon.fill"}}};
   /// The style whose screenshots these are.
   virtual std::int64_t styleNumber() const = 0;
-  /// Read anew from the files at each call, light first.
-  std::vector<WallpaperCell> cells() const;
 
   /// A press that ended so many points from the screen's left edge: the left half takes a light
   /// screenshot, the right half a dark one. Opens the picker.

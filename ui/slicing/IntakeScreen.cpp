@@ -27,7 +27,6 @@ Image imageOf(const QImage& picture) {
 IntakeScreen::IntakeScreen(Shell& shell, std::unique_ptr<WallpaperIntake> screen)
     : shell_(shell),
       screen_(std::move(screen)),
-      cells_(WallpaperIntake::cellWords()),
       view_(screen_->onChange([this] { Q_EMIT changed(); })) {
   connect(&shell, &Shell::closing, this, &IntakeScreen::disappear);
 }

@@ -37,10 +37,10 @@ class IntakeScreen final : public QObject {
   QString back() const { return text(WallpaperIntake::back); }
   QString hint() const { return text(WallpaperIntake::hint); }
   QString noImage() const { return text(WallpaperIntake::noImage); }
-  QString lightTitle() const { return text(cells_[0].title); }
-  QString darkTitle() const { return text(cells_[1].title); }
-  QString lightSymbol() const { return text(cells_[0].symbol); }
-  QString darkSymbol() const { return text(cells_[1].symbol); }
+  QString lightTitle() const { return text(WallpaperIntake::cells[0].title); }
+  QString darkTitle() const { return text(WallpaperIntake::cells[1].title); }
+  QString lightSymbol() const { return text(WallpaperIntake::cells[0].symbol); }
+  QString darkSymbol() const { return text(WallpaperIntake::cells[1].symbol); }
   int styleNumber() const { return static_cast<int>(screen_->styleNumber()); }
   int revision() const { return revision_; }
   bool isPickerOpen() const { return screen_->activeSheet() == ActiveSheet::photoPicker; }
@@ -71,7 +71,6 @@ class IntakeScreen final : public QObject {
 
   Shell& shell_;
   std::unique_ptr<WallpaperIntake> screen_;
-  std::vector<WallpaperCell> cells_; ///< for their words
   int revision_ = 0;
   bool appeared_ = false;
   Subscription view_;
