@@ -62,7 +62,7 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .mainQueue = makeMainQueue(loop),
       .notificationCentre = makeNotificationCentre(),
       // Programs with a window put their own in its place.
-      .application = {.suspend = [] {}},
+      .application = {.suspend = [] {}, .rootViewController = [] { return std::nullopt; }},
       .links = makeLinks(home),
       // A desktop has nothing to be felt, and there is no advertising kit for it.
       .haptics = {.success = [] {}, .error = [] {}, .lightImpact = [] {}},

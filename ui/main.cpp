@@ -24,6 +24,7 @@
 #include <QSGRendererInterface>
 #include <QTranslator>
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -158,6 +159,11 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
         if (shell != nullptr && shell->notice() == told) shell->dismissNotice();
         told.clear();
       });
+  platform.application.rootViewController = []() -> std::optional<ViewController> {
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    if (windows.isEmpty()) return std::nullopt;
+    return ViewController{reinterpret_cast<std::uintptr_t>(windows.constFirst())};
+  };
   platform.application.suspend = [&] {
     suspended = true; // a hidden window does not end the program
     if (shell != nullptr && shell->window() != nullptr) shell->window()->hide();

@@ -15,6 +15,9 @@ namespace vitrelle {
 inline constexpr std::string_view deeplinkNotification = "notification_name";
 inline constexpr std::string_view deeplinkKey = "deeplink";
 
+/// Stands for the links' handler by its name; what a link does is the delegate's.
+class DeeplinkHandler final {};
+
 /// The help that a link with the host "support" asks for; `invalid` for an unknown topic.
 ActiveSheet supportSheet(std::string_view lastPathComponent);
 

@@ -6,7 +6,10 @@ void BannerAd::makeView() const {
   const auto print = platform_.debugConsole.print;
   const auto line = [&](const char* text) { return [=] { print(text); }; };
   platform_.bannerKit.load(
-      {.width = 320, .height = 50, .adUnitID = unitID_},
+      {.width = 320,
+       .height = 50,
+       .adUnitID = unitID_,
+       .rootViewController = platform_.application.rootViewController()},
       {.didReceiveAd = line("bannerViewDidReceiveAd"),
        .didFailToReceiveAd =
            [print](const std::string& description) {

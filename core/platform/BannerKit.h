@@ -1,7 +1,10 @@
 // The advertising kit, as far as the application touches it.
 #pragma once
 
+#include "core/platform/Application.h"
+
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace vitrelle {
@@ -11,6 +14,8 @@ struct BannerRequest {
   double width = 320;
   double height = 50;
   std::string adUnitID;
+  /// Presents what a press on the banner opens; none when there was no window yet.
+  std::optional<ViewController> rootViewController;
 };
 
 /// What the kit tells of a banner, on the main thread.

@@ -139,7 +139,8 @@ void FakeSurroundings::use(Platform& platform) {
                       .error = [this] { felt.emplace_back("error"); },
                       .lightImpact = [this] { felt.emplace_back("light impact"); }};
   platform.notificationCentre.post = [this](const Notification& note) { posted.push_back(note); };
-  platform.application.suspend = [this] { ++suspensions; };
+  platform.application = {.suspend = [this] { ++suspensions; },
+                          .rootViewController = [this] { return rootViewController; }};
   platform.bundle.shortVersion = [this] { return version; };
   platform.bannerKit = {.start = [this] { ++kitStarts; },
                         .load =

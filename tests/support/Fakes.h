@@ -76,6 +76,7 @@ class FakeSurroundings final {
   std::vector<std::string> felt;
   std::vector<Notification> posted;
   int suspensions = 0;
+  std::optional<ViewController> rootViewController;
   std::optional<std::string> version = "2.2";
   std::vector<BannerRequest> banners;
   BannerDelegate bannerDelegate;

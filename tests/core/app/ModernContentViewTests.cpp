@@ -273,6 +273,10 @@ TEST_F(ModernContentViewTest, banner_writesALineForEachCallback) {
   EXPECT_EQ(surroundings.banners[0].adUnitID, "unit");
   EXPECT_EQ(surroundings.banners[0].width, 320);
   EXPECT_EQ(surroundings.banners[0].height, 50);
+  EXPECT_EQ(surroundings.banners[0].rootViewController, std::nullopt) << "there is no window yet";
+  surroundings.rootViewController = ViewController{7};
+  BannerAd(platform, "unit").makeView();
+  EXPECT_EQ(surroundings.banners[1].rootViewController, ViewController{7});
   const BannerDelegate& delegate = surroundings.bannerDelegate;
   delegate.didReceiveAd();
   delegate.didFailToReceiveAd("no network");
