@@ -4,7 +4,6 @@
 #include "host/imaging/DecoderAnswer.h"
 #include "host/imaging/HeifDecoder.h"
 
-#include <cerrno>
 #include <cstdio>
 #include <string_view>
 
@@ -53,14 +52,8 @@ std::span<const std::uint8_t> input() {
   return {static_cast<const std::uint8_t*>(bytes), size};
 }
 
-bool writeAll(std::span<const std::uint8_t> bytes) {
-  while (!bytes.empty()) {
-    const ssize_t count = write(STDOUT_FILENO, bytes.data(), bytes.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) return false;
-    bytes = bytes.subspan(static_cast<std::size_t>(count));
-  }
-  return true;
+bool putBytes(std::span<const std::uint8_t> bytes) {
+  return std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size();
 }
 
 } // namespace
@@ -73,5 +66,8 @@ int main(int argc, char** argv) {
   }
   limitResources();
   const auto decode = wanted == "size" ? host::readSizeWithLibheif : host::decodeWithLibheif;
-  return host::writeAnswer(decode(input()), writeAll) ? 0 : 1;
+  constexpr std::size_t pipeBytes = std::size_t{1} << 20; // else whoever reads wakes for each row
+  std::setvbuf(stdout, nullptr, _IOFBF, pipeBytes);
+  const bool written = host::writeAnswer(decode(input()), putBytes) && std::fflush(stdout) == 0;
+  return written ? 0 : 1;
 }
