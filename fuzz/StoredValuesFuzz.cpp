@@ -165,14 +165,14 @@ class RowsStore final {
   /// The bytes are the row's type, of which the key may be removed, and its value.
   void use(const char* key, const std::uint8_t* bytes, std::size_t size) {
     putRow(key, bytes, size);
-    if (store_.news().count(key) == 0) std::abort();
+    if (!store_.news().contains(key)) std::abort();
     readAsAnything(store_.values(), key);
 
     const StoreValue value = Data(bytes, bytes + size);
     const Defaults& defaults = store_.defaults();
     if (!defaults.set(Suite::group, "written", value)) return;
     const auto read = defaults.value(Suite::group, "written");
-    if (!read || *read != value || store_.news().count("written") == 0) std::abort();
+    if (!read || *read != value || !store_.news().contains("written")) std::abort();
     static_cast<void>(defaults.keys(Suite::group));
   }
 

@@ -10,7 +10,6 @@
 #include <cstdio>
 #include <cstring>
 #include <string>
-#include <string_view>
 
 #include <jpeglib.h>
 
@@ -133,7 +132,7 @@ class Decompression final {
 Data readIcc(std::span<const std::uint8_t> file) {
   constexpr std::uint8_t startOfScan = 0xDA;
   constexpr std::uint8_t app2 = 0xE2;
-  constexpr std::string_view name("ICC_PROFILE", 12);     // with its zero
+  constexpr char name[] = "ICC_PROFILE";                  // its zero included
   std::array<std::span<const std::uint8_t>, 256> parts{}; // by their numbers, from 1
   std::size_t partCount = 0;
   std::size_t at = 2;
@@ -145,13 +144,13 @@ Data readIcc(std::span<const std::uint8_t> file) {
     const std::size_t length = readBigEndian16(&file[at + 2]); // its own two bytes included
     if (length < 2 || length > file.size() - at - 2) break;
     const auto content = file.subspan(at + 4, length - 2);
-    if (file[at + 1] == app2 && content.size() >= name.size() + 2 &&
-        std::memcmp(content.data(), name.data(), name.size()) == 0) {
-      const std::size_t number = content[name.size()];
-      const std::size_t of = content[name.size() + 1];
+    if (file[at + 1] == app2 && content.size() >= sizeof name + 2 &&
+        std::memcmp(content.data(), name, sizeof name) == 0) {
+      const std::size_t number = content[sizeof name];
+      const std::size_t of = content[sizeof name + 1];
       const bool fits = number >= 1 && number <= of && (partCount == 0 || partCount == of);
       if (!fits || parts[number].data() != nullptr) return {};
-      parts[number] = content.subspan(name.size() + 2);
+      parts[number] = content.subspan(sizeof name + 2);
       partCount = of;
     }
     at += 2 + length;
