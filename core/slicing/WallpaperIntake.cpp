@@ -83,6 +83,17 @@ std::vector<StoredSlice> WallpaperIntake::pick(const std::optional<Image>& origi
   return stored;
 }
 
+void WallpaperIntake::present(ActiveSheet sheet) {
+  activeSheet_ = sheet;
+  changed();
+}
+
+void WallpaperIntake::dismissSheet() {
+  activeSheet_.reset();
+  pickerClosed();
+  changed();
+}
+
 std::vector<StoredSlice> WallpaperIntake::pickerClosed() {
   std::vector<StoredSlice> stored;
   if (interfaceStyle_) {

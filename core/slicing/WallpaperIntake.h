@@ -57,6 +57,10 @@ class WallpaperIntake : public Screen {
   /// be written, or the store can't be read. A press only tries whether that is over.
   const std::optional<Failure>& obstacle() const { return obstacle_; }
 
+  /// Opens one of the screen's other sheets, which are help.
+  void present(ActiveSheet sheet);
+  /// Such a sheet is closed; what a closed picker leaves behind is left behind as well.
+  void dismissSheet();
   const std::optional<ActiveSheet>& activeSheet() const { return activeSheet_; }
   const std::optional<InterfaceStyle>& interfaceStyle() const { return interfaceStyle_; }
 

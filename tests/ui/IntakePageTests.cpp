@@ -139,6 +139,29 @@ TEST_F(IntakePageTest, whatIsNoPicture_isToldAndChangesNothing) {
   EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("notice"); }));
 }
 
+TEST_F(IntakePageTest, helpSheets_openByTheirState) {
+  setNumber("amountOfConfigs", 1);
+  open({.screen = QStringLiteral("ModernChangeLightDark"), .framed = false, .animated = false});
+  driver->click("darkCell", Qt::RightButton);
+  driver->click("helpEntry");
+  ASSERT_TRUE(driver->isShown("perspectiveZoom"));
+  driver->key(Qt::Key_Escape);
+  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("intakeSheet"); }));
+  EXPECT_TRUE(driver->isShown("intakePage")) << "the way back is one step";
+
+  auto* intake = driver->find("intakePage")->property("intake").value<ui::IntakeScreen*>();
+  for (const ActiveSheet sheet : {ActiveSheet::widgetRefresh, ActiveSheet::widgetPlaceholder,
+                                  ActiveSheet::widgetAppleDumb, ActiveSheet::invalid}) {
+    intake->screen().present(sheet);
+    ASSERT_TRUE(driver->isShown("plainPage"));
+    EXPECT_EQ(driver->find("plainPage")->property("title").toString(),
+              shell->screenEntry(QString::fromLatin1(screenName(sheet))).title);
+    intake->dismissSheet();
+    EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("intakeSheet"); }));
+  }
+  EXPECT_TRUE(folder.written.empty());
+}
+
 TEST_F(IntakePageTest, rightClick_opensAMenu) {
   setNumber("amountOfConfigs", 1);
   open({.screen = QStringLiteral("ModernChangeLightDark"), .framed = false, .animated = false});

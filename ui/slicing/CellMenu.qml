@@ -9,6 +9,7 @@ ContextMenu {
 
     signal chosen(bool dark)
     signal pasted(bool dark)
+    signal helpAsked
 
     function open(asked: WallpaperCell, position: point) {
         cell = asked;
@@ -34,6 +35,16 @@ ContextMenu {
         onPressed: {
             menu.close();
             menu.pasted(menu.cell.dark);
+        }
+    }
+    MenuEntry {
+        objectName: "helpEntry"
+        width: parent.width
+        symbol: "questionmark.circle.fill"
+        name: qsTrId("PZTitle")
+        onPressed: {
+            menu.close();
+            menu.helpAsked();
         }
     }
 }

@@ -11,6 +11,7 @@ Page {
 
     title: intake.title
     backTitle: intake.back
+    covered: intake.sheet !== ""
     onClosed: intake.disappear()
     Component.onCompleted: intake.appear()
 
@@ -56,6 +57,7 @@ Page {
         id: menu
         onChosen: dark => page.intake.choose(dark)
         onPasted: dark => page.intake.paste(dark)
+        onHelpAsked: page.intake.showPerspectiveZoom()
     }
     FileDialog {
         id: picker
@@ -63,6 +65,40 @@ Page {
         nameFilters: [qsTrId("app.picker.pictures") + " (*.png *.jpg *.jpeg *.heic *.heif *.PNG *.JPG *.JPEG *.HEIC *.HEIF)"]
         onAccepted: page.intake.pick(selectedFile)
         onRejected: page.intake.cancel()
+    }
+    overlay: Sheet {
+        id: sheet
+
+        property string screen // also while it goes away
+
+        objectName: "intakeSheet"
+        shown: page.intake.sheet !== ""
+        onShownChanged: if (shown) screen = page.intake.sheet
+        onDismissed: page.intake.dismissSheet()
+
+        Loader {
+            anchors.fill: parent
+            focus: true
+            active: sheet.present && sheet.screen !== ""
+            sourceComponent: Shell.screenEntry(sheet.screen).page === "perspectiveZoom" ? perspectiveZoom : plainPage
+        }
+    }
+    Component {
+        id: perspectiveZoom
+        PerspectiveZoomDescription {
+            focus: true
+            backTitle: qsTrId("app.close")
+            onClosed: sheet.dismissed()
+        }
+    }
+    Component {
+        id: plainPage
+        PlainPage {
+            focus: true
+            title: Shell.screenEntry(sheet.screen).title
+            backTitle: qsTrId("app.close")
+            onClosed: sheet.dismissed()
+        }
     }
     Timer {
         id: settled

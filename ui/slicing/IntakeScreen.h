@@ -29,6 +29,8 @@ class IntakeScreen final : public QObject {
   Q_PROPERTY(int styleNumber READ styleNumber NOTIFY changed)
   Q_PROPERTY(int revision READ revision NOTIFY changed)
   Q_PROPERTY(bool pickerOpen READ isPickerOpen NOTIFY changed)
+  /// Type name of the screen on the sheet that is open; empty when none is, or the picker.
+  Q_PROPERTY(QString sheet READ sheet NOTIFY changed)
 
  public:
   IntakeScreen(Shell& shell, std::unique_ptr<WallpaperIntake> screen);
@@ -44,6 +46,10 @@ class IntakeScreen final : public QObject {
   int styleNumber() const { return static_cast<int>(screen_->styleNumber()); }
   int revision() const { return revision_; }
   bool isPickerOpen() const { return screen_->activeSheet() == ActiveSheet::photoPicker; }
+  QString sheet() const {
+    if (!screen_->activeSheet() || isPickerOpen()) return {};
+    return QString::fromLatin1(screenName(*screen_->activeSheet()));
+  }
 
   Q_INVOKABLE void appear();
   /// When the page is left, and when the program ends while it is open.
@@ -55,6 +61,9 @@ class IntakeScreen final : public QObject {
   /// the user and changes nothing.
   Q_INVOKABLE void pick(const QUrl& file);
   Q_INVOKABLE void cancel() { take({}); }
+  Q_INVOKABLE void showPerspectiveZoom() { screen_->present(ActiveSheet::perspectiveZoom); }
+  Q_INVOKABLE void dismissSheet() { screen_->dismissSheet(); }
+  WallpaperIntake& screen() { return *screen_; }
   /// The picture in the clipboard, or the file that it names.
   Q_INVOKABLE void paste(bool dark);
 

@@ -3,6 +3,7 @@ import QtQuick
 import Vitrelle
 
 Page {
+    objectName: "perspectiveZoom"
     title: qsTrId("PZTitle")
 
     Flickable {

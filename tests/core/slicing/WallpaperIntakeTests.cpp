@@ -211,6 +211,17 @@ TEST_F(WallpaperIntakeTest, halvesOfTheScreen_areLightAndDark) {
   }
 }
 
+TEST_F(WallpaperIntakeTest, helpSheet_closesWithoutAPicture) {
+  ModernChangeLightDark screen(platform, 4);
+  screen.appear();
+  screen.present(ActiveSheet::perspectiveZoom);
+  EXPECT_EQ(screen.activeSheet(), ActiveSheet::perspectiveZoom);
+  screen.dismissSheet();
+  EXPECT_EQ(screen.activeSheet(), std::nullopt);
+  EXPECT_TRUE(folder.written.empty());
+  EXPECT_EQ(console.reloads, 0);
+}
+
 TEST_F(WallpaperIntakeTest, changingAStyle_countsNothing) {
   ModernChangeLightDark screen(platform, 4);
   screen.tap(rightHalf);
