@@ -11,7 +11,7 @@ namespace vitrelle::host {
 struct HostOptions {
   HomeFolder home;
   PhoneOverrides phone;
-  bool dark = false;    ///< the appearance
+  bool dark = false; ///< the appearance
   /// How long another program's lock on a store is waited for, in milliseconds.
   int storePatience = 5000;
   bool verbose = false; ///< the debug console goes to stderr, else nowhere
