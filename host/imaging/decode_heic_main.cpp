@@ -53,6 +53,7 @@ std::span<const std::uint8_t> input() {
 }
 
 bool putBytes(std::span<const std::uint8_t> bytes) {
+  if (bytes.empty()) return true; // without an address, perhaps, which fwrite forbids
   return std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size();
 }
 
