@@ -1,7 +1,8 @@
-// FaceBench FILE...: faces beside plain Qt doing the same drawing, and the Text family's pages over
-// styles made of the given screenshots: the gallery of twelve from its opening to its last picture,
-// beside the same grid in plain QML, and a keystroke to the redrawn preview.
+// FaceBench [FILE...]: faces beside plain Qt doing the same drawing, and the Text family's pages
+// over styles made of the given screenshots, if any: the gallery of twelve from its opening to its
+// last picture, beside the same grid in plain QML, and a keystroke to the redrawn preview.
 #include "bench/Timing.h"
+#include "core/drawing/Shapes.h"
 #include "core/faces/CustomTextPreviewView.h"
 #include "core/slicing/ImageCropper.h"
 #include "core/store/GroupStore.h"
@@ -30,6 +31,7 @@
 #include <QTextOption>
 
 #include <cstdio>
+#include <numbers>
 #include <vector>
 
 namespace {
@@ -94,6 +96,33 @@ void drawPlainShadowed(const PointSize& frame, double scale) {
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   scene.render(&painter, image.rect(), image.rect());
+}
+
+constexpr int bars = 60;
+constexpr double turn = 2 * std::numbers::pi / bars;
+
+/// The minutes of a clock: each a bar that is turned about the middle.
+DisplayList turnedBars(const Platform& platform, const PointSize& frame) {
+  std::vector<View> minutes;
+  for (int i = 0; i < bars; ++i) {
+    const View bar = framed(filled(shapes::rectangle, {1, 1, 1, 1}), 2, 8);
+    minutes.push_back(rotated(vstack({bar, spacer()}, Place::centre, 0), i * turn));
+  }
+  return layOut(zstack(minutes), frame, platform.drawing);
+}
+
+void drawPlainBars(const PointSize& frame, double scale) {
+  QImage image(QSizeF(frame.width * scale, frame.height * scale).toSize(),
+               QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(scale, scale);
+  painter.translate(frame.width / 2, frame.height / 2);
+  for (int i = 0; i < bars; ++i) {
+    painter.fillRect(QRectF(-1, -frame.height / 2, 2, 8), Qt::white);
+    painter.rotate(360.0 / bars);
+  }
 }
 
 Platform platformOver(const QString& home) {
@@ -274,7 +303,18 @@ int main(int argc, char** argv) {
   std::printf("face at 3x without %.2f ms, plain Qt %.2f ms, %.2f times as fast\n", faces[2],
               faces[3], faces[3] / faces[2]);
 
+  const DisplayList minutes = turnedBars(platform, frame);
+  const DisplayList faded{{DrawnGroup{.opacity = 0.5, .items = minutes}}};
+  const auto drawn = [&](const DisplayList& list) {
+    if (!platform.drawing.render({&list, 1}, {0, 0, frame.width, frame.height}, 3)) std::exit(1);
+  };
+  const auto turned = bench::medians(
+      41, {[&] { drawn(minutes); }, [&] { drawn(faded); }, [&] { drawPlainBars(frame, 3); }});
+  std::printf("%d turned bars at 3x %.2f ms, all faded %.2f ms, plain Qt %.2f ms, ratio %.2f\n",
+              bars, turned[0], turned[1], turned[2], turned[0] / turned[2]);
+
   const QStringList screenshots = QCoreApplication::arguments().mid(1);
+  if (screenshots.isEmpty()) return 0;
   makeStyles(platform, screenshots);
   const QString folder = QString::fromStdString(*platform.files.groupContainer());
   std::vector<double> galleries;

@@ -129,6 +129,42 @@ TEST_F(RasteriserTest, groups_fadeAsOneAndTurn) {
   EXPECT_EQ(at(bitmap, 8, 1), (Pixel{0, 0, 255, at(bitmap, 6, 1)[3]})) << "nothing shines through";
 }
 
+TEST_F(RasteriserTest, groupsInGroups_areWhereTheyAreAlone) {
+  const auto grouped = [](const Transform& transform, double opacity, DisplayList items) {
+    return DisplayList{{DrawnGroup{.transform = transform, .opacity = opacity, .items = items}}};
+  };
+  const DisplayItem half = rectangle({0, 0, 4, 4}, {0, 1, 0, 0.5});
+  const PointRect area{-2, 0, 30, 12};
+  // One item is faded as it is painted, two as a picture of their own; which must look the same.
+  const Bitmap one = render(grouped({.x = 9, .y = 3}, 0.5, {half}), area);
+  const Bitmap two =
+      render(grouped({.x = 9, .y = 3}, 0.5, {half, rectangle({9, 9, 0, 0}, {1, 0, 0, 1})}), area);
+  const Bitmap nested =
+      render(grouped({.x = 4}, 1, grouped({.x = 5}, 0.5, grouped({.y = 3}, 1, {half}))), area, 1);
+  EXPECT_NEAR(at(one, 12, 4)[3], 64, 1);
+  EXPECT_NEAR(ink(one), 4, 0.1);
+  for (int y = 0; y < one.size.height; ++y) {
+    for (int x = 0; x < one.size.width; ++x) {
+      ASSERT_NEAR(at(one, x, y)[3], at(two, x, y)[3], 1) << x << ',' << y;
+      ASSERT_EQ(at(one, x, y), at(nested, x, y)) << x << ',' << y;
+    }
+  }
+}
+
+TEST_F(RasteriserTest, shadowOfWhatIsNotSeen_fallsIntoThePicture) {
+  const auto shadowed = [&](const PointRect& area) {
+    const DisplayList list{
+        {DrawnGroup{.shadow = Shadow{.colour = {0, 0, 0, 1}, .radius = 3, .x = 6},
+                    .items = {rectangle({-14, 0, 10, 10}, {1, 1, 1, 1})}}}};
+    return render({{DrawnGroup{.opacity = 0.5, .items = list}}}, area);
+  };
+  const Bitmap wide = shadowed({-40, -20, 80, 50});
+  const Bitmap narrow = shadowed({0, 0, 20, 10});
+  EXPECT_GT(at(narrow, 1, 5)[3], 30);
+  for (int x = 0; x < 20; ++x)
+    EXPECT_EQ(at(narrow, x, 5), at(wide, x + 40, 25)) << x;
+}
+
 TEST_F(RasteriserTest, images_fillTheirBoxAndOutline) {
   const DrawnImage image{.image = test::positionImage(10, 10), .box = {0, 0, 10, 10}};
   const Bitmap plain = render({{image}}, {0, 0, 10, 10});
