@@ -56,6 +56,14 @@ class TextNode final : public Node {
     text.room = room;
     to.push_back({std::move(text)});
   }
+  bool isWhole(const Drawing& drawing, const PointSize& room) const override {
+    constexpr double endless = std::numeric_limits<double>::infinity();
+    if (drawing.textSize(text_.text, text_.font, {room.width, endless}).height > room.height)
+      return false;
+    std::string words = text_.text;
+    std::ranges::replace(words, ' ', '\n');
+    return drawing.textSize(words, text_.font, {endless, endless}).width <= room.width;
+  }
 
  private:
   DrawnText text_;
@@ -174,6 +182,13 @@ class StackNode final : public Node {
   }
 
   bool isFlexible(Axis axis) const override { return anyFlexible(parts_, axis); }
+  bool isWhole(const Drawing& drawing, const PointSize& room) const override {
+    const std::vector<Share> parts = shares(drawing, room);
+    for (std::size_t i = 0; i < parts_.size(); ++i) {
+      if (!parts_[i].node().isWhole(drawing, parts[i].offered)) return false;
+    }
+    return true;
+  }
 
  private:
   struct Share {
@@ -255,6 +270,10 @@ class LayersNode final : public Node {
     }
   }
   bool isFlexible(Axis axis) const override { return anyFlexible(parts_, axis); }
+  bool isWhole(const Drawing& drawing, const PointSize& room) const override {
+    return std::ranges::all_of(
+        parts_, [&](const View& part) { return part.node().isWhole(drawing, room); });
+  }
 
  private:
   std::vector<View> parts_;
@@ -276,6 +295,9 @@ class PaddedNode final : public Node {
                       within(room), to);
   }
   bool isFlexible(Axis axis) const override { return view_.node().isFlexible(axis); }
+  bool isWhole(const Drawing& drawing, const PointSize& room) const override {
+    return view_.node().isWhole(drawing, within(room));
+  }
 
  private:
   double across() const { return insets_.leading + insets_.trailing; }
@@ -306,6 +328,9 @@ class FramedNode final : public Node {
     const bool told = axis == Axis::horizontal ? width_.has_value() : height_.has_value();
     return !told && view_.node().isFlexible(axis);
   }
+  bool isWhole(const Drawing& drawing, const PointSize& room) const override {
+    return view_.node().isWhole(drawing, within(room));
+  }
 
  private:
   PointSize within(const PointSize& room) const {
@@ -332,10 +357,57 @@ class GroupNode final : public Node {
     to.push_back({std::move(group)});
   }
   bool isFlexible(Axis axis) const override { return view_.node().isFlexible(axis); }
+  bool isWhole(const Drawing& drawing, const PointSize& room) const override {
+    return view_.node().isWhole(drawing, room);
+  }
 
  private:
   View view_;
   std::function<DrawnGroup(const PointRect&)> group_;
+};
+
+class ShrunkNode final : public Node {
+ public:
+  ShrunkNode(View view, double least) : view_(std::move(view)), least_(least) {}
+  PointSize size(const Drawing& drawing, const PointSize& room) const override {
+    const double factor = factorIn(drawing, room);
+    const PointSize own = view_.node().size(drawing, enlarged(room, factor));
+    return {own.width * factor, own.height * factor};
+  }
+  void draw(const Drawing& drawing, const PointRect& box, const PointSize& room,
+            DisplayList& to) const override {
+    const double factor = factorIn(drawing, room);
+    if (factor >= 1) return view_.node().draw(drawing, box, room, to);
+    DrawnGroup group{.transform = {.a = factor, .d = factor, .x = box.x, .y = box.y}, .items = {}};
+    view_.node().draw(drawing, {0, 0, box.width / factor, box.height / factor},
+                      enlarged(room, factor), group.items);
+    to.push_back({std::move(group)});
+  }
+  bool isFlexible(Axis axis) const override { return view_.node().isFlexible(axis); }
+  bool isWhole(const Drawing& drawing, const PointSize& room) const override {
+    return isWholeAt(least_, drawing, room);
+  }
+
+ private:
+  static PointSize enlarged(const PointSize& room, double factor) {
+    return {room.width / factor, room.height / factor};
+  }
+  bool isWholeAt(double factor, const Drawing& drawing, const PointSize& room) const {
+    return view_.node().isWhole(drawing, enlarged(room, factor));
+  }
+  double factorIn(const Drawing& drawing, const PointSize& room) const {
+    if (least_ >= 1 || isWholeAt(1, drawing, room)) return 1;
+    double fits = least_;
+    if (!isWholeAt(fits, drawing, room)) return fits; // it is cut in its own room too
+    double cut = 1;
+    while (cut - fits > 0.01) {
+      const double middle = (cut + fits) / 2;
+      (isWholeAt(middle, drawing, room) ? fits : cut) = middle;
+    }
+    return fits;
+  }
+  View view_;
+  double least_;
 };
 
 /// The linear part of the transform, about the middle of the box.
@@ -420,6 +492,10 @@ View scaled(const View& view, double factor) {
   return View(std::make_shared<GroupNode>(view, [factor](const PointRect& box) {
     return DrawnGroup{.transform = aboutMiddle(box, factor, 0, 0, factor), .items = {}};
   }));
+}
+
+View shrunkToFit(const View& view, double least) {
+  return View(std::make_shared<ShrunkNode>(view, least));
 }
 
 DisplayList layOut(const View& view, const PointSize& frame, const Drawing& drawing) {

@@ -50,6 +50,8 @@ class View final {
                       DisplayList& to) const = 0;
     /// Whether it takes all the room that there is in a direction.
     virtual bool isFlexible(Axis) const { return false; }
+    /// Whether all its words are shown in the room, and none is broken.
+    virtual bool isWhole(const Drawing&, const PointSize&) const { return true; }
     /// Whether it does nothing but keep other parts of a stack apart: it has what they leave.
     virtual bool isSpacer() const { return false; }
   };
@@ -93,6 +95,9 @@ View faded(const View& view, double opacity);
 /// Clockwise about its middle. Takes the room that it took before.
 View rotated(const View& view, double radians);
 View scaled(const View& view, double factor);
+/// As large as it is told where the room shows all its words, else just so small that it does;
+/// never smaller than the factor.
+View shrunkToFit(const View& view, double least);
 
 /// The view in the middle of a frame whose top left corner is the origin.
 DisplayList layOut(const View& view, const PointSize& frame, const Drawing& drawing);

@@ -1,9 +1,23 @@
 #include "core/lifecycle/StylePreview.h"
 
+#include "core/slicing/Measurements.h"
 #include "core/store/Keys.h"
 #include "core/store/Listing.h"
 
 namespace vitrelle {
+
+namespace {
+
+double smallWidgetSide(const Platform& platform) {
+  Platform quiet = platform; // the lookup tells the debug console, which this is no news for
+  quiet.debugConsole.print = [](const std::string&) {};
+  const WidgetMeasurements measured = Measurements::current(quiet);
+  // A phone without measurements gets the proportions of most of the others.
+  if (measured.widgetSize == 0) return platform.device.screenBounds().width * 0.4;
+  return static_cast<double>(measured.widgetSize) / platform.device.screenNativeScale();
+}
+
+} // namespace
 
 StylePreview::StylePreview(const Platform& platform, const FamilyDescription& words,
                            const Key<std::int64_t>& selected)
@@ -11,6 +25,7 @@ StylePreview::StylePreview(const Platform& platform, const FamilyDescription& wo
       words_(words),
       amountOfConfigs_(platform, keys::amountOfConfigs),
       selectedConfig_(platform, selected),
+      widgetSide_(smallWidgetSide(platform)),
       amountBinding_(amountOfConfigs_.onChange([this](const auto&) { changed(); })) {}
 
 void StylePreview::appear() {

@@ -29,7 +29,8 @@ class StylePreview : public Screen {
 
   const FamilyDescription& words() const { return words_; }
   const std::optional<SliceName>& img() const { return img_; }
-  /// The record in the middle of the frame.
+  /// The record in the middle of the frame: at its own size where the frame shows it whole, else
+  /// smaller, down to the size at which the frame shows what the widget does.
   virtual DisplayList face(const PointSize& frame) const = 0;
 
  protected:
@@ -37,6 +38,8 @@ class StylePreview : public Screen {
                const Key<std::int64_t>& selected);
 
   const Platform& platform() const { return platform_; }
+  /// The side of the small widget on the screen, points.
+  double widgetSide() const { return widgetSide_; }
   virtual StyleRecords& stored() = 0;
   virtual void copy(std::size_t index) = 0;
 
@@ -46,6 +49,7 @@ class StylePreview : public Screen {
   StoredValue<std::int64_t> amountOfConfigs_;
   StoredValue<std::int64_t> selectedConfig_;
   std::optional<SliceName> img_;
+  double widgetSide_;
   Subscription amountBinding_; ///< last, for it calls this screen
 };
 
@@ -59,7 +63,8 @@ class StylePreviewOf final : public StylePreview {
         storedDataArray_(platform, family.store) {}
 
   DisplayList face(const PointSize& frame) const override {
-    return layOut(family_.face(platform(), record_, FaceUse::preview), frame, platform().drawing);
+    const View whole = family_.face(platform(), record_, FaceUse::preview);
+    return layOut(shrunkToFit(whole, frame.width / widgetSide()), frame, platform().drawing);
   }
 
  protected:

@@ -120,6 +120,21 @@ TEST_F(ViewTest, groups_turnAboutTheirMiddle) {
   EXPECT_EQ(places(scaled(letters("ab"), 3)), "ab@45,25 ") << "takes the room it took before";
 }
 
+TEST_F(ViewTest, shrunkToFit_isSmallerOnlyWhereWordsWouldBeCut) {
+  const auto shrunk = [&](const std::string& words, double least) {
+    const auto list = layOut(shrunkToFit(letters(words), least), {100, 60}, platform.drawing);
+    const auto* group = std::get_if<DrawnGroup>(&list[0].content);
+    return group != nullptr ? group->transform.a : 1;
+  };
+  EXPECT_EQ(shrunk(std::string(20, 'x'), 0.5), 1) << "just as wide as the room";
+  EXPECT_NEAR(shrunk(std::string(25, 'x'), 0.5), 0.8, 0.01);
+  EXPECT_LE(shrunk(std::string(25, 'x'), 0.5), 0.8);
+  EXPECT_EQ(shrunk(std::string(90, 'x'), 0.5), 0.5) << "no smaller than told";
+  const View words = shrunkToFit(letters(std::string(40, 'x')), 0.5);
+  EXPECT_EQ(size(words, {100, 60}), (PointSize{100, 5}));
+  EXPECT_EQ(places(shrunkToFit(letters("ab"), 0.5)), places(letters("ab")));
+}
+
 TEST_F(ViewTest, roomOfAText_isTheRoomItWasMeasuredIn) {
   const auto list = layOut(padded(letters("abc"), {1, 2, 3, 4}), {100, 60}, platform.drawing);
   EXPECT_EQ(std::get<DrawnText>(list[0].content).room, (PointSize{94, 56}));

@@ -27,6 +27,23 @@ TEST_F(StylePreviewTest, style_isTheLastWithTheCurrentTag) {
   EXPECT_NE(drawn().find("text \"2\" in \"\" 18 102030"), std::string::npos);
 }
 
+TEST_F(StylePreviewTest, words_areSmallerWhereTheSquareWouldCutThem) {
+  storeStyles(1);
+  const auto drawnAt = [&](const std::string& words, std::int64_t size) {
+    auto records = stored();
+    records[0].textWidgetText = words;
+    records[0].textWidgetSize = size;
+    store(records);
+    return drawn();
+  };
+  EXPECT_EQ(drawnAt("short", 18).find("group transform 0"), std::string::npos);
+  // Wide as the square at two thirds of its size, and whole in a widget 158 points wide.
+  const std::string smaller = drawnAt("Breathe!", 36);
+  EXPECT_NE(smaller.find("group transform 0.6"), std::string::npos) << smaller;
+  const std::string cut = drawnAt(std::string(100, 'x'), 36);
+  EXPECT_NE(cut.find("group transform 0.62 "), std::string::npos) << cut << "as the widget cuts it";
+}
+
 TEST_F(StylePreviewTest, pages_preferTheLightScreenshot) {
   setNumber("amountOfConfigs", 3);
   addStyle(0);
