@@ -44,10 +44,13 @@ Window {
         }
         ContinuousRectangle { // the corners of the screen
             anchors.fill: screens
-            visible: Shell.framed && Theme.tall
+            anchors.margins: -1 // the screen's last row may end within a pixel
+            visible: Shell.framed
             inverted: true
             colour: "black"
-            radius: 44
+            borderColour: "black"
+            borderWidth: 2
+            radius: Theme.tall ? 44 : 0
         }
     }
     Shortcut {

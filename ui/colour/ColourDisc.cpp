@@ -12,8 +12,7 @@ constexpr qreal gap = 2;
 
 } // namespace
 
-ColourDisc::ColourDisc(QQuickItem* parent) : QQuickPaintedItem(parent) {
-  setAntialiasing(true);
+ColourDisc::ColourDisc(QQuickItem* parent) : PaintedItem(parent) {
   connect(this, &ColourDisc::changed, this, [this] { update(); });
 }
 

@@ -1,12 +1,13 @@
 // A round sample of a colour; a transparent one shows a chequered ground.
 #pragma once
 
+#include "ui/parts/PaintedItem.h"
+
 #include <QColor>
-#include <QQuickPaintedItem>
 
 namespace vitrelle::ui {
 
-class ColourDisc : public QQuickPaintedItem {
+class ColourDisc : public PaintedItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QColor colour MEMBER colour_ NOTIFY changed)
@@ -17,10 +18,12 @@ class ColourDisc : public QQuickPaintedItem {
 
  public:
   explicit ColourDisc(QQuickItem* parent = nullptr);
-  void paint(QPainter* painter) override;
 
  Q_SIGNALS:
   void changed();
+
+ protected:
+  void paint(QPainter* painter) override;
 
  private:
   QColor colour_;

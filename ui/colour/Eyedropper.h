@@ -2,15 +2,16 @@
 // over that.
 #pragma once
 
+#include "ui/parts/PaintedItem.h"
+
 #include <QColor>
 #include <QImage>
 #include <QPointF>
-#include <QQuickPaintedItem>
 
 namespace vitrelle::ui {
 
 /// The item is the loupe.
-class Eyedropper : public QQuickPaintedItem {
+class Eyedropper : public PaintedItem {
   Q_OBJECT
   QML_ELEMENT
   /// In the window's coordinates, and within the window.
@@ -19,7 +20,6 @@ class Eyedropper : public QQuickPaintedItem {
 
  public:
   explicit Eyedropper(QQuickItem* parent = nullptr);
-  void paint(QPainter* painter) override;
 
   QPointF position() const { return position_; }
   void setPosition(const QPointF& position);
@@ -30,6 +30,9 @@ class Eyedropper : public QQuickPaintedItem {
 
  Q_SIGNALS:
   void positionChanged();
+
+ protected:
+  void paint(QPainter* painter) override;
 
  private:
   QPoint pixel() const;

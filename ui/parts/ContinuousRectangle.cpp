@@ -36,8 +36,7 @@ QPainterPath continuousRectangle(const QRectF& rectangle, qreal radius) {
   return path;
 }
 
-ContinuousRectangle::ContinuousRectangle(QQuickItem* parent) : QQuickPaintedItem(parent) {
-  setAntialiasing(true);
+ContinuousRectangle::ContinuousRectangle(QQuickItem* parent) : PaintedItem(parent) {
   connect(this, &ContinuousRectangle::changed, this, [this] { update(); });
 }
 

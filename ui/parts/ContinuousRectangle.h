@@ -2,9 +2,10 @@
 // form of the phone's screen, its icons and its widgets.
 #pragma once
 
+#include "ui/parts/PaintedItem.h"
+
 #include <QColor>
 #include <QPainterPath>
-#include <QQuickPaintedItem>
 
 namespace vitrelle::ui {
 
@@ -13,7 +14,7 @@ QPainterPath continuousRectangle(const QRectF& rectangle, qreal radius);
 
 /// A filled one with an optional border, or, inverted, the corners around one: a cover that rounds
 /// whatever lies beneath it.
-class ContinuousRectangle : public QQuickPaintedItem {
+class ContinuousRectangle : public PaintedItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(qreal radius MEMBER radius_ NOTIFY changed)
@@ -25,10 +26,12 @@ class ContinuousRectangle : public QQuickPaintedItem {
 
  public:
   explicit ContinuousRectangle(QQuickItem* parent = nullptr);
-  void paint(QPainter* painter) override;
 
  Q_SIGNALS:
   void changed();
+
+ protected:
+  void paint(QPainter* painter) override;
 
  private:
   qreal radius_ = 0;

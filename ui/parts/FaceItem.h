@@ -1,10 +1,11 @@
 // A display list on a screen, in the very pixels that every other program draws.
 #pragma once
 
+#include "ui/parts/PaintedItem.h"
+
 #include "core/platform/DisplayList.h"
 
 #include <QImage>
-#include <QQuickPaintedItem>
 #include <QtQmlIntegration>
 
 #include <memory>
@@ -27,7 +28,7 @@ struct Face {
   }
 };
 
-class FaceItem : public QQuickPaintedItem {
+class FaceItem : public PaintedItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(vitrelle::ui::Face face READ face WRITE setFace NOTIFY changed)
@@ -39,7 +40,6 @@ class FaceItem : public QQuickPaintedItem {
 
  public:
   explicit FaceItem(QQuickItem* parent = nullptr);
-  void paint(QPainter* painter) override;
 
   const Face& face() const { return face_; }
   void setFace(const Face& face);
@@ -47,14 +47,13 @@ class FaceItem : public QQuickPaintedItem {
  Q_SIGNALS:
   void changed();
 
- private:
-  void draw(qreal ratio);
+ protected:
+  QImage picture() override;
 
+ private:
   Face face_;
   qreal bleed_ = 0;
   qreal magnification_ = 1;
-  QImage picture_; ///< in device pixels; null until it is painted
-  QSizeF drawnSize_;
 };
 
 } // namespace vitrelle::ui

@@ -6,14 +6,14 @@
 #include <QPainter>
 #include <QPointer>
 #include <QQmlEngine>
-#include <QQuickWindow>
-#include <QtMath>
 
 namespace vitrelle::ui {
 
-StoredPicture::StoredPicture(QQuickItem* parent) : QQuickPaintedItem(parent) {
-  setAntialiasing(true);
+StoredPicture::StoredPicture(QQuickItem* parent) : PaintedItem(parent) {
   connect(this, &StoredPicture::asked, this, &StoredPicture::load);
+  rest_.setSingleShot(true);
+  rest_.setInterval(100);
+  rest_.callOnTimeout(this, &StoredPicture::load);
 }
 
 void StoredPicture::paint(QPainter* painter) {
@@ -27,20 +27,26 @@ void StoredPicture::paint(QPainter* painter) {
 }
 
 void StoredPicture::componentComplete() {
-  QQuickPaintedItem::componentComplete();
+  PaintedItem::componentComplete();
   load();
 }
 
 void StoredPicture::geometryChange(const QRectF& now, const QRectF& before) {
-  QQuickPaintedItem::geometryChange(now, before);
+  PaintedItem::geometryChange(now, before);
   if (now.size() != before.size()) load();
+}
+
+void StoredPicture::loadSoon() {
+  if (picture_.isNull())
+    load();
+  else
+    rest_.start();
 }
 
 void StoredPicture::load() {
   update();
   if (!isComponentComplete() || width() <= 0 || height() <= 0) return;
-  const qreal ratio = window() != nullptr ? window()->effectiveDevicePixelRatio() : 1;
-  const QSize pixels(qCeil(width() * ratio), qCeil(height() * ratio));
+  const QSize pixels = pixelSize();
   Wish wish{{stem_.toStdString(), styleNumber_, dark_}, standIn_, revision_, pixels};
   if (wish == wish_) return;
   const bool sameSize = wish.pixels == wish_.pixels;

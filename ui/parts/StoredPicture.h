@@ -1,18 +1,19 @@
 // A stored picture on a screen, stretched into a rectangle with continuous corners.
 #pragma once
 
+#include "ui/parts/PaintedItem.h"
 #include "ui/parts/PictureSource.h"
 
 #include <QImage>
-#include <QQuickPaintedItem>
 #include <QString>
+#include <QTimer>
 
 #include <functional>
 #include <optional>
 
 namespace vitrelle::ui {
 
-class StoredPicture : public QQuickPaintedItem {
+class StoredPicture : public PaintedItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QString stem MEMBER stem_ NOTIFY asked)
@@ -30,7 +31,6 @@ class StoredPicture : public QQuickPaintedItem {
 
  public:
   explicit StoredPicture(QQuickItem* parent = nullptr);
-  void paint(QPainter* painter) override;
 
   bool isReady() const { return !picture_.isNull(); }
   bool isMissing() const { return missing_; }
@@ -40,8 +40,10 @@ class StoredPicture : public QQuickPaintedItem {
   void readyChanged();
 
  protected:
+  void paint(QPainter* painter) override;
   void componentComplete() override;
   void geometryChange(const QRectF& now, const QRectF& before) override;
+  void pixelsPerPointChanged() override { loadSoon(); }
 
  private:
   /// What a load depends on.
@@ -53,6 +55,8 @@ class StoredPicture : public QQuickPaintedItem {
     bool operator==(const Wish&) const = default;
   };
   void load();
+  /// When the size has come to rest: decoding takes longer than a frame.
+  void loadSoon();
   using Take = void (StoredPicture::*)(int request, const LoadedPicture& picture);
   /// Hands a picture from another thread to this item, if it is still there.
   std::function<void(LoadedPicture)> receiver(Take take);
@@ -70,6 +74,7 @@ class StoredPicture : public QQuickPaintedItem {
   std::optional<FileIdentity> shown_; ///< the file that `picture_` is of
   bool missing_ = false;
   Wish wish_;
+  QTimer rest_;
   int request_ = 0; ///< the last; answers to earlier ones are dropped
 };
 

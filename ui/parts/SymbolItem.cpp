@@ -44,13 +44,12 @@ QPainterPath painterPath(const Path& path, FillRule rule) {
 
 } // namespace
 
-SymbolItem::SymbolItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
-  setAntialiasing(true);
+SymbolItem::SymbolItem(QQuickItem* parent) : PaintedItem(parent) {
   connect(this, &SymbolItem::changed, this, &SymbolItem::outline);
 }
 
 void SymbolItem::componentComplete() {
-  QQuickPaintedItem::componentComplete();
+  PaintedItem::componentComplete();
   outline();
 }
 

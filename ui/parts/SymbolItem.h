@@ -1,14 +1,15 @@
 // One symbol by name, filled in one colour.
 #pragma once
 
+#include "ui/parts/PaintedItem.h"
+
 #include <QColor>
 #include <QPainterPath>
-#include <QQuickPaintedItem>
 #include <QString>
 
 namespace vitrelle::ui {
 
-class SymbolItem : public QQuickPaintedItem {
+class SymbolItem : public PaintedItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QString name MEMBER name_ NOTIFY changed)
@@ -20,12 +21,12 @@ class SymbolItem : public QQuickPaintedItem {
 
  public:
   explicit SymbolItem(QQuickItem* parent = nullptr);
-  void paint(QPainter* painter) override;
 
  Q_SIGNALS:
   void changed();
 
  protected:
+  void paint(QPainter* painter) override;
   void componentComplete() override;
 
  private:
