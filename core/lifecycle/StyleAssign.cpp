@@ -61,7 +61,7 @@ bool StyleAssign::save() {
   // The store may have lost the records since; then the flow ends as if they were written.
   if (configNumber_ >= 0 && static_cast<std::size_t>(configNumber_) < stored().count()) {
     stored().setLinked(static_cast<std::size_t>(configNumber_), vitrelleConfig_);
-    stored().save();
+    isSaved_ = stored().save();
   }
   platform_.haptics.success();
   return true;

@@ -32,9 +32,11 @@ class StyleAssign : public Screen {
   /// The picker begins at the first wallpaper style, whatever the present link.
   std::int64_t vitrelleConfig() const { return vitrelleConfig_; }
   void pick(std::int64_t vitrelleConfig);
-  /// Writes the link, and whether it did. A style that is taken, also by this very record, is
-  /// refused with the alert.
+  /// Writes the link, and whether the screen is done. A style that is taken, also by this very
+  /// record, is refused with the alert.
   bool save();
+  /// Whether the last save was stored.
+  bool isSaved() const { return isSaved_; }
   void dismissAlert();
 
   const FamilyDescription& words() const { return words_; }
@@ -68,6 +70,7 @@ class StyleAssign : public Screen {
   std::int64_t vitrelleConfig_ = 0;
   std::vector<std::int64_t> invalidConfigs_;
   bool showingAlert_ = false;
+  bool isSaved_ = false;
   Subscription amountBinding_; ///< last, for it calls this screen
 };
 

@@ -73,13 +73,15 @@ class StyleColours final : public StyleSecondStep {
   }
 
   /// Where there is no record to work on, nothing is written, and the flow ends as if it were.
-  void save() override {
+  bool save() override {
+    bool saved = false;
     if (Record* record = stored_.at(index_)) {
       family_.copySecond(form_.record, *record);
-      stored_.save();
+      saved = stored_.save();
       if (isStored()) selected_.set(index_);
     }
     platform().haptics.success();
+    return saved;
   }
 
  private:

@@ -34,8 +34,8 @@ class StyleEditor : public Screen {
   virtual void setValue(std::size_t row, const FormValue& value) = 0;
   /// The record as it is edited, in the middle of the frame.
   virtual DisplayList face(const PointSize& frame) const = 0;
-  /// Writes the records.
-  virtual void save() = 0;
+  /// Writes the records. Whether they were stored; the flow goes on either way.
+  virtual bool save() = 0;
 
   const FamilyDescription& words() const { return words_; }
   const EditorTask& task() const { return task_; }

@@ -33,7 +33,8 @@ std::vector<GalleryTile> StyleGallery::tiles() const {
   for (std::size_t i = 0; i < shown; ++i) {
     tiles.push_back({.backdrop = backdrop(i),
                      .face = face(i, {tileSide(), tileSide()}),
-                     .current = static_cast<std::int64_t>(i) == current});
+                     .current = static_cast<std::int64_t>(i) == current,
+                     .linked = linkedConfig(i)});
   }
   return tiles;
 }
@@ -80,11 +81,16 @@ void StyleGallery::dismissAssign() {
 }
 
 std::optional<SliceName> StyleGallery::backdrop(std::size_t index) const {
-  const std::int64_t linked = stored().linked(index);
-  if (linked == noLinkedConfig) return img_;
-  auto slice = findSlice(platform_, WidgetLocationImageNames::smallTopLeft, linked,
+  const auto linked = linkedConfig(index);
+  if (!linked) return img_;
+  auto slice = findSlice(platform_, WidgetLocationImageNames::smallTopLeft, *linked,
                          currentAppearance(platform_));
   return slice ? slice : img_;
+}
+
+std::optional<std::int64_t> StyleGallery::linkedConfig(std::size_t index) const {
+  const std::int64_t linked = stored().linked(index);
+  return linked == noLinkedConfig ? std::nullopt : std::optional(linked);
 }
 
 } // namespace vitrelle

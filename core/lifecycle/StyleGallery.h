@@ -17,7 +17,8 @@ namespace vitrelle {
 struct GalleryTile {
   std::optional<SliceName> backdrop;
   DisplayList face;
-  bool current = false; ///< the family's current style
+  bool current = false;               ///< the family's current style
+  std::optional<std::int64_t> linked; ///< the wallpaper style that it is linked to
   bool operator==(const GalleryTile&) const = default;
 };
 
@@ -63,6 +64,7 @@ class StyleGallery : public Screen {
 
  private:
   std::optional<SliceName> backdrop(std::size_t index) const;
+  std::optional<std::int64_t> linkedConfig(std::size_t index) const;
 
   const Platform& platform_;
   const FamilyDescription& words_;

@@ -21,7 +21,8 @@ class StyleRecords {
   virtual ~StyleRecords() = default;
 
   virtual void load() = 0;
-  virtual void save() const = 0;
+  /// Whether they were written.
+  virtual bool save() const = 0;
   /// Whether what is stored could be taken in; else a save writes nothing.
   virtual bool loaded() const = 0;
   virtual std::size_t count() const = 0;
@@ -42,8 +43,10 @@ class FamilyRecords final : public StyleRecords {
     loaded_ = loaded.ok();
     records = loaded ? std::move(loaded).value() : std::vector<Record>();
   }
-  void save() const override {
-    loaded_ ? store_.saveRecords(family_, records) : store_.reloadWidgets();
+  bool save() const override {
+    if (loaded_) return store_.saveRecords(family_, records);
+    store_.reloadWidgets();
+    return false;
   }
   bool loaded() const override { return loaded_; }
   std::size_t count() const override { return records.size(); }

@@ -51,7 +51,7 @@ class StyleSetup final : public StyleFirstStep {
 
   /// The colours of a new record are white, and it is linked to nothing, until the steps after.
   /// Editing a record that is not there is a fatal error.
-  void save() override {
+  bool save() override {
     platform().haptics.lightImpact();
     std::int64_t index = task().configNumber;
     if (task().mode == EditorMode::create) {
@@ -62,7 +62,7 @@ class StyleSetup final : public StyleFirstStep {
     if (record == nullptr) fatalError("there is no widget style to edit at this index");
     family_.copySetup(form_.record, *record);
     saved_ = {index, *record};
-    stored_.save();
+    return stored_.save();
   }
   std::unique_ptr<StyleSecondStep> next() const override {
     return std::make_unique<StyleColours<Record>>(platform(), family_, task(), saved_);

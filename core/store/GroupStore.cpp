@@ -32,9 +32,8 @@ Status GroupStore::check(Suite suite) const {
 }
 
 template <class T>
-void GroupStore::set(const Key<T>& key, const T& value) const {
-  // The logic goes on as if the write had worked.
-  static_cast<void>(platform_->defaults.set(key.suite, key.name, value));
+bool GroupStore::set(const Key<T>& key, const T& value) const {
+  return platform_->defaults.set(key.suite, key.name, value).ok();
 }
 
 template <class T>
@@ -65,22 +64,23 @@ Result<std::vector<Record>> GroupStore::readRecords(const Family<Record>& family
 }
 
 template <class Record>
-void GroupStore::saveRecords(const Family<Record>& family,
+bool GroupStore::saveRecords(const Family<Record>& family,
                              const std::vector<Record>& records) const {
   const Result<Data> json = encodeRecords(records);
   if (!json) {
     const Failure& error = json.failure();
     platform_->debugConsole.print("Unable to Encode Data (" + error.what + ": " + error.why + ")");
-    return;
+    return false;
   }
-  set(family.records, *json);
+  const bool isStored = set(family.records, *json);
   platform_->widgetCenter.reloadAllTimelines();
+  return isStored;
 }
 
 #define VITRELLE_STORED(T)                                                                         \
   template std::optional<T> GroupStore::value(const Key<T>&) const;                                \
   template Result<std::optional<T>> GroupStore::read(const Key<T>&) const;                         \
-  template void GroupStore::set(const Key<T>&, const T&) const;                                    \
+  template bool GroupStore::set(const Key<T>&, const T&) const;                                    \
   template Subscription GroupStore::subscribe(const Key<T>&,                                       \
                                               std::function<void(const std::optional<T>&)>) const
 
@@ -94,7 +94,7 @@ VITRELLE_STORED(Date);
 #define VITRELLE_RECORDED(Record)                                                                  \
   template std::vector<Record> GroupStore::loadRecords(const Family<Record>&) const;               \
   template Result<std::vector<Record>> GroupStore::readRecords(const Family<Record>&) const;       \
-  template void GroupStore::saveRecords(const Family<Record>&, const std::vector<Record>&) const
+  template bool GroupStore::saveRecords(const Family<Record>&, const std::vector<Record>&) const
 
 VITRELLE_RECORDED(textWidgetData);
 VITRELLE_RECORDED(musicWidgetData);

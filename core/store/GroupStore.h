@@ -42,9 +42,10 @@ class GroupStore final {
     }
   }
 
-  /// Readers in this process and in the widgets see it at once.
+  /// Readers in this process and in the widgets see it at once. Whether it was stored; the logic
+  /// goes on as if it were.
   template <class T>
-  void set(const Key<T>& key, const T& value) const;
+  bool set(const Key<T>& key, const T& value) const;
 
   /// Calls with the present value before it returns, then with each later one, whoever wrote it.
   template <class T>
@@ -62,8 +63,9 @@ class GroupStore final {
 
   /// Replaces the family's array and reloads the widgets, even when the store can't be opened. An
   /// array that can't be encoded is reported on the debug console, and nothing else happens.
+  /// Whether the records were stored.
   template <class Record>
-  void saveRecords(const Family<Record>& family, const std::vector<Record>& records) const;
+  bool saveRecords(const Family<Record>& family, const std::vector<Record>& records) const;
   /// What is left of a save that may not write.
   void reloadWidgets() const { platform_->widgetCenter.reloadAllTimelines(); }
 
