@@ -1,5 +1,7 @@
 #include "ui/Shell.h"
 
+#include "ui/app/WindowPlace.h"
+
 #include <QClipboard>
 #include <QEvent>
 #include <QGuiApplication>
@@ -23,6 +25,7 @@ Shell::Shell(const Platform& platform, ShellOptions options)
 }
 
 Shell::~Shell() {
+  if (options_.framed && window_ != nullptr) keepPlace(platform_, *window_);
   Q_EMIT closing();
 }
 
@@ -47,7 +50,13 @@ bool Shell::open() {
   engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Vitrelle/Main.qml")));
   if (engine_.rootObjects().isEmpty()) return false;
   window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
-  return window_ != nullptr;
+  if (window_ == nullptr) return false;
+  if (options_.framed) {
+    restorePlace(platform_, *window_);
+    window_->installEventFilter(this);
+  }
+  window_->show();
+  return true;
 }
 
 void Shell::raise() {
@@ -83,6 +92,7 @@ IntakeScreen* Shell::changeStyle(int number) {
 }
 
 bool Shell::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == window_ && event->type() == QEvent::Close) keepPlace(platform_, *window_);
   if (event->type() == QEvent::ApplicationPaletteChange) Q_EMIT darkChanged();
   return QObject::eventFilter(watched, event);
 }
@@ -98,9 +108,16 @@ FamilyScreen* Shell::family(const QString& name) const {
   return new FamilyScreen(platform_, familyScreens(name.toStdString()));
 }
 
-void Shell::showNotice(const QString& text) {
-  if (text == notice_) return;
+void Shell::showNotice(const QString& text, NoticeKind kind) {
+  if (!notice_.isEmpty() && noticeKind_ == Trouble && kind != Trouble) return;
   notice_ = text;
+  noticeKind_ = kind;
+  Q_EMIT noticeChanged();
+}
+
+void Shell::dismissNotice() {
+  if (notice_.isEmpty()) return;
+  notice_.clear();
   Q_EMIT noticeChanged();
 }
 

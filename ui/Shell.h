@@ -41,10 +41,18 @@ class Shell final : public QObject {
   Q_PROPERTY(vitrelle::ui::RootScreen* root READ root CONSTANT)
   /// One line that the user should read; empty when there is none.
   Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
+  Q_PROPERTY(NoticeKind noticeKind READ noticeKind NOTIFY noticeChanged)
   /// Whether a picture lies in the clipboard.
   Q_PROPERTY(bool canPaste READ canPaste NOTIFY canPasteChanged)
 
  public:
+  enum NoticeKind {
+    Done,    ///< what was wanted has happened
+    Refusal, ///< something did not happen; gone as soon as it does
+    Trouble, ///< stays as long as what it tells of
+  };
+  Q_ENUM(NoticeKind)
+
   /// The platform must outlive it.
   Shell(const Platform& platform, ShellOptions options);
   ~Shell() override;
@@ -72,6 +80,7 @@ class Shell final : public QObject {
   bool isDark() const;
   RootScreen* root() { return &root_; }
   QString notice() const { return notice_; }
+  NoticeKind noticeKind() const { return noticeKind_; }
   bool canPaste() const;
 
   /// The QML owns what it gets.
@@ -79,6 +88,8 @@ class Shell final : public QObject {
   Q_INVOKABLE vitrelle::ui::IntakeScreen* changeStyle(int number);
   /// The family's entry screen, by its name in the family table.
   Q_INVOKABLE vitrelle::ui::FamilyScreen* family(const QString& name) const;
+  /// Whether a screen is there; nothing leads to one that is not.
+  Q_INVOKABLE bool hasScreen(const QString& name) const { return screenNames().contains(name); }
   /// What draws the screen of a type name; the page is empty for a name that none has.
   Q_INVOKABLE vitrelle::ui::ScreenEntry screenEntry(const QString& name) const;
   Q_INVOKABLE vitrelle::ui::FontScreen* fonts() const { return new FontScreen(platform_); }
@@ -86,8 +97,9 @@ class Shell final : public QObject {
   Q_INVOKABLE static QString fontWords(const QString& name) {
     return qText(vitrelle::fontWords(name.toStdString()));
   }
-  Q_INVOKABLE void showNotice(const QString& text);
-  Q_INVOKABLE void dismissNotice() { showNotice({}); }
+  /// In the place of another, unless that tells of lasting trouble and this does not.
+  Q_INVOKABLE void showNotice(const QString& text, NoticeKind kind = Refusal);
+  Q_INVOKABLE void dismissNotice();
 
  Q_SIGNALS:
   void darkChanged();
@@ -105,6 +117,7 @@ class Shell final : public QObject {
   PictureSource pictures_;
   RootScreen root_;
   QString notice_;
+  NoticeKind noticeKind_ = Done;
   QQuickWindow* window_ = nullptr; ///< the engine's
   QQmlApplicationEngine engine_;   ///< last, for its objects use all others
 };

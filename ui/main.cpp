@@ -153,7 +153,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
         const QString pattern = trouble == ui::Trouble::reading ? qtTrId("app.store.unreadable")
                                                                 : qtTrId("app.store.readOnly");
         told = pattern.arg(QString::fromStdString(failure.what + ": " + failure.why));
-        if (shell != nullptr) shell->showNotice(told);
+        if (shell != nullptr) shell->showNotice(told, ui::Shell::Trouble);
       },
       [&] {
         if (shell != nullptr && shell->notice() == told) shell->dismissNotice();
@@ -189,7 +189,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
                                 .animated = interactive,
                                 .launches = !interactive || arguments.screen.empty()});
   shell = &theShell;
-  if (!told.isEmpty()) shell->showNotice(told);
+  if (!told.isEmpty()) shell->showNotice(told, ui::Shell::Trouble);
   if (!theShell.open()) return 1;
   if (!interactive) return takeScreenshot(theShell, arguments.screenshot);
 

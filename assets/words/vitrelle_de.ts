@@ -23,41 +23,9 @@
         <source></source>
         <translation>Schließen</translation>
     </message>
-    <message id="app.comingSoon">
-        <source></source>
-        <translation>Diese Seite gehört noch nicht zu dieser Version.</translation>
-    </message>
     <message id="app.help">
         <source></source>
         <translation>Hilfe</translation>
-    </message>
-    <message id="app.invalidLink">
-        <source></source>
-        <translation>Unbekannter Link</translation>
-    </message>
-    <message id="app.settings">
-        <source></source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message id="app.upgrade">
-        <source></source>
-        <translation>Willkommen zurück</translation>
-    </message>
-    <message id="app.welcome">
-        <source></source>
-        <translation>Willkommen</translation>
-    </message>
-    <message id="app.widgetLabel">
-        <source></source>
-        <translation>Die Beschriftung unter einem Widget</translation>
-    </message>
-    <message id="app.widgetNoData">
-        <source></source>
-        <translation>Ein Widget zeigt nichts</translation>
-    </message>
-    <message id="app.widgetRefreshing">
-        <source></source>
-        <translation>Wann Widgets neu gezeichnet werden</translation>
     </message>
     <message id="app.info">
         <source></source>
@@ -162,6 +130,30 @@
     <message id="app.colour.eyedropper">
         <source></source>
         <translation>Vom Bildschirm aufnehmen</translation>
+    </message>
+    <message id="app.style">
+        <source></source>
+        <translation>Vitrelle Style %1</translation>
+    </message>
+    <message id="app.clipboardEmpty">
+        <source></source>
+        <translation>In der Zwischenablage ist kein Bild.</translation>
+    </message>
+    <message id="app.intake.ways">
+        <source></source>
+        <translation>Ein Bildschirmfoto lässt sich auch auf seine Hälfte ziehen oder mit Strg+V einfügen.</translation>
+    </message>
+    <message id="app.pictureSet">
+        <source></source>
+        <translation>Bild gewählt</translation>
+    </message>
+    <message id="app.gallery.linked">
+        <source></source>
+        <translation>mit Vitrelle Style %1 verknüpft</translation>
+    </message>
+    <message id="app.saved">
+        <source></source>
+        <translation>Gespeichert</translation>
     </message>
 </context>
 </TS>

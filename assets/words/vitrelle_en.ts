@@ -23,41 +23,9 @@
         <source></source>
         <translation>Close</translation>
     </message>
-    <message id="app.comingSoon">
-        <source></source>
-        <translation>This page is not part of this version yet.</translation>
-    </message>
     <message id="app.help">
         <source></source>
         <translation>Help</translation>
-    </message>
-    <message id="app.invalidLink">
-        <source></source>
-        <translation>Unknown Link</translation>
-    </message>
-    <message id="app.settings">
-        <source></source>
-        <translation>Settings</translation>
-    </message>
-    <message id="app.upgrade">
-        <source></source>
-        <translation>Welcome Back</translation>
-    </message>
-    <message id="app.welcome">
-        <source></source>
-        <translation>Welcome</translation>
-    </message>
-    <message id="app.widgetLabel">
-        <source></source>
-        <translation>The Label under a Widget</translation>
-    </message>
-    <message id="app.widgetNoData">
-        <source></source>
-        <translation>A Widget Shows Nothing</translation>
-    </message>
-    <message id="app.widgetRefreshing">
-        <source></source>
-        <translation>When Widgets Refresh</translation>
     </message>
     <message id="app.info">
         <source></source>
@@ -162,6 +130,30 @@
     <message id="app.colour.eyedropper">
         <source></source>
         <translation>Pick from the screen</translation>
+    </message>
+    <message id="app.style">
+        <source></source>
+        <translation>Vitrelle Style %1</translation>
+    </message>
+    <message id="app.clipboardEmpty">
+        <source></source>
+        <translation>The clipboard holds no picture.</translation>
+    </message>
+    <message id="app.intake.ways">
+        <source></source>
+        <translation>A screenshot can also be dropped on its half, or pasted with Ctrl+V.</translation>
+    </message>
+    <message id="app.pictureSet">
+        <source></source>
+        <translation>picture set</translation>
+    </message>
+    <message id="app.gallery.linked">
+        <source></source>
+        <translation>linked to Vitrelle Style %1</translation>
+    </message>
+    <message id="app.saved">
+        <source></source>
+        <translation>Saved</translation>
     </message>
 </context>
 </TS>

@@ -21,15 +21,16 @@ std::int64_t required(const std::optional<std::int64_t>& amount) {
   return *amount;
 }
 
+bool isStored(const Platform& platform, InterfaceStyle style, std::int64_t number) {
+  return ImageLoader(platform)
+      .loadSlice(rawValue(WidgetLocationImageNames::fullImage), style, number)
+      .has_value();
+}
+
 /// Whether the newest of so many styles has both its screenshots.
 bool newestIsComplete(const Platform& platform, std::int64_t amount) {
   if (amount == std::numeric_limits<std::int64_t>::min()) return false; // no number is less
-  const ImageLoader loader(platform);
-  const auto exists = [&](InterfaceStyle style) {
-    return loader.loadSlice(rawValue(WidgetLocationImageNames::fullImage), style, amount - 1)
-        .has_value();
-  };
-  return exists(lightStyle) && exists(darkStyle);
+  return isStored(platform, lightStyle, amount - 1) && isStored(platform, darkStyle, amount - 1);
 }
 
 /// No style is in the making any more.
@@ -51,6 +52,10 @@ void WallpaperIntake::appear() {
   auto lock = lock_ ? Result<HomeLock>(lock_) : platform_.files.lock(patienceSeconds);
   obstacle_ = lock ? std::nullopt : std::optional(lock.failure());
   if (lock) lock_ = *std::move(lock);
+}
+
+bool WallpaperIntake::isSet(InterfaceStyle style) const {
+  return isStored(platform_, style, styleNumber());
 }
 
 bool WallpaperIntake::isReady() {

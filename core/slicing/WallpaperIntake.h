@@ -42,6 +42,8 @@ class WallpaperIntake : public Screen {
       {{lightStyle, "Light Mode", "sun.max.fill"}, {darkStyle, "Dark Mode", "moon.fill"}}};
   /// The style whose screenshots these are.
   virtual std::int64_t styleNumber() const = 0;
+  /// Whether that style has a screenshot for the appearance.
+  bool isSet(InterfaceStyle style) const;
 
   /// A press that ended so many points from the screen's left edge: the left half takes a light
   /// screenshot, the right half a dark one. Opens the picker.

@@ -79,6 +79,7 @@ inline constexpr Key<Bool>   betaEnrollment{standard, "beta_enrollment", isAStat
 inline constexpr Key<Date>   appReviewAskDate{standard, "appReviewAskDate", isAState};
 inline constexpr Key<Int>    appStartUpsCountKey{standard, "appStartUpsCountKey", readsAsDefault};
 inline constexpr Key<Int>    styleInTheMaking{standard, "styleInTheMaking", isAState};
+inline constexpr Key<String> windowPlace{standard, "windowPlace", isAState};
 
 // clang-format on
 
@@ -126,6 +127,7 @@ inline constexpr std::tuple groupKeys{selectedConfig,
 
 /// The keys of the standard defaults.
 inline constexpr std::tuple standardKeys{destination,      lastUsedAppVersion,  betaEnrollment,
-                                         appReviewAskDate, appStartUpsCountKey, styleInTheMaking};
+                                         appReviewAskDate, appStartUpsCountKey, styleInTheMaking,
+                                         windowPlace};
 
 } // namespace vitrelle::keys

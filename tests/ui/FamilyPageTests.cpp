@@ -152,6 +152,10 @@ TEST_F(FamilyPageTest, gallery_ticksAndLinksAndRefuses) {
   driver->click("saveAndExit");
   waitForEndOf("assignSheet");
   EXPECT_EQ(records()[2].textLinkedConfig, 1);
+  EXPECT_EQ(shell->notice(), "Saved");
+  EXPECT_TRUE(driver->isShown("tileLink2"));
+  EXPECT_FALSE(driver->isShown("tileLink0"));
+  EXPECT_EQ(accessibleName("tile2"), "Widget Style 3, linked to Vitrelle Style 2");
 
   driver->click("tile0", Qt::RightButton);
   driver->click("assignEntry");

@@ -18,6 +18,9 @@ class IntakePageTest : public test::UiTest {
     picture.fill(Qt::darkCyan);
     QGuiApplication::clipboard()->setImage(picture);
   }
+  ui::IntakeScreen* intake() const {
+    return driver->find("intakePage")->property("intake").value<ui::IntakeScreen*>();
+  }
   void paste(const char* cell) {
     driver->find(cell)->forceActiveFocus();
     driver->key(Qt::Key_V, Qt::ControlModifier);
@@ -149,17 +152,69 @@ TEST_F(IntakePageTest, helpSheets_openByTheirState) {
   EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("intakeSheet"); }));
   EXPECT_TRUE(driver->isShown("intakePage")) << "the way back is one step";
 
-  auto* intake = driver->find("intakePage")->property("intake").value<ui::IntakeScreen*>();
-  for (const ActiveSheet sheet : {ActiveSheet::widgetRefresh, ActiveSheet::widgetPlaceholder,
-                                  ActiveSheet::widgetAppleDumb, ActiveSheet::invalid}) {
-    intake->screen().present(sheet);
-    ASSERT_TRUE(driver->isShown("plainPage"));
-    EXPECT_EQ(driver->find("plainPage")->property("title").toString(),
-              shell->screenEntry(QString::fromLatin1(screenName(sheet))).title);
-    intake->dismissSheet();
-    EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("intakeSheet"); }));
-  }
+  intake()->screen().present(ActiveSheet::settings);
+  EXPECT_FALSE(driver->isShown("intakeSheet")) << "no sheet shows a screen that is not there";
   EXPECT_TRUE(folder.written.empty());
+}
+
+TEST_F(IntakePageTest, newStyle_isThePageThatOneComesBackTo) {
+  setNumber("amountOfConfigs", 2);
+  addStyle(0);
+  addStyle(1);
+  open();
+  driver->key(Qt::Key_V, Qt::ControlModifier); // on the root
+  ASSERT_TRUE(driver->isShown("intakePage"));
+  EXPECT_EQ(driver->find("styleName")->property("text"), "Vitrelle Style 3");
+  EXPECT_TRUE(folder.images.contains("2original.png"));
+  paste("darkCell");
+  driver->key(Qt::Key_Escape);
+  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("intakePage"); }));
+  EXPECT_EQ(shell->root()->page(), 2);
+  EXPECT_TRUE(driver->find("shownPage")->hasActiveFocus());
+}
+
+TEST_F(IntakePageTest, keys_beginAtTheHalfThatIsMissing) {
+  setNumber("amountOfConfigs", 0);
+  open();
+  driver->key(Qt::Key_Return);
+  ASSERT_TRUE(driver->isShown("intakePage"));
+  EXPECT_TRUE(driver->find("lightCell")->hasActiveFocus());
+  EXPECT_EQ(accessibleName("lightCell"), "Light Mode, No Image Set, Tap to Change");
+  driver->key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(accessibleName("lightCell"), "Light Mode, picture set, Tap to Change");
+  driver->key(Qt::Key_Escape);
+  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("intakePage"); }));
+  driver->key(Qt::Key_Return);
+  EXPECT_TRUE(driver->find("darkCell")->hasActiveFocus()) << "the light file stayed";
+}
+
+TEST_F(IntakePageTest, files_goToTheHalvesThatTheirNamesTell) {
+  setNumber("amountOfConfigs", 1);
+  open({.screen = QStringLiteral("ModernChangeLightDark"), .framed = false, .animated = false});
+  platform.images.load = [this](const std::string& path) -> Result<Image> {
+    if (path == "/bad") return Failure{path, "damaged"};
+    return screenshot;
+  };
+  const auto written = [&](const QList<QUrl>& files) {
+    folder.written.clear();
+    intake()->takeFiles(files);
+    std::vector<std::string> originals;
+    for (const std::string& name : folder.written) {
+      if (name.find("original") != std::string::npos) originals.push_back(name);
+    }
+    return originals;
+  };
+  using Names = std::vector<std::string>;
+  const QUrl light(QStringLiteral("file:///a.png"));
+  const QUrl dark(QStringLiteral("file:///my-Dark.png"));
+  EXPECT_EQ(written({light}), Names{"0original.png"});
+  EXPECT_EQ(written({dark}), Names{"0originalDark.png"});
+  EXPECT_EQ(written({dark, light}), (Names{"0originalDark.png", "0original.png"}));
+  EXPECT_EQ(written({light, light}), (Names{"0original.png", "0originalDark.png"}));
+  EXPECT_EQ(written({QUrl(QStringLiteral("file:///bad")), light}), Names{});
+  EXPECT_NE(shell->notice(), "") << "the refusal stays to be read";
+  EXPECT_EQ(written({light}), Names{"0original.png"});
+  EXPECT_EQ(shell->notice(), "") << "a good picture takes it back";
 }
 
 TEST_F(IntakePageTest, rightClick_opensAMenu) {

@@ -1,5 +1,7 @@
 #include "tests/ui/UiTest.h"
 
+#include "ui/app/WindowPlace.h"
+
 #include <QColor>
 #include <QWheelEvent>
 
@@ -104,27 +106,98 @@ TEST_F(RootPageTest, twelveStyles_haveNoCreateCard) {
   EXPECT_EQ(shell->root()->pageCount(), 12);
 }
 
-TEST_F(RootPageTest, firstRun_opensASheetThatEscapeCloses) {
+TEST_F(RootPageTest, whatIsNotThere_isNotLedTo) {
   defaults.values(Suite::standard).clear();
   open();
-  EXPECT_TRUE(driver->isShown("onboardingSheet"));
-  driver->key(Qt::Key_Escape);
-  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("onboardingSheet"); }));
+  EXPECT_TRUE(driver->find("shownPage")->hasActiveFocus()) << "a first run begins at the root";
+  EXPECT_FALSE(driver->isShown("knowledgeButton") || driver->isShown("infoButton"));
 }
 
-TEST_F(RootPageTest, tab_reachesEveryControl) {
-  addStyles(1);
+TEST_F(RootPageTest, tab_stopsAtThePageThatIsShown) {
+  addStyles(2);
   open();
-  std::set<QString> reached;
-  for (int i = 0; i < 12; ++i) {
-    driver->key(Qt::Key_Tab);
-    if (const QQuickItem* item = shell->window()->activeFocusItem())
-      reached.insert(item->objectName());
-  }
-  for (const char* name :
-       {"tick0", "edit0", "createCard", "knowledgeButton", "widgetCentreButton", "infoButton"}) {
-    EXPECT_TRUE(reached.contains(name)) << name;
-  }
+  const auto stops = [&] {
+    QStringList reached;
+    for (int i = 0; i < 4; ++i) {
+      reached << shell->window()->activeFocusItem()->objectName();
+      driver->key(Qt::Key_Tab);
+    }
+    return reached;
+  };
+  EXPECT_EQ(stops(), (QStringList{"shownPage", "tick0", "edit0", "widgetCentreButton"}));
+  driver->key(Qt::Key_Tab);
+  driver->key(Qt::Key_Right);
+  EXPECT_TRUE(driver->find("shownPage")->hasActiveFocus()) << "the tick has gone aside";
+  EXPECT_EQ(stops(), (QStringList{"shownPage", "tick1", "edit1", "widgetCentreButton"}));
+  EXPECT_EQ(accessibleName("shownPage"), "Vitrelle Style 2, Page 2 of 3");
+  EXPECT_EQ(accessibleName("edit1"), "Edit Vitrelle Style 2");
+}
+
+TEST_F(RootPageTest, enter_doesWhatThePageIsFor) {
+  addStyles(2);
+  setNumber("selectedConfig", 0);
+  open();
+  driver->key(Qt::Key_Right);
+  driver->key(Qt::Key_Return);
+  EXPECT_EQ(number("selectedConfig"), 1);
+  driver->key(Qt::Key_End);
+  driver->key(Qt::Key_Space);
+  EXPECT_TRUE(driver->isShown("intakePage"));
+}
+
+TEST_F(RootPageTest, pressOnACardAside_bringsItToTheMiddle) {
+  addStyles(2);
+  setNumber("selectedConfig", 0);
+  open();
+  const QQuickItem* tick = driver->find("tick1");
+  QTest::mouseClick(shell->window(), Qt::LeftButton, {}, tick->mapToScene(QPointF(2, 2)).toPoint());
+  EXPECT_EQ(shell->root()->page(), 1);
+  EXPECT_EQ(number("selectedConfig"), 0);
+}
+
+TEST_F(RootPageTest, signs_areFoundByAFinger) {
+  open();
+  const QQuickItem* button = driver->find("widgetCentreButton");
+  ASSERT_LT(button->width(), 40);
+  const QPointF beside(-2, button->height() / 2);
+  QTest::mouseClick(shell->window(), Qt::LeftButton, {}, button->mapToScene(beside).toPoint());
+  EXPECT_TRUE(driver->isShown("alert"));
+}
+
+TEST_F(RootPageTest, notices_leaveByThemselvesUnlessTheirTroubleLasts) {
+  open();
+  const auto isBelow = [&] {
+    const QQuickItem* notice = driver->find("notice");
+    return notice->mapToScene({}).y() > driver->find("shownPage")->height();
+  };
+  shell->showNotice(QStringLiteral("saved"), ui::Shell::Done);
+  EXPECT_TRUE(driver->isShown("notice"));
+  EXPECT_TRUE(isBelow()) << "out of the way of titles";
+  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("notice"); }));
+  shell->showNotice(QStringLiteral("locked"), ui::Shell::Trouble);
+  shell->showNotice(QStringLiteral("saved"), ui::Shell::Done);
+  EXPECT_EQ(shell->notice(), "locked");
+  driver->click("notice");
+  EXPECT_EQ(shell->notice(), "");
+}
+
+TEST_F(RootPageTest, window_comesBackAsItWasLeft) {
+  open({.screen = {}, .framed = true, .animated = false});
+  shell->window()->setGeometry(40, 50, 300, 620);
+  QTest::qWait(20);
+  const QRect left = shell->window()->geometry();
+  driver.reset();
+  shell.reset();
+  open({.screen = {}, .framed = true, .animated = false});
+  EXPECT_EQ(shell->window()->geometry(), left);
+  defaults.values(Suite::standard)["windowPlace"] = std::string("9000 9000 300 620");
+  driver.reset();
+  shell->window()->setVisibility(QWindow::Hidden); // nothing to keep
+  shell.reset();
+  open({.screen = {}, .framed = true, .animated = false});
+  EXPECT_LT(shell->window()->x(), 2000) << "that screen is gone";
+  for (const char* text : {"", "1 2 3", "a b c d", "1 2 300 -4", "1 2 3 4 5", "1e3 2 3 4"})
+    EXPECT_FALSE(ui::parsePlace(QString::fromLatin1(text))) << text;
 }
 
 TEST_F(RootPageTest, screenAskedFor_leavesTheLaunchToAnotherStart) {
@@ -138,7 +211,6 @@ TEST_F(RootPageTest, screenAskedFor_leavesTheLaunchToAnotherStart) {
       SCOPED_TRACE(std::string(version) + " " + name.toStdString());
       open({.screen = name, .framed = false, .animated = false, .launches = false});
       EXPECT_FALSE(driver->isShown("intakePage")) << "what is made now would be lost";
-      EXPECT_FALSE(driver->isShown("upgradeSheet") || driver->isShown("onboardingSheet"));
       driver->key(Qt::Key_Escape);
       EXPECT_FALSE(driver->isShown("createCard"));
       driver.reset();

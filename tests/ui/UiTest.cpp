@@ -3,6 +3,7 @@
 #include "host/drawing/DrawingProcess.h"
 #include "ui/Words.h"
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QQuickStyle>
 #include <QSGRendererInterface>
@@ -39,6 +40,13 @@ QQuickItem* Driver::find(const QString& objectName) const {
 bool Driver::isShown(const QString& objectName) const {
   QCoreApplication::processEvents();
   return search(shell_.window()->contentItem(), objectName) != nullptr;
+}
+
+QString Driver::accessibleName(const QString& objectName) const {
+  QQuickItem* item = find(objectName);
+  const QAccessibleInterface* seen =
+      item == nullptr ? nullptr : QAccessible::queryAccessibleInterface(item);
+  return seen == nullptr ? QString() : seen->text(QAccessible::Name);
 }
 
 QPoint Driver::middle(const QString& objectName) const {

@@ -20,6 +20,8 @@ class Driver final {
   /// Of what is visible. Fails the test when there is none.
   QQuickItem* find(const QString& objectName) const;
   bool isShown(const QString& objectName) const;
+  /// What a screen reader says of it.
+  QString accessibleName(const QString& objectName) const;
   void click(const QString& objectName, Qt::MouseButton button = Qt::LeftButton) const;
   void drag(QPoint from, int distance) const;
   void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
@@ -39,6 +41,10 @@ class UiTest : public AppTest {
 
   /// Builds the window; the store and the folder are as the test wants them.
   void open(ui::ShellOptions options = {.screen = {}, .framed = false, .animated = false});
+
+  QString accessibleName(const QString& objectName) const {
+    return driver->accessibleName(objectName);
+  }
 
   std::unique_ptr<ui::Shell> shell;
   std::unique_ptr<Driver> driver;

@@ -12,9 +12,6 @@ FocusScope {
     signal created
     signal edited(int styleNumber)
 
-    activeFocusOnTab: true
-    Accessible.role: Accessible.PageTabList
-    Accessible.name: qsTrId("app.page").arg(root.page + 1).arg(root.pageCount)
     Keys.onLeftPressed: root.showPage(root.page - 1)
     Keys.onRightPressed: root.showPage(root.page + 1)
     Keys.onPressed: event => {
@@ -63,26 +60,61 @@ FocusScope {
             enabled: !pager.root.dragging && Shell.animated
             NumberAnimation { duration: Theme.longTime; easing.type: Easing.OutCubic }
         }
+        Item { // the page in the middle, before the controls on it
+            id: shownPage
+            objectName: "shownPage"
+
+            readonly property StyleCard card: pager.root.page < cards.count ? cards.itemAt(pager.root.page) as StyleCard : null
+            readonly property bool creates: pager.root.page === cards.count && createCard.visible
+            readonly property string title: card ? card.title : creates ? createCard.name : ""
+
+            function press() {
+                if (card)
+                    card.ticked();
+                else if (creates)
+                    pager.created();
+            }
+
+            x: pager.root.page * pager.step
+            width: pager.root.pageWidth
+            height: Shell.screenHeight / 1.5
+            focus: true
+            activeFocusOnTab: true
+            Accessible.role: Accessible.PageTab
+            Accessible.name: (title === "" ? "" : title + ", ") + qsTrId("app.page").arg(pager.root.page + 1).arg(pager.root.pageCount)
+            Accessible.focusable: true
+            Accessible.onPressAction: press()
+            Keys.onReturnPressed: press()
+            Keys.onEnterPressed: press()
+            Keys.onSpacePressed: press()
+
+            FocusRing {
+                shown: shownPage.activeFocus
+                radius: 42
+            }
+        }
         Repeater {
             id: cards
             model: pager.root.showsCards ? pager.root.styles : null
 
             StyleCard {
-                id: card
                 required property int index
 
                 x: index * pager.step
                 near: Math.abs(index - pager.root.page) <= 2
+                shown: index === pager.root.page
                 onTicked: pager.root.select(styleNumber)
                 onEdited: pager.edited(styleNumber)
-                onActiveFocusChanged: if (activeFocus) pager.root.showPage(index)
+                onAsked: pager.root.showPage(index)
+                onKeysLeft: shownPage.forceActiveFocus()
             }
         }
         CreateCard {
+            id: createCard
             visible: pager.root.showsCreateCard
             x: cards.count * pager.step
+            activeFocusOnTab: false // its page has the keys
             onPressed: pager.created()
-            onActiveFocusChanged: if (activeFocus) pager.root.showPage(cards.count)
         }
     }
 }

@@ -32,6 +32,7 @@ Pressable {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             font.bold: true
+            spoken: false
             text: card.name
         }
     }

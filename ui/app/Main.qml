@@ -25,7 +25,6 @@ Window {
     minimumWidth: phoneWidth / 3
     minimumHeight: phoneHeight / 3
     color: "black"
-    visible: true
 
     Item {
         anchors.centerIn: parent

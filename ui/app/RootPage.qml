@@ -11,6 +11,21 @@ FocusScope {
     signal opened(string screen)
     signal created
     signal edited(int styleNumber)
+    /// A new style is to begin with these pictures, or with the one in the clipboard.
+    signal dropped(var files)
+    signal pasted
+
+    readonly property bool canCreate: root.showsCreateCard && root.canBeChanged
+
+    Keys.onPressed: event => {
+        if (!event.matches(StandardKey.Paste))
+            return;
+        event.accepted = true;
+        if (canCreate && Shell.canPaste)
+            pasted();
+        else if (canCreate)
+            Shell.showNotice(qsTrId("app.clipboardEmpty"));
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -52,6 +67,7 @@ FocusScope {
 
         RoundButton {
             objectName: "knowledgeButton"
+            visible: Shell.hasScreen("ModernKnowledgeCentre")
             symbol: "questionmark.circle.fill"
             name: qsTrId("app.help")
             onPressed: page.opened("ModernKnowledgeCentre")
@@ -64,9 +80,38 @@ FocusScope {
         }
         RoundButton {
             objectName: "infoButton"
+            visible: Shell.hasScreen("ModernInfoCentre")
             symbol: "info.circle.fill"
             name: qsTrId("app.info")
             onPressed: page.opened("ModernInfoCentre")
+        }
+    }
+    DropArea {
+        id: drop
+        objectName: "rootDrop"
+        anchors.fill: parent
+        enabled: page.canCreate
+        keys: ["text/uri-list"]
+        onDropped: event => {
+            if (!event.hasUrls)
+                return;
+            event.acceptProposedAction();
+            page.dropped(event.urls);
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            visible: drop.containsDrag
+            color: Qt.rgba(0, 0, 0, 0.6)
+
+            Label {
+                anchors.centerIn: parent
+                width: parent.width - 80
+                horizontalAlignment: Text.AlignHCenter
+                font.bold: true
+                font.pixelSize: 22
+                text: page.root.createTitle
+            }
         }
     }
     Item { // the strip of the banner, which stays empty without an advertising kit

@@ -1,5 +1,7 @@
 #include "ui/app/RootScreen.h"
 
+#include <algorithm>
+
 namespace vitrelle::ui {
 
 namespace {
@@ -42,6 +44,12 @@ void RootScreen::endDrag(qreal translation) {
 void RootScreen::showPage(int page) {
   pager_.showPage(page);
   Q_EMIT pagerMoved();
+}
+
+void RootScreen::showStyle(int styleNumber) {
+  const auto& styles = screen_.vitrelleConfigs();
+  const auto found = std::ranges::find(styles, styleNumber, &VitrelleConfigData::configNumber);
+  if (found != styles.end()) showPage(static_cast<int>(found - styles.begin()));
 }
 
 void RootScreen::update() {

@@ -26,8 +26,6 @@ class RootScreen final : public QObject {
   Q_PROPERTY(bool canBeChanged READ canBeChanged NOTIFY changed)
   Q_PROPERTY(bool launchWaits READ launchWaits NOTIFY changed)
   Q_PROPERTY(bool showingAlert READ showingAlert NOTIFY changed)
-  Q_PROPERTY(bool showOnboarding READ showOnboarding NOTIFY changed)
-  Q_PROPERTY(bool showUpdateFromOne READ showUpdateFromOne NOTIFY changed)
   Q_PROPERTY(qreal pageWidth READ pageWidth CONSTANT)
   Q_PROPERTY(qreal pageSpacing READ pageSpacing CONSTANT)
   Q_PROPERTY(qreal minimumDragDistance READ minimumDragDistance CONSTANT)
@@ -51,8 +49,6 @@ class RootScreen final : public QObject {
   bool canBeChanged() const { return screen_.canBeChanged(); }
   bool launchWaits() const { return screen_.launchWaits(); }
   bool showingAlert() const { return screen_.showingAlert(); }
-  bool showOnboarding() const { return screen_.showOnboarding(); }
-  bool showUpdateFromOne() const { return screen_.showUpdateFromOne(); }
   qreal pageWidth() const { return screen_.pageWidth(); }
   qreal pageSpacing() const { return ModernContentView::pageSpacing; }
   qreal minimumDragDistance() const { return ScrollingHStackModifier::minimumDragDistance; }
@@ -67,11 +63,11 @@ class RootScreen final : public QObject {
   Q_INVOKABLE void select(int styleNumber) { screen_.selectConfig(styleNumber); }
   Q_INVOKABLE bool openWidgetCentre() { return screen_.openWidgetCentre(); }
   Q_INVOKABLE void dismissAlert() { screen_.dismissAlert(); }
-  Q_INVOKABLE void dismissOnboarding() { screen_.dismissOnboarding(); }
-  Q_INVOKABLE void dismissUpdateFromOne() { screen_.dismissUpdateFromOne(); }
   Q_INVOKABLE void drag(qreal translation);
   Q_INVOKABLE void endDrag(qreal translation);
   Q_INVOKABLE void showPage(int page);
+  /// The page of a style, if there is one.
+  Q_INVOKABLE void showStyle(int styleNumber);
 
  Q_SIGNALS:
   void changed();

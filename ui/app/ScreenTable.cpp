@@ -27,7 +27,6 @@ QList<ScreenEntry> familyTableEntries() {
       if (page.needsEditor && !hasEditor) continue;
       entries += {.name = qText(family.*page.typeName),
                   .page = QString::fromLatin1(page.page),
-                  .title = {},
                   .family = qText(family.name)};
     }
   }
@@ -35,29 +34,16 @@ QList<ScreenEntry> familyTableEntries() {
 }
 
 QList<ScreenEntry> otherEntries() {
-  const auto plain = [](const char* name, const QString& title) {
-    return ScreenEntry{QString::fromLatin1(name), QStringLiteral("plain"), title, {}};
-  };
   const auto own = [](const char* name, const char* page) {
-    return ScreenEntry{QString::fromLatin1(name), QString::fromLatin1(page), {}, {}};
+    return ScreenEntry{QString::fromLatin1(name), QString::fromLatin1(page), {}};
   };
-  return {
-      own("ModernContentView", "root"),
-      own("ModernNewLightDark", "newStyle"),
-      own("ModernChangeLightDark", "changeStyle"),
-      own("PerspectiveZoomDescription", "perspectiveZoom"),
-      own("ModernFontPicker", "fontPicker"),
-      plain("ModernKnowledgeCentre", qtTrId("app.help")),
-      // Until the centre has something to show.
-      {QStringLiteral("ModernWidgetCentre"), QStringLiteral("entry"), {}, QStringLiteral("text")},
-      plain("ModernInfoCentre", qtTrId("app.info")),
-      plain("OnboardingView", qtTrId("app.welcome")),
-      plain("UpgradeView", qtTrId("app.upgrade")),
-      plain("WidgetSettingsView", qtTrId("app.settings")),
-      plain("UpdateWidgetDescription", qtTrId("app.widgetRefreshing")),
-      plain("WidgetShowingNothingDescription", qtTrId("app.widgetNoData")),
-      plain("WidgetNameDescription", qtTrId("app.widgetLabel")),
-      plain("InvalidDeepLink", qtTrId("app.invalidLink"))};
+  return {own("ModernContentView", "root"),
+          own("ModernNewLightDark", "newStyle"),
+          own("ModernChangeLightDark", "changeStyle"),
+          own("PerspectiveZoomDescription", "perspectiveZoom"),
+          own("ModernFontPicker", "fontPicker"),
+          // Until the centre has something to show.
+          {QStringLiteral("ModernWidgetCentre"), QStringLiteral("entry"), QStringLiteral("text")}};
 }
 
 } // namespace

@@ -12,14 +12,12 @@ struct ScreenEntry {
   Q_GADGET
   QML_VALUE_TYPE(screenEntry)
   Q_PROPERTY(QString page MEMBER page CONSTANT)
-  Q_PROPERTY(QString title MEMBER title CONSTANT)
   Q_PROPERTY(QString family MEMBER family CONSTANT)
 
  public:
   QString name; ///< type name
-  QString page; ///< "root", "newStyle", "changeStyle", "perspectiveZoom", "fontPicker", "plain"; of
-                ///< a family "entry", "setup", "second", "gallery", "assign" or "preview"
-  QString title;  ///< of a plain page, in the language of now
+  QString page; ///< "root", "newStyle", "changeStyle", "perspectiveZoom", "fontPicker"; of a family
+                ///< "entry", "setup", "second", "gallery", "assign" or "preview"
   QString family; ///< by its name in the family table; empty for other screens
 };
 

@@ -13,6 +13,9 @@ FocusScope {
         if (page)
             page.closed();
     }
+    function makeStyle(): IntakePage {
+        return stack.push(intakePage, { "intake": Shell.newStyle() }) as IntakePage;
+    }
     function open(screen: string) {
         const entry = Shell.screenEntry(screen);
         switch (entry.page) {
@@ -28,9 +31,6 @@ FocusScope {
             break;
         case "fontPicker":
             stack.push(fontPicker);
-            break;
-        case "plain":
-            stack.push(plainPage, { "title": entry.title });
             break;
         case "entry":
             stack.push(familyPage, { "family": Shell.family(entry.family) });
@@ -58,7 +58,9 @@ FocusScope {
         onCurrentItemChanged: if (currentItem) currentItem.forceActiveFocus()
         initialItem: RootPage {
             onOpened: screen => screens.open(screen)
-            onCreated: stack.push(intakePage, { "intake": Shell.newStyle() })
+            onCreated: screens.makeStyle()
+            onDropped: files => screens.makeStyle().intake.takeFiles(files)
+            onPasted: screens.makeStyle().intake.paste(false)
             onEdited: styleNumber => stack.push(intakePage, { "intake": Shell.changeStyle(styleNumber) })
         }
         pushEnter: Transition { NumberAnimation { property: "x"; from: stack.width; to: 0; duration: Theme.longTime; easing.type: Easing.OutCubic } }
@@ -69,16 +71,12 @@ FocusScope {
     Component {
         id: intakePage
         IntakePage {
+            id: intake
             onClosed: {
                 stack.pop();
                 Shell.root.contentAppear();
+                Shell.root.showStyle(intake.intake.styleNumber);
             }
-        }
-    }
-    Component {
-        id: plainPage
-        PlainPage {
-            onClosed: stack.pop()
         }
     }
     Component {
@@ -104,30 +102,6 @@ FocusScope {
         id: perspectiveZoom
         PerspectiveZoomDescription {
             onClosed: stack.pop()
-        }
-    }
-    Sheet {
-        objectName: "onboardingSheet"
-        shown: Shell.root.showOnboarding && Shell.screen === ""
-        onDismissed: Shell.root.dismissOnboarding()
-
-        PlainPage {
-            anchors.fill: parent
-            title: qsTrId("app.welcome")
-            backTitle: qsTrId("app.close")
-            onClosed: Shell.root.dismissOnboarding()
-        }
-    }
-    Sheet {
-        objectName: "upgradeSheet"
-        shown: Shell.root.showUpdateFromOne && Shell.screen === ""
-        onDismissed: Shell.root.dismissUpdateFromOne()
-
-        PlainPage {
-            anchors.fill: parent
-            title: qsTrId("app.upgrade")
-            backTitle: qsTrId("app.close")
-            onClosed: Shell.root.dismissUpdateFromOne()
         }
     }
     AlertBox {

@@ -9,12 +9,17 @@ Item {
     required property bool selected
     required property int revision
     property bool near: true // only cards near the screen hold a picture
+    property bool shown: true // in the middle; one beside it is asked for by a press
+    readonly property string title: qsTrId("app.style").arg(styleNumber + 1)
 
     signal ticked
     signal edited
+    signal asked
+    signal keysLeft // they were on a card that is not shown any more
 
     width: Shell.screenWidth / 1.5
     height: Shell.screenHeight / 1.5 + Shell.screenHeight / 12
+    onShownChanged: if (!shown && (tick.activeFocus || edit.activeFocus)) keysLeft()
 
     Loader {
         active: card.near
@@ -30,6 +35,7 @@ Item {
         height: Shell.screenHeight / 12
 
         Pressable {
+            id: tick
             objectName: "tick" + card.styleNumber
             anchors.left: parent.left
             anchors.leftMargin: 24
@@ -37,12 +43,20 @@ Item {
             width: 32
             height: 32
             focusRadius: 21
+            activeFocusOnTab: card.shown
             role: Accessible.RadioButton
             name: (card.selected ? qsTrId("app.selected") : qsTrId("app.select")).arg(card.styleNumber + 1)
             Accessible.checkable: true
             Accessible.checked: card.selected
             onPressed: card.ticked()
 
+            ContinuousRectangle { // a rim, and the ground of the sign, for both its colours
+                anchors.centerIn: parent
+                width: 33
+                height: width
+                radius: width / 2
+                colour: "white"
+            }
             SymbolItem {
                 objectName: "tickSymbol" + card.styleNumber
                 anchors.centerIn: parent
@@ -52,14 +66,23 @@ Item {
             }
         }
         TextLink {
+            id: edit
             objectName: "edit" + card.styleNumber
             anchors.right: parent.right
             anchors.rightMargin: 24
             anchors.verticalCenter: parent.verticalCenter
+            activeFocusOnTab: card.shown
             symbol: "slider.horizontal.3"
-            name: Shell.root.editTitle
+            words: Shell.root.editTitle
+            name: words + " " + card.title
             bold: true
             onPressed: card.edited()
         }
+    }
+    MouseArea { // over all of a card that is only partly to be seen
+        anchors.fill: parent
+        visible: !card.shown
+        cursorShape: Qt.PointingHandCursor
+        onClicked: card.asked()
     }
 }

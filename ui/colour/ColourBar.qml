@@ -8,6 +8,10 @@ Item {
     required property string name
     required property real value
     property color knob: "white"
+    // The range, as assistive programs look for it.
+    readonly property real minimumValue: 0
+    readonly property real maximumValue: 1
+    readonly property real stepSize: 0.01
     default property alias track: ground.data
 
     signal moved(real now)
@@ -32,17 +36,25 @@ Item {
         anchors.topMargin: 3
         anchors.bottomMargin: 3
     }
-    Rectangle {
+    ContinuousRectangle { // the ends of the track, for gradients have square ones
+        anchors.fill: ground
+        inverted: true
+        radius: height / 2
+        colour: Theme.card
+    }
+    ContinuousRectangle {
         x: bar.value * (bar.width - width)
         width: 30
         height: 30
         radius: 15
-        color: bar.knob
-        border.color: "white"
-        border.width: 3
+        colour: bar.knob
+        borderColour: "white"
+        borderWidth: 3
     }
     MouseArea {
         anchors.fill: parent
+        anchors.topMargin: -5
+        anchors.bottomMargin: -5
         preventStealing: true
         cursorShape: Qt.PointingHandCursor
         onPressed: mouse => {

@@ -142,7 +142,6 @@ FocusScope {
 
                 Rectangle {
                     anchors.fill: parent
-                    radius: height / 2
                     gradient: Gradient {
                         orientation: Gradient.Horizontal
                         GradientStop { position: 0; color: "#FF0000" }
@@ -165,12 +164,10 @@ FocusScope {
 
                 Rectangle {
                     anchors.fill: parent
-                    radius: height / 2
                     color: Qt.rgba(0.62, 0.62, 0.62, 1)
                 }
                 Rectangle {
                     anchors.fill: parent
-                    radius: height / 2
                     gradient: Gradient {
                         orientation: Gradient.Horizontal
                         GradientStop { position: 0; color: Qt.hsva(chooser.hue, chooser.saturation, chooser.brightness, 0) }

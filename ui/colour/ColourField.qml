@@ -26,7 +26,6 @@ Item {
 
     Rectangle {
         anchors.fill: parent
-        radius: 12
         gradient: Gradient {
             orientation: Gradient.Horizontal
             GradientStop { position: 0; color: "white" }
@@ -35,21 +34,26 @@ Item {
     }
     Rectangle {
         anchors.fill: parent
-        radius: 12
         gradient: Gradient {
             GradientStop { position: 0; color: "transparent" }
             GradientStop { position: 1; color: "black" }
         }
     }
-    Rectangle {
+    ContinuousRectangle { // the corners, for gradients have square ones
+        anchors.fill: parent
+        inverted: true
+        radius: 12
+        colour: Theme.card
+    }
+    ContinuousRectangle {
         x: field.saturation * field.width - width / 2
         y: (1 - field.brightness) * field.height - height / 2
         width: 26
         height: 26
         radius: 13
-        color: Qt.hsva(field.hue, field.saturation, field.brightness, 1)
-        border.color: "white"
-        border.width: 3
+        colour: Qt.hsva(field.hue, field.saturation, field.brightness, 1)
+        borderColour: "white"
+        borderWidth: 3
     }
     MouseArea {
         anchors.fill: parent

@@ -21,6 +21,7 @@ Pressable {
         anchors.verticalCenter: parent.verticalCenter
         font.pixelSize: 16
         font.weight: Font.DemiBold
+        spoken: false
         text: well.title
     }
     ColourDisc {

@@ -14,8 +14,7 @@ constexpr int pixelsAcross = 11; ///< an odd number, for one lies in the middle
 
 } // namespace
 
-Eyedropper::Eyedropper(QQuickItem* parent) : PaintedItem(parent) {
-}
+Eyedropper::Eyedropper(QQuickItem* parent) : PaintedItem(parent) {}
 
 void Eyedropper::takePicture() {
   picture_ = window() != nullptr ? window()->grabWindow() : QImage();

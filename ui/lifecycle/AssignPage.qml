@@ -43,7 +43,13 @@ SheetPage {
         objectName: "saveAndExit"
         anchors.horizontalCenter: parent.horizontalCenter
         name: SharedWords.saveAndExit
-        onPressed: if (page.assign.save()) page.closed()
+        onPressed: {
+            if (!page.assign.save())
+                return;
+            if (page.assign.isSaved())
+                Shell.showNotice(qsTrId("app.saved"), Shell.Done);
+            page.closed();
+        }
     }
     overlay: [
         ContextMenu {

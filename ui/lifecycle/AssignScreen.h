@@ -45,6 +45,7 @@ class AssignScreen : public QObject {
   Q_INVOKABLE void pick(int option);
   /// Whether the screen is done.
   Q_INVOKABLE bool save() { return screen_->save(); }
+  Q_INVOKABLE bool isSaved() const { return screen_->isSaved(); }
   Q_INVOKABLE void dismissAlert() { screen_->dismissAlert(); }
 
  Q_SIGNALS:

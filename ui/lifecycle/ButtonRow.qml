@@ -22,6 +22,7 @@ Pressable {
         anchors.verticalCenter: parent.verticalCenter
         font.pixelSize: 16
         font.weight: Font.DemiBold
+        spoken: false
         text: row.title
     }
     Label {
@@ -36,12 +37,13 @@ Pressable {
         elide: Text.ElideMiddle
         font.pixelSize: 16
         color: Theme.quietText
+        spoken: false
         text: row.value
     }
     SymbolItem {
         id: sign
         anchors.right: parent.right
-        anchors.rightMargin: 13
+        anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
         name: row.mark
         size: 14

@@ -65,7 +65,8 @@ SheetPage {
         anchors.horizontalCenter: parent.horizontalCenter
         name: SharedWords.saveAndExit
         onPressed: {
-            page.editor.save();
+            if (page.editor.save())
+                Shell.showNotice(qsTrId("app.saved"), Shell.Done);
             page.saved();
         }
     }

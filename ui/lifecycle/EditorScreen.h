@@ -46,7 +46,8 @@ class EditorScreen : public QObject {
   Q_INVOKABLE void appear() { screen_.appear(); }
   /// When the screen has come to rest.
   Q_INVOKABLE void settle();
-  Q_INVOKABLE void save() { screen_.save(); }
+  /// Whether it was stored.
+  Q_INVOKABLE bool save() { return screen_.save(); }
   /// The step after the first, for QML to own.
   Q_INVOKABLE vitrelle::ui::EditorScreen* next() const;
 

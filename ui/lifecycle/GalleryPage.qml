@@ -71,7 +71,7 @@ SheetPage {
     Grid {
         id: grid
         objectName: "grid"
-        anchors.horizontalCenter: parent.horizontalCenter
+        x: (parent.width - columns * page.gallery.tileSide - (columns - 1) * spacing) / 2 // the first column's, also of a single tile
         columns: page.gallery.columns
         spacing: page.gallery.spacing
 

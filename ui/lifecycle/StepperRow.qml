@@ -17,8 +17,13 @@ Panel {
     }
 
     activeFocusOnTab: true
+    // The range, as assistive programs look for it.
+    readonly property int minimumValue: lowest
+    readonly property int maximumValue: highest
+    readonly property int stepSize: 1
+
     Accessible.role: Accessible.SpinBox
-    Accessible.name: row.title + row.value
+    Accessible.name: row.title
     Accessible.focusable: true
     Accessible.onIncreaseAction: step(1)
     Accessible.onDecreaseAction: step(-1)
@@ -40,11 +45,12 @@ Panel {
         anchors.verticalCenter: parent.verticalCenter
         font.pixelSize: 16
         font.weight: Font.DemiBold
+        spoken: false
         text: row.title + row.value
     }
     Row {
         anchors.right: parent.right
-        anchors.rightMargin: 10
+        anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
 
         Repeater {
@@ -59,7 +65,7 @@ Panel {
                 width: 46
                 height: 31
                 radius: 8
-                colour: Qt.rgba(1, 1, 1, press.pressed && !ends ? 0.3 : 0.14)
+                colour: Qt.rgba(1, 1, 1, ends ? 0.14 : press.pressed ? 0.3 : press.containsMouse ? 0.2 : 0.14)
 
                 SymbolItem {
                     anchors.centerIn: parent
@@ -70,7 +76,10 @@ Panel {
                 }
                 MouseArea {
                     id: press
+                    hoverEnabled: true
                     anchors.fill: parent
+                    anchors.topMargin: -7 // as high as the row
+                    anchors.bottomMargin: -7
                     cursorShape: Qt.PointingHandCursor
                     onPressed: row.step(half.modelData)
                     onPressAndHold: again.start()

@@ -16,6 +16,7 @@ Panel {
         visible: field.text === "" && field.preeditText === ""
         color: Theme.quietText
         font.pixelSize: 16
+        spoken: false
         text: row.placeholder
         wrapMode: Text.NoWrap
         elide: Text.ElideRight
@@ -44,7 +45,7 @@ Panel {
     RoundButton {
         id: wipe
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
         visible: field.text !== ""
         activeFocusOnTab: false

@@ -3,11 +3,13 @@
 #include "ui/lifecycle/FamilyWords.h"
 #include "ui/parts/FaceItem.h"
 
+#include <utility>
+
 namespace vitrelle::ui {
 
 namespace {
 
-enum Role { faceRole = Qt::UserRole, backdropRole, currentRole };
+enum Role { faceRole = Qt::UserRole, backdropRole, currentRole, linkedRole };
 
 } // namespace
 
@@ -25,13 +27,19 @@ QVariant TileList::data(const QModelIndex& index, int role) const {
     return QVariant::fromValue(BackdropName::of(tile.backdrop));
   case currentRole:
     return tile.current;
+  case linkedRole:
+    return std::in_range<int>(tile.linked.value_or(-1)) ? static_cast<int>(tile.linked.value_or(-1))
+                                                        : -1;
   default:
     return {};
   }
 }
 
 QHash<int, QByteArray> TileList::roleNames() const {
-  return {{faceRole, "face"}, {backdropRole, "backdrop"}, {currentRole, "current"}};
+  return {{faceRole, "face"},
+          {backdropRole, "backdrop"},
+          {currentRole, "current"},
+          {linkedRole, "linked"}};
 }
 
 void TileList::refresh() {

@@ -26,27 +26,28 @@ Pressable {
         anchors.verticalCenter: parent.verticalCenter
         font.pixelSize: 16
         font.weight: Font.DemiBold
+        spoken: false
         text: row.title
     }
-    Rectangle {
+    ContinuousRectangle {
         objectName: "toggle"
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
         width: 51
         height: 31
         radius: 15.5
-        color: row.value ? Theme.tick : Qt.rgba(1, 1, 1, 0.16)
+        colour: row.value ? Theme.tick : Qt.rgba(1, 1, 1, 0.16)
 
-        Behavior on color { ColorAnimation { duration: Theme.shortTime } }
+        Behavior on colour { ColorAnimation { duration: Theme.shortTime } }
 
-        Rectangle {
+        ContinuousRectangle {
             x: row.value ? 22 : 2
             y: 2
             width: 27
             height: 27
             radius: 13.5
-            color: "white"
+            colour: "white"
 
             Behavior on x { NumberAnimation { duration: Theme.shortTime; easing.type: Easing.InOutQuad } }
         }

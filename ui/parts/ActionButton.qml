@@ -11,7 +11,7 @@ Pressable {
     implicitWidth: Shell.screenWidth - 60
     implicitHeight: 50
     focusRadius: 21
-    opacity: enabled ? (held ? 0.6 : 1) : 0.4
+    rest: enabled ? 1 : 0.4
 
     ContinuousRectangle {
         anchors.fill: parent
@@ -32,6 +32,7 @@ Pressable {
         Label {
             id: words
             anchors.verticalCenter: parent.verticalCenter
+            spoken: false
             text: button.name
             font.pixelSize: 17
             font.weight: Font.DemiBold

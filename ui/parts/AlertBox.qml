@@ -52,6 +52,7 @@ FocusScope {
 
             Label {
                 objectName: "alertTitle"
+                spoken: false
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 font.bold: true
@@ -59,6 +60,7 @@ FocusScope {
             }
             Label {
                 objectName: "alertMessage"
+                spoken: false
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 font.pixelSize: 13
@@ -84,6 +86,7 @@ FocusScope {
 
             Label {
                 anchors.centerIn: parent
+                spoken: false
                 text: button.name
                 color: Theme.accent
                 font.bold: true

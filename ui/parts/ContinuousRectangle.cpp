@@ -18,6 +18,11 @@ constexpr qreal control = 0.354;
 
 QPainterPath continuousRectangle(const QRectF& rectangle, qreal radius) {
   const qreal longest = std::min(rectangle.width(), rectangle.height()) / 2;
+  if (radius >= longest) { // round ends, of which nothing is left to bend
+    QPainterPath capsule;
+    capsule.addRoundedRect(rectangle, longest, longest);
+    return capsule;
+  }
   const qreal begin = std::min(radius * bend, longest);
   const qreal pull = begin / bend * control;
   const qreal left = rectangle.left();

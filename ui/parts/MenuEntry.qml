@@ -10,7 +10,7 @@ Pressable {
     height: 44
     ringed: false
     role: Accessible.MenuItem
-    opacity: enabled ? (held ? 0.6 : 1) : 0.35
+    rest: enabled ? 1 : 0.35
 
     ContinuousRectangle {
         anchors.fill: parent
@@ -22,6 +22,7 @@ Pressable {
     Label {
         x: 16
         anchors.verticalCenter: parent.verticalCenter
+        spoken: false
         text: entry.name
         font.pixelSize: 16
     }

@@ -1,4 +1,5 @@
-// One line that the user should read, above whatever is open, until it is pressed away.
+// One line that the user should read, below whatever is open: out of the way of titles and of the way
+// back. It leaves when there was time to read it, unless what it tells of lasts.
 import QtQuick
 import Vitrelle
 
@@ -6,42 +7,62 @@ Pressable {
     id: bar
     objectName: "notice"
 
+    readonly property bool shown: Shell.notice !== ""
+    readonly property bool good: Shell.noticeKind === Shell.Done
+
     name: Shell.notice
     role: Accessible.AlertMessage
     x: 12
-    y: Shell.notice === "" ? -height - 10 : Theme.topInset + 4
+    y: parent.height + (shown ? -height - Theme.bottomInset - 8 : 10)
     width: parent.width - 24
-    height: words.height + 24
-    visible: y > -height
-    activeFocusOnTab: Shell.notice !== ""
+    height: Math.max(44, words.height + 24)
+    visible: y < parent.height
+    activeFocusOnTab: shown
     onPressed: Shell.dismissNotice()
+    onNameChanged: if (shown) words.text = name
 
     Behavior on y { NumberAnimation { duration: Theme.longTime; easing.type: Easing.OutCubic } }
 
+    Timer {
+        running: bar.shown && Shell.noticeKind !== Shell.Trouble && !bar.hovered && !bar.activeFocus
+        interval: bar.good ? 2500 : 8000
+        onTriggered: Shell.dismissNotice()
+    }
     ContinuousRectangle {
         anchors.fill: parent
         radius: 16
         colour: Theme.card
-        borderColour: Theme.accent
+        borderColour: bar.good ? Theme.tick : Theme.accent
         borderWidth: 1
     }
     SymbolItem {
         id: sign
         x: 14
         anchors.verticalCenter: parent.verticalCenter
-        name: "exclamationmark.bubble.fill"
+        name: bar.good ? "checkmark.circle.fill" : "exclamationmark.bubble.fill"
         size: 20
-        colour: Theme.accent
+        colour: bar.good ? Theme.tick : Theme.accent
     }
     Label {
         id: words
         anchors.left: sign.right
         anchors.leftMargin: 10
-        anchors.right: parent.right
-        anchors.rightMargin: 14
+        anchors.right: cross.left
+        anchors.rightMargin: 10
         anchors.verticalCenter: parent.verticalCenter
         font.pixelSize: 14
         wrapMode: Text.WrapAtWordBoundaryOrAnywhere
-        text: bar.name
+        maximumLineCount: 6
+        elide: Text.ElideRight
+        spoken: false
+    }
+    SymbolItem {
+        id: cross
+        anchors.right: parent.right
+        anchors.rightMargin: 14
+        anchors.verticalCenter: parent.verticalCenter
+        name: SharedWords.closeSymbol
+        size: 18
+        colour: Theme.grey
     }
 }

@@ -11,13 +11,17 @@ Item {
     property bool ringed: true // else it shows in its own way where the keys go
     property bool tappable: true // else what lies above it takes the presses
     property bool held: tap.pressed
+    readonly property bool hovered: hover.hovered
+    property real rest: 1 // opacity while nobody points at it
+    // A finger needs 40 points, however small the sign is.
+    readonly property real reach: Math.max(0, (40 - Math.min(width, height)) / 2)
 
     signal pressed
     /// A right click, or a long press.
     signal menuAsked(point position)
 
     activeFocusOnTab: true
-    opacity: held ? 0.6 : 1
+    opacity: rest * (held ? 0.6 : hover.hovered ? 0.85 : 1)
     Accessible.role: role
     Accessible.name: name
     Accessible.focusable: true
@@ -30,6 +34,7 @@ Item {
     TapHandler {
         id: tap
         enabled: pressable.tappable
+        margin: pressable.reach
         // Takes the press for itself, so that nothing beneath is pressed as well.
         gesturePolicy: TapHandler.ReleaseWithinBounds
         onTapped: pressable.pressed()
@@ -37,10 +42,13 @@ Item {
     }
     TapHandler {
         acceptedButtons: Qt.RightButton
+        margin: pressable.reach
         gesturePolicy: TapHandler.ReleaseWithinBounds
         onTapped: eventPoint => pressable.menuAsked(eventPoint.position)
     }
     HoverHandler {
+        id: hover
+        margin: pressable.reach
         cursorShape: Qt.PointingHandCursor
     }
     FocusRing {

@@ -7,7 +7,7 @@ Pressable {
 
     required property string symbol
     property real size: 35
-    property color colour: Theme.grey
+    property color colour: Theme.quietSymbol
 
     implicitWidth: size
     implicitHeight: size

@@ -95,7 +95,6 @@ FocusScope {
             visible: page.hasClose
             size: 28
             symbol: SharedWords.closeSymbol
-            colour: Theme.grey
             name: qsTrId("app.close")
             onPressed: page.closed()
         }

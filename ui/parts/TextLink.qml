@@ -6,6 +6,7 @@ Pressable {
     id: link
 
     property string symbol
+    property string words: name
     property color colour: Theme.text
     property bool bold: false
     property real textSize: 17
@@ -29,7 +30,8 @@ Pressable {
         }
         Label {
             anchors.verticalCenter: parent.verticalCenter
-            text: link.name
+            spoken: false
+            text: link.words
             color: link.colour
             font.pixelSize: link.textSize
             font.bold: link.bold

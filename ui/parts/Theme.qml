@@ -10,10 +10,12 @@ QtObject {
     readonly property color tick: Qt.rgba(0.2, 0.78, 0.35, 1)
     readonly property color blue: Qt.rgba(0.04, 0.52, 1, 1)
     readonly property color grey: Qt.rgba(0.56, 0.56, 0.58, 1)
+    // A symbol on the screen's own ground: 3:1 at least against all of it.
+    readonly property color quietSymbol: Shell.dark ? grey : Qt.rgba(0.8, 0.8, 0.82, 1)
     readonly property color text: "white"
-    readonly property color quietText: Qt.rgba(0.92, 0.92, 0.96, 0.72)
+    readonly property color quietText: Qt.rgba(0.92, 0.92, 0.96, Shell.dark ? 0.72 : 0.86) // 4.5:1
     // Titles are white in both appearances, so the light one is a colour and not white.
-    readonly property color screenTop: Shell.dark ? Qt.rgba(0.10, 0.12, 0.13, 1) : Qt.rgba(0.20, 0.50, 0.56, 1)
+    readonly property color screenTop: Shell.dark ? Qt.rgba(0.10, 0.12, 0.13, 1) : Qt.rgba(0.12, 0.38, 0.45, 1)
     readonly property color screenBottom: Shell.dark ? backdrop : Qt.rgba(0.13, 0.27, 0.40, 1)
 
     readonly property string face: "Inter"

@@ -11,16 +11,47 @@ Page {
 
     title: intake.title
     backTitle: intake.back
-    covered: intake.sheet !== ""
+    covered: sheet.shown
     onClosed: intake.disappear()
-    Component.onCompleted: intake.appear()
+    Component.onCompleted: {
+        intake.appear();
+        cell(intake.lightSet && !intake.darkSet).focus = true; // what will be used first
+    }
 
+    function cell(dark: bool): Item {
+        return halves.itemAt(dark ? 1 : 0);
+    }
+
+    Label {
+        id: styleName
+        objectName: "styleName"
+        width: parent.width
+        horizontalAlignment: Text.AlignHCenter
+        color: Theme.quietText
+        font.pixelSize: 15
+        text: qsTrId("app.style").arg(page.intake.styleNumber + 1)
+        Accessible.role: Accessible.Heading
+    }
+    Label {
+        id: ways
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.bottomInset + 14
+        x: 20
+        width: parent.width - 40
+        horizontalAlignment: Text.AlignHCenter
+        color: Theme.quietText
+        font.pixelSize: 13
+        text: qsTrId("app.intake.ways")
+    }
     Row {
         id: cells
-        anchors.fill: parent
-        anchors.bottomMargin: Theme.bottomInset + 10
+        anchors.top: styleName.bottom
+        anchors.bottom: ways.top
+        anchors.bottomMargin: 8
+        width: parent.width
 
         Repeater {
+            id: halves
             model: [false, true]
 
             WallpaperCell {
@@ -68,36 +99,19 @@ Page {
     }
     overlay: Sheet {
         id: sheet
-
-        property string screen // also while it goes away
-
         objectName: "intakeSheet"
-        shown: page.intake.sheet !== ""
-        onShownChanged: if (shown) screen = page.intake.sheet
+        shown: Shell.hasScreen(page.intake.sheet)
         onDismissed: page.intake.dismissSheet()
 
         Loader {
             anchors.fill: parent
             focus: true
-            active: sheet.present && sheet.screen !== ""
-            sourceComponent: Shell.screenEntry(sheet.screen).page === "perspectiveZoom" ? perspectiveZoom : plainPage
-        }
-    }
-    Component {
-        id: perspectiveZoom
-        PerspectiveZoomDescription {
-            focus: true
-            backTitle: qsTrId("app.close")
-            onClosed: sheet.dismissed()
-        }
-    }
-    Component {
-        id: plainPage
-        PlainPage {
-            focus: true
-            title: Shell.screenEntry(sheet.screen).title
-            backTitle: qsTrId("app.close")
-            onClosed: sheet.dismissed()
+            active: sheet.present
+            sourceComponent: PerspectiveZoomDescription {
+                focus: true
+                backTitle: qsTrId("app.close")
+                onClosed: sheet.dismissed()
+            }
         }
     }
     Timer {

@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
+#include <algorithm>
 #include <utility>
 
 namespace vitrelle::ui {
@@ -56,7 +57,7 @@ void IntakeScreen::tellObstacle() const {
   shell_.showNotice(qtTrId("app.store.readOnly").arg(QString::fromStdString(what + ": " + why)));
 }
 
-void IntakeScreen::pick(const QUrl& file) {
+bool IntakeScreen::pick(const QUrl& file) {
   const std::string path = file.toLocalFile().toStdString();
   const Result<Image> image = path.empty()
                                   ? Failure{file.toString().toStdString(), "it is no local file"}
@@ -64,6 +65,7 @@ void IntakeScreen::pick(const QUrl& file) {
   if (!image) return refuse(image.failure());
   if (const auto bitmap = image->bitmap(); !bitmap) return refuse(bitmap.failure());
   take(*image);
+  return true;
 }
 
 void IntakeScreen::paste(bool dark) {
@@ -74,20 +76,37 @@ void IntakeScreen::paste(bool dark) {
     return;
   }
   const QImage picture = QGuiApplication::clipboard()->image();
-  if (picture.isNull()) return refuse({"the clipboard", "it holds no picture"});
-  take(imageOf(picture));
+  if (picture.isNull())
+    refuse({"the clipboard", "it holds no picture"});
+  else
+    take(imageOf(picture));
+}
+
+void IntakeScreen::takeFiles(const QList<QUrl>& files) {
+  const auto isDark = [&](qsizetype index) {
+    return files[index].fileName().contains(u"dark", Qt::CaseInsensitive);
+  };
+  const qsizetype count = std::min<qsizetype>(files.size(), 2);
+  bool firstIsDark = count > 0 && isDark(0);
+  if (count == 2 && firstIsDark && isDark(1)) firstIsDark = false;
+  for (qsizetype i = 0; i < count; ++i) {
+    choose(firstIsDark != (i == 1));
+    if (!pick(files[i])) break; // what is told of it must not be taken back by the next
+  }
 }
 
 void IntakeScreen::take(const std::optional<Image>& picture) {
+  if (picture && shell_.noticeKind() == Shell::Refusal) shell_.dismissNotice();
   ++revision_;
   screen_->pick(picture);
 }
 
-void IntakeScreen::refuse(const Failure& failure) {
+bool IntakeScreen::refuse(const Failure& failure) {
   take({});
   const auto words = [](const std::string& text) { return QString::fromStdString(text); };
 
   shell_.showNotice(qtTrId("app.unreadable").arg(words(failure.what + ": " + failure.why)));
+  return false;
 }
 
 } // namespace vitrelle::ui

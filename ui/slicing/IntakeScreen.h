@@ -3,6 +3,7 @@
 
 #include "core/slicing/WallpaperIntake.h"
 
+#include <QList>
 #include <QObject>
 #include <QQmlEngine>
 #include <QString>
@@ -28,6 +29,9 @@ class IntakeScreen final : public QObject {
   Q_PROPERTY(QString darkSymbol READ darkSymbol CONSTANT)
   Q_PROPERTY(int styleNumber READ styleNumber NOTIFY changed)
   Q_PROPERTY(int revision READ revision NOTIFY changed)
+  /// Whether a picture is set for the appearance.
+  Q_PROPERTY(bool lightSet READ isLightSet NOTIFY changed)
+  Q_PROPERTY(bool darkSet READ isDarkSet NOTIFY changed)
   Q_PROPERTY(bool pickerOpen READ isPickerOpen NOTIFY changed)
   /// Type name of the screen on the sheet that is open; empty when none is, or the picker.
   Q_PROPERTY(QString sheet READ sheet NOTIFY changed)
@@ -45,6 +49,8 @@ class IntakeScreen final : public QObject {
   QString darkSymbol() const { return text(WallpaperIntake::cells[1].symbol); }
   int styleNumber() const { return static_cast<int>(screen_->styleNumber()); }
   int revision() const { return revision_; }
+  bool isLightSet() const { return screen_->isSet(lightStyle); }
+  bool isDarkSet() const { return screen_->isSet(darkStyle); }
   bool isPickerOpen() const { return screen_->activeSheet() == ActiveSheet::photoPicker; }
   QString sheet() const {
     if (!screen_->activeSheet() || isPickerOpen()) return {};
@@ -58,14 +64,16 @@ class IntakeScreen final : public QObject {
   Q_INVOKABLE void tap(qreal x);
   Q_INVOKABLE void choose(bool dark);
   /// The picker closed with a file, or without one. What can't be read counts as none, is told to
-  /// the user and changes nothing.
-  Q_INVOKABLE void pick(const QUrl& file);
+  /// the user and changes nothing; false then.
+  Q_INVOKABLE bool pick(const QUrl& file);
   Q_INVOKABLE void cancel() { take({}); }
   Q_INVOKABLE void showPerspectiveZoom() { screen_->present(ActiveSheet::perspectiveZoom); }
   Q_INVOKABLE void dismissSheet() { screen_->dismissSheet(); }
   WallpaperIntake& screen() { return *screen_; }
   /// The picture in the clipboard, or the file that it names.
   Q_INVOKABLE void paste(bool dark);
+  /// One file or two, for the half of which the name tells, else light before dark.
+  Q_INVOKABLE void takeFiles(const QList<QUrl>& files);
 
  Q_SIGNALS:
   void changed();
@@ -75,7 +83,7 @@ class IntakeScreen final : public QObject {
     return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
   }
   void take(const std::optional<Image>& picture);
-  void refuse(const Failure& failure);
+  bool refuse(const Failure& failure); ///< false
   void tellObstacle() const;
 
   Shell& shell_;

@@ -24,6 +24,7 @@ ContinuousRectangle {
         }
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
+            spoken: false
             text: view.words
             font.pixelSize: view.textSize
         }

@@ -7,11 +7,12 @@ Pressable {
 
     required property IntakeScreen intake
     required property bool dark
+    readonly property bool isSet: dark ? intake.darkSet : intake.lightSet
     readonly property string title: dark ? intake.darkTitle : intake.lightTitle
     // Two phones stand side by side where one is two thirds of the screen wide.
     readonly property real shrink: Math.min((width - 26) / wallpaper.width, (height - heading.height - 40) / wallpaper.height)
 
-    name: title + ", " + intake.hint
+    name: [title, isSet ? qsTrId("app.pictureSet") : intake.noImage, intake.hint].join(", ")
     focusRadius: 24
 
     Column {
@@ -24,12 +25,14 @@ Pressable {
             anchors.horizontalCenter: parent.horizontalCenter
             font.bold: true
             font.pixelSize: 20
+            spoken: false
             text: cell.title
         }
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
             color: Theme.quietText
             font.pixelSize: 12
+            spoken: false
             text: cell.intake.hint
         }
     }
