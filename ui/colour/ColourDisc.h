@@ -7,7 +7,7 @@
 
 namespace vitrelle::ui {
 
-class ColourDisc : public PaintedItem {
+class ColourDisc : public vitrelle::ui::PaintedItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QColor colour MEMBER colour_ NOTIFY changed)

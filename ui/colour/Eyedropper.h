@@ -11,7 +11,7 @@
 namespace vitrelle::ui {
 
 /// The item is the loupe.
-class Eyedropper : public PaintedItem {
+class Eyedropper : public vitrelle::ui::PaintedItem {
   Q_OBJECT
   QML_ELEMENT
   /// In the window's coordinates, and within the window.

@@ -14,7 +14,7 @@ QPainterPath continuousRectangle(const QRectF& rectangle, qreal radius);
 
 /// A filled one with an optional border, or, inverted, the corners around one: a cover that rounds
 /// whatever lies beneath it.
-class ContinuousRectangle : public PaintedItem {
+class ContinuousRectangle : public vitrelle::ui::PaintedItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(qreal radius MEMBER radius_ NOTIFY changed)

@@ -28,7 +28,7 @@ struct Face {
   }
 };
 
-class FaceItem : public PaintedItem {
+class FaceItem : public vitrelle::ui::PaintedItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(vitrelle::ui::Face face READ face WRITE setFace NOTIFY changed)

@@ -10,6 +10,7 @@
 
 namespace vitrelle::ui {
 
+/// Whoever derives from it names it in full, as the tools that read QML's types need it.
 class PaintedItem : public QQuickItem {
   Q_OBJECT
   QML_ANONYMOUS

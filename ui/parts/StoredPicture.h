@@ -13,7 +13,7 @@
 
 namespace vitrelle::ui {
 
-class StoredPicture : public PaintedItem {
+class StoredPicture : public vitrelle::ui::PaintedItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QString stem MEMBER stem_ NOTIFY asked)

@@ -9,7 +9,7 @@
 
 namespace vitrelle::ui {
 
-class SymbolItem : public PaintedItem {
+class SymbolItem : public vitrelle::ui::PaintedItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QString name MEMBER name_ NOTIFY changed)

@@ -12,7 +12,7 @@ Pressable {
     // Two phones stand side by side where one is two thirds of the screen wide.
     readonly property real shrink: Math.min((width - 26) / wallpaper.width, (height - heading.height - 40) / wallpaper.height)
 
-    name: [title, isSet ? qsTrId("app.pictureSet") : intake.noImage, intake.hint].join(", ")
+    name: title + ", " + (isSet ? qsTrId("app.pictureSet") : intake.noImage) + ", " + intake.hint
     focusRadius: 24
 
     Column {
