@@ -53,7 +53,6 @@ bool Shell::open() {
   if (window_ == nullptr) return false;
   if (options_.framed) {
     restorePlace(platform_, *window_);
-    window_->installEventFilter(this);
   }
   window_->show();
   return true;
@@ -94,6 +93,13 @@ IntakeScreen* Shell::changeStyle(int number) {
 bool Shell::eventFilter(QObject* watched, QEvent* event) {
   if (watched == window_ && event->type() == QEvent::Close) keepPlace(platform_, *window_);
   if (event->type() == QEvent::ApplicationPaletteChange) Q_EMIT darkChanged();
+  const bool isKey = event->type() == QEvent::KeyPress;
+  const bool isPointer =
+      event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin;
+  if (watched == window_ && isKey != keysInUse_ && (isKey || isPointer)) {
+    keysInUse_ = isKey;
+    Q_EMIT keysInUseChanged();
+  }
   return QObject::eventFilter(watched, event);
 }
 

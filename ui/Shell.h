@@ -42,6 +42,8 @@ class Shell final : public QObject {
   /// One line that the user should read; empty when there is none.
   Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
   Q_PROPERTY(NoticeKind noticeKind READ noticeKind NOTIFY noticeChanged)
+  /// Whether the last that was done in the window was done by keys.
+  Q_PROPERTY(bool keysInUse READ areKeysInUse NOTIFY keysInUseChanged)
   /// Whether a picture lies in the clipboard.
   Q_PROPERTY(bool canPaste READ canPaste NOTIFY canPasteChanged)
 
@@ -82,6 +84,7 @@ class Shell final : public QObject {
   QString notice() const { return notice_; }
   NoticeKind noticeKind() const { return noticeKind_; }
   bool canPaste() const;
+  bool areKeysInUse() const { return keysInUse_; }
 
   /// The QML owns what it gets.
   Q_INVOKABLE vitrelle::ui::IntakeScreen* newStyle();
@@ -105,6 +108,7 @@ class Shell final : public QObject {
   void darkChanged();
   void noticeChanged();
   void canPasteChanged();
+  void keysInUseChanged();
   /// The program ends, whatever ends it; pages that are open are left.
   void closing();
 
@@ -118,6 +122,7 @@ class Shell final : public QObject {
   RootScreen root_;
   QString notice_;
   NoticeKind noticeKind_ = Done;
+  bool keysInUse_ = false;
   QQuickWindow* window_ = nullptr; ///< the engine's
   QQmlApplicationEngine engine_;   ///< last, for its objects use all others
 };

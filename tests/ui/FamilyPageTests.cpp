@@ -177,6 +177,19 @@ TEST_F(FamilyPageTest, gallery_ticksAndLinksAndRefuses) {
   EXPECT_TRUE(driver->isShown("galleryPage"));
 }
 
+TEST_F(FamilyPageTest, keys_comeBackToWhereTheyWere) {
+  openAt("ModernCustomTextView");
+  EXPECT_TRUE(driver->find("create")->hasActiveFocus());
+  driver->key(Qt::Key_Tab);
+  for (const char* sheet : {"gallerySheet", "gallerySheet"}) {
+    driver->key(Qt::Key_Return);
+    waitFor(sheet);
+    driver->key(Qt::Key_Escape);
+    waitForEndOf(sheet);
+    EXPECT_TRUE(driver->find("gallery")->hasActiveFocus());
+  }
+}
+
 TEST_F(FamilyPageTest, tab_staysInWhatIsAbove) {
   store(2);
   openAt("ModernCustomTextView");

@@ -237,6 +237,7 @@ FocusScope {
                     }
                     FocusRing {
                         shown: hex.activeFocus
+                        always: true
                         radius: 17
                     }
                 }

@@ -28,6 +28,7 @@ Page {
         }
         ActionButton {
             objectName: "create"
+            focus: true
             enabled: page.family.hasEditor
             name: SharedWords.create
             symbol: "plus"

@@ -59,6 +59,7 @@ Panel {
     }
     FocusRing {
         shown: field.activeFocus
+        always: true
         radius: 20
     }
 }

@@ -18,6 +18,10 @@ FocusScope {
         closed();
     }
 
+    KeysKeeper {
+        id: keys
+        covered: page.covered
+    }
     Rectangle {
         anchors.fill: parent
         gradient: Gradient {
@@ -27,7 +31,7 @@ FocusScope {
     }
     Item {
         id: bar
-        enabled: !page.covered
+        enabled: keys.open
         y: Theme.topInset
         width: parent.width
         height: 44
@@ -64,7 +68,7 @@ FocusScope {
     }
     Item {
         id: body
-        enabled: !page.covered
+        enabled: keys.open
         anchors.top: bar.bottom
         anchors.left: parent.left
         anchors.right: parent.right

@@ -29,6 +29,10 @@ FocusScope {
     Keys.onEscapePressed: goBack()
     Keys.onBackPressed: goBack()
 
+    KeysKeeper {
+        id: keys
+        covered: page.covered
+    }
     Rectangle {
         anchors.fill: parent
         gradient: Gradient {
@@ -42,7 +46,7 @@ FocusScope {
     }
     Item {
         id: header
-        enabled: !page.covered
+        enabled: keys.open
         y: Theme.topInset
         width: parent.width
         height: 56
@@ -101,7 +105,7 @@ FocusScope {
     }
     Flickable {
         id: body
-        enabled: !page.covered
+        enabled: keys.open
         anchors.top: header.bottom
         anchors.bottom: parent.bottom
         width: parent.width

@@ -134,6 +134,7 @@ FocusScope {
         }
         FocusRing {
             shown: search.activeFocus
+            always: true
             radius: 20
         }
     }

@@ -13,7 +13,7 @@ Pressable {
     readonly property real shrink: Math.min((width - 26) / wallpaper.width, (height - heading.height - 40) / wallpaper.height)
 
     name: title + ", " + (isSet ? qsTrId("app.pictureSet") : intake.noImage) + ", " + intake.hint
-    focusRadius: 24
+    ringed: false // around the picture instead
 
     Column {
         id: heading
@@ -51,6 +51,10 @@ Pressable {
             revision: cell.intake.revision
             symbol: cell.dark ? cell.intake.darkSymbol : cell.intake.lightSymbol
             noImage: cell.intake.noImage
+        }
+        FocusRing {
+            shown: cell.activeFocus
+            radius: 38 * cell.shrink + 5
         }
         ContinuousRectangle {
             anchors.fill: parent
