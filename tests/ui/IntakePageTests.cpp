@@ -151,6 +151,7 @@ TEST_F(IntakePageTest, helpSheets_openByTheirState) {
   driver->key(Qt::Key_Escape);
   EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("intakeSheet"); }));
   EXPECT_TRUE(driver->isShown("intakePage")) << "the way back is one step";
+  EXPECT_TRUE(driver->find("darkCell")->hasActiveFocus());
 
   intake()->screen().present(ActiveSheet::settings);
   EXPECT_FALSE(driver->isShown("intakeSheet")) << "no sheet shows a screen that is not there";

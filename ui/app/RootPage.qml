@@ -17,6 +17,7 @@ FocusScope {
 
     readonly property bool canCreate: root.showsCreateCard && root.canBeChanged
 
+    Keys.forwardTo: [pager]
     Keys.onPressed: event => {
         if (!event.matches(StandardKey.Paste))
             return;

@@ -5,22 +5,28 @@ import QtQuick.Window
 Item {
     id: keeper
 
+    required property Item overlay // holds what may lie above the page
     property bool covered: false
-    property bool open: true // what can have the keys is enabled by this
+    readonly property alias open: keeper.enabled // what can have the keys is enabled by this
     property Item last
 
-    onCoveredChanged: {
-        if (covered)
-            last = Window.window ? Window.window.activeFocusItem : null;
-        open = !covered; // only now, for what is disabled loses them
-        if (!covered && within(last))
-            last.forceActiveFocus();
+    enabled: !covered
+    onCoveredChanged: if (!covered && last && parent.activeFocus) last.forceActiveFocus()
+
+    /// Whether an item is on the page itself.
+    function owns(item: Item): bool {
+        let above = item;
+        while (above && above !== parent && above !== overlay)
+            above = above.parent;
+        return above === parent && item !== parent;
     }
 
-    function within(item: Item): bool {
-        let above = item;
-        while (above && above !== parent)
-            above = above.parent;
-        return above !== null;
+    Connections {
+        target: keeper.Window.window
+        function onActiveFocusItemChanged() {
+            const now = keeper.Window.window.activeFocusItem;
+            if (keeper.owns(now))
+                keeper.last = now;
+        }
     }
 }

@@ -20,6 +20,7 @@ FocusScope {
 
     KeysKeeper {
         id: keys
+        overlay: over
         covered: page.covered
     }
     Rectangle {

@@ -31,6 +31,7 @@ FocusScope {
 
     KeysKeeper {
         id: keys
+        overlay: over
         covered: page.covered
     }
     Rectangle {
