@@ -63,7 +63,7 @@ FocusScope {
         id: buttons
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: banner.top
-        height: 47
+        height: Theme.tall ? 47 : 35 // a small screen has no more room
         spacing: 44
 
         RoundButton {
