@@ -7,6 +7,8 @@
 #include <QRegularExpression>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace vitrelle::ui {
 
 namespace {
@@ -15,14 +17,17 @@ StoredValue<std::string> storedPlace(const Platform& platform) {
   return {platform, keys::windowPlace};
 }
 
-/// Enough of it to be taken hold of.
-bool isShown(const QRect& place) {
+/// For the window's frame, which the desktop draws above it.
+constexpr int frame = 30;
+
+/// The screen that shows enough of it to be taken hold of.
+const QScreen* screenOf(const QRect& place) {
   constexpr int part = 100;
   for (const QScreen* screen : QGuiApplication::screens()) {
     const QRect seen = screen->availableGeometry() & place;
-    if (seen.width() >= part && seen.height() >= part && seen.top() == place.top()) return true;
+    if (seen.width() >= part && seen.height() >= part) return screen;
   }
-  return false;
+  return nullptr;
 }
 
 } // namespace
@@ -40,9 +45,15 @@ void restorePlace(const Platform& platform, QWindow& window) {
   const auto stored = storedPlace(platform).get();
   const auto place = stored ? parsePlace(QString::fromStdString(*stored)) : std::nullopt;
   if (!place) return;
-  const QSize screen = window.screen()->availableSize();
-  window.resize(place->size().boundedTo(screen).expandedTo(window.minimumSize()));
-  if (isShown(*place)) window.setPosition(place->topLeft());
+  const QScreen* screen = screenOf(*place);
+  const QRect room =
+      (screen == nullptr ? window.screen() : screen)->availableGeometry().adjusted(0, frame, 0, -2);
+  QRect now(place->topLeft(), place->size().boundedTo(room.size()));
+  window.resize(now.size().expandedTo(window.minimumSize()));
+  if (screen == nullptr) return;
+  // A scale or a screen may have changed since.
+  now.moveTop(std::max(room.top(), std::min(now.top(), room.bottom() - now.height())));
+  window.setPosition(now.topLeft());
 }
 
 void keepPlace(const Platform& platform, const QWindow& window) {
