@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -17,21 +18,6 @@ namespace vitrelle::host {
 namespace {
 
 constexpr timeval patience{.tv_sec = 5, .tv_usec = 0};
-
-class Descriptor final {
- public:
-  explicit Descriptor(int value) : value_(value) {}
-  ~Descriptor() {
-    if (value_ >= 0) close(value_);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  int get() const { return value_; }
-  int release() { return std::exchange(value_, -1); }
-
- private:
-  int value_;
-};
 
 Failure failure(const HomeFolder& home) {
   return {home.path(), std::strerror(errno)};
@@ -102,20 +88,18 @@ Result<std::unique_ptr<AppInstance>> AppInstance::claim(const HomeFolder& home,
   const bool bound = bind(listener.get(), plain(address), sizeof address) == 0;
   umask(before);
   if (!bound || listen(listener.get(), 8) != 0) return failure(home);
-  return std::unique_ptr<AppInstance>(new AppInstance(lock.release(), listener.release(), loop));
+  return std::unique_ptr<AppInstance>(new AppInstance(std::move(lock), std::move(listener), loop));
 }
 
-AppInstance::AppInstance(int lock, int socket, const EventLoop& loop)
-    : lock_(lock), socket_(socket), readable_(loop.whenReadable(socket, [this] { accept(); })) {}
+AppInstance::AppInstance(Descriptor lock, Descriptor socket, const EventLoop& loop)
+    : lock_(std::move(lock)),
+      socket_(std::move(socket)),
+      readable_(loop.whenReadable(socket_.get(), [this] { accept(); })) {}
 
-AppInstance::~AppInstance() {
-  readable_.cancel();
-  close(socket_);
-  close(lock_);
-}
+AppInstance::~AppInstance() = default;
 
 void AppInstance::accept() {
-  const Descriptor connection(accept4(socket_, nullptr, nullptr, SOCK_CLOEXEC));
+  const Descriptor connection(accept4(socket_.get(), nullptr, nullptr, SOCK_CLOEXEC));
   if (connection.get() < 0 || !isOwnUser(connection.get())) return;
   // A sender writes at once; one that does not may not hold up the window.
   constexpr timeval moment{.tv_sec = 0, .tv_usec = 200'000};

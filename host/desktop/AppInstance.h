@@ -5,6 +5,7 @@
 #include "core/platform/Links.h"
 #include "core/platform/Subscription.h"
 #include "host/desktop/EventLoop.h"
+#include "host/files/Descriptor.h"
 #include "host/files/HomeFolder.h"
 
 #include <functional>
@@ -31,13 +32,13 @@ class AppInstance final {
   }
 
  private:
-  AppInstance(int lock, int socket, const EventLoop& loop);
+  AppInstance(Descriptor lock, Descriptor socket, const EventLoop& loop);
   void accept();
 
-  int lock_;
-  int socket_;
+  Descriptor lock_;
+  Descriptor socket_;
   std::function<void(const std::string&)> handler_;
-  Subscription readable_;
+  Subscription readable_; ///< last, for it watches the socket
 };
 
 /// Sends to whoever holds the instance. An empty URL raises its window.

@@ -1,5 +1,6 @@
 #include "host/imaging/ImageFile.h"
 
+#include "host/files/Descriptor.h"
 #include "host/imaging/HeifReader.h"
 #include "host/imaging/JpegReader.h"
 #include "host/imaging/ParallelWork.h"
@@ -27,20 +28,6 @@ namespace vitrelle::host {
 namespace {
 
 constexpr std::size_t largestFile = std::size_t{512} << 20;
-
-class OpenFile final {
- public:
-  explicit OpenFile(int descriptor) : descriptor_(descriptor) {}
-  OpenFile(OpenFile&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
-  OpenFile& operator=(OpenFile&&) = delete;
-  ~OpenFile() {
-    if (descriptor_ >= 0) close(descriptor_);
-  }
-  int get() const { return descriptor_; }
-
- private:
-  int descriptor_;
-};
 
 struct FileBytes {
   std::shared_ptr<std::uint8_t> memory;
@@ -90,7 +77,7 @@ Failure ofFile(const std::string& path, const Failure& failure) {
 
 /// What is known of a file by its header.
 struct KnownFile {
-  OpenFile file;
+  Descriptor file;
   FileIdentity identity;
   const Format& format;
   PixelSize size;
@@ -148,7 +135,7 @@ FileIdentity identityOf(const struct stat& status) {
 
 Result<std::shared_ptr<const KnownFile>> openPicture(const std::string& path) {
   // Without waiting, should it be a pipe that nobody writes to.
-  OpenFile file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   struct stat status {};
   if (file.get() < 0 || fstat(file.get(), &status) != 0) return Failure{path, std::strerror(errno)};
   if (!S_ISREG(status.st_mode)) return Failure{path, "not a file"};
