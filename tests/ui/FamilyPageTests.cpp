@@ -190,6 +190,46 @@ TEST_F(FamilyPageTest, keys_comeBackToWhereTheyWere) {
   }
 }
 
+TEST_F(FamilyPageTest, linkPicker_showsWallpapersAndOpensOnThePresentOne) {
+  setNumber("amountOfConfigs", 12);
+  for (int style = 0; style < 11; ++style)
+    addStyle(style);
+  store(1);
+  openAt("ModernCustomTextAssignView");
+  const auto wallpaperOf = [&](const char* objectName) {
+    return driver->find(objectName)->findChild<QQuickItem*>("thumbnail");
+  };
+  EXPECT_TRUE(
+      driver->eventually([&] { return wallpaperOf("assignPicker")->property("ready").toBool(); }));
+  EXPECT_EQ(wallpaperOf("assignPicker")->property("styleNumber"), 0);
+
+  const auto isWholeAndFocused = [&](const char* objectName) {
+    const QQuickItem* entry = driver->find(objectName);
+    const QQuickItem* list = driver->find("menuList");
+    const QRectF shown = entry->mapRectToItem(list, entry->boundingRect());
+    return entry->hasActiveFocus() && list->boundingRect().contains(shown);
+  };
+  driver->click("assignPicker");
+  EXPECT_TRUE(isWholeAndFocused("option1"));
+  EXPECT_FALSE(wallpaperOf("option0")->isVisible()) << "it stands for none";
+  EXPECT_EQ(wallpaperOf("option3")->property("styleNumber"), 2);
+  EXPECT_EQ(wallpaperOf("option3")->property("dark"), true);
+  EXPECT_TRUE(driver->eventually([&] {
+    return wallpaperOf("option3")->property("ready").toBool() &&
+           wallpaperOf("option12")->property("missing").toBool();
+  }));
+  for (int i = 0; i < 11; ++i)
+    driver->key(Qt::Key_Down);
+  EXPECT_TRUE(isWholeAndFocused("option12")) << "what the keys go to is seen";
+  driver->key(Qt::Key_Return);
+  EXPECT_EQ(text("rowValue"), "12");
+
+  driver->click("assignPicker");
+  EXPECT_TRUE(isWholeAndFocused("option12"));
+  driver->key(Qt::Key_Up);
+  EXPECT_TRUE(isWholeAndFocused("option11"));
+}
+
 TEST_F(FamilyPageTest, tab_staysInWhatIsAbove) {
   store(2);
   openAt("ModernCustomTextView");

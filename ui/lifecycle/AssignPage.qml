@@ -37,7 +37,11 @@ SheetPage {
         title: SharedWords.assignPicker
         mark: "chevron.up.chevron.down"
         value: page.assign.picked >= 0 ? page.assign.options[page.assign.picked] : ""
-        onPressed: menu.openAt(picker, Qt.point(width - 250, height + 4))
+        onPressed: menu.openAt(picker, Qt.point(width - 250, height + 4), options.itemAt(page.assign.picked))
+        picture: WallpaperThumbnail {
+            objectName: "pickedWallpaper"
+            styleNumber: page.assign.picked >= 0 ? page.assign.wallpapers[page.assign.picked] : -1
+        }
     }
     ActionButton {
         objectName: "saveAndExit"
@@ -56,6 +60,7 @@ SheetPage {
             id: menu
 
             Repeater {
+                id: options
                 model: page.assign.options
 
                 MenuEntry {
@@ -66,6 +71,9 @@ SheetPage {
                     width: parent.width
                     name: modelData
                     symbol: index === page.assign.picked ? "checkmark" : ""
+                    leading: WallpaperThumbnail {
+                        styleNumber: page.assign.wallpapers[index]
+                    }
                     onPressed: {
                         page.assign.pick(index);
                         menu.close();

@@ -17,6 +17,13 @@ QStringList AssignScreen::options() const {
   return labels;
 }
 
+QList<int> AssignScreen::wallpapers() const {
+  QList<int> numbers;
+  for (const AssignOption& option : screen_->options())
+    numbers += option.value == noLinkedConfig ? -1 : static_cast<int>(option.value);
+  return numbers;
+}
+
 int AssignScreen::picked() const {
   const std::vector<AssignOption> options = screen_->options();
   const auto found = std::ranges::find(options, screen_->vitrelleConfig(), &AssignOption::value);

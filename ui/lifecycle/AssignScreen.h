@@ -5,6 +5,7 @@
 #include "ui/lifecycle/FamilyWords.h"
 #include "ui/parts/FaceItem.h"
 
+#include <QList>
 #include <QObject>
 #include <QQmlEngine>
 #include <QStringList>
@@ -23,6 +24,8 @@ class AssignScreen : public QObject {
   Q_PROPERTY(qreal previewWidth READ previewWidth CONSTANT)
   Q_PROPERTY(qreal previewHeight READ previewHeight CONSTANT)
   Q_PROPERTY(QStringList options READ options NOTIFY changed)
+  /// The wallpaper style's number of each option; -1 for the one that stands for none.
+  Q_PROPERTY(QList<int> wallpapers READ wallpapers NOTIFY changed)
   /// Which of the options is picked; -1 when the wallpaper style that is picked does not exist.
   Q_PROPERTY(int picked READ picked NOTIFY changed)
   Q_PROPERTY(QString alertTitle READ alertTitle NOTIFY changed)
@@ -37,6 +40,7 @@ class AssignScreen : public QObject {
   qreal previewWidth() const { return previewSize_.width; }
   qreal previewHeight() const { return previewSize_.height; }
   QStringList options() const;
+  QList<int> wallpapers() const;
   int picked() const;
   QString alertTitle() const { return qText(screen_->alert().value_or(Alert{}).title); }
   QString alertMessage() const { return qText(screen_->alert().value_or(Alert{}).message); }

@@ -8,8 +8,9 @@ Pressable {
     required property string title
     required property string value
     property string mark: "chevron.right"
+    property alias picture: behind.data // behind the value
 
-    implicitHeight: 45
+    implicitHeight: Math.max(45, behind.childrenRect.height + 16)
     focusRadius: 20
     name: title + " " + value
 
@@ -29,8 +30,8 @@ Pressable {
         objectName: "rowValue"
         anchors.left: words.right
         anchors.leftMargin: 12
-        anchors.right: sign.left
-        anchors.rightMargin: 8
+        anchors.right: behind.left
+        anchors.rightMargin: behind.width > 0 ? 10 : 0
         anchors.verticalCenter: parent.verticalCenter
         horizontalAlignment: Text.AlignRight
         wrapMode: Text.NoWrap
@@ -39,6 +40,14 @@ Pressable {
         color: Theme.quietText
         spoken: false
         text: row.value
+    }
+    Item {
+        id: behind
+        anchors.right: sign.left
+        anchors.rightMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        width: childrenRect.width
+        height: childrenRect.height
     }
     SymbolItem {
         id: sign

@@ -1,4 +1,5 @@
-// A menu over the screen: its entries are its children. Arrows move in it, Escape closes it.
+// A menu over the screen: its entries are its children. Arrows move in it, Escape closes it. It can
+// be scrolled where it is higher than the screen.
 import QtQuick
 import Vitrelle
 
@@ -10,13 +11,19 @@ FocusScope {
     property point at
     property Item opener
 
-    /// Opens beside a point of an item, which gets the keys back in the end.
-    function openAt(item: Item, position: point) {
+    /// Opens beside a point of an item, which gets the keys back in the end. The keys go to `first`,
+    /// or to the entry at the top.
+    function openAt(item: Item, position: point, first: Item) {
         opener = item;
+        shown = true;
+        column.forceLayout(); // entries that were made while it was hidden have no place yet
         const spot = item.mapToItem(menu, position.x, position.y);
         at = Qt.point(Math.max(8, Math.min(spot.x, width - box.width - 8)), Math.max(8, Math.min(spot.y, height - box.height - 8)));
-        shown = true;
-        column.focusFrom(0, 1);
+        list.contentY = 0;
+        if (first)
+            column.focusOn(first);
+        else
+            column.focusFrom(0, 1);
     }
     function close() {
         shown = false;
@@ -52,6 +59,8 @@ FocusScope {
         borderWidth: 1
 
         Flickable {
+            id: list
+            objectName: "menuList"
             anchors.fill: parent
             contentHeight: column.height
             clip: contentHeight > height
@@ -62,12 +71,19 @@ FocusScope {
                 id: column
                 width: parent.width
 
+                function focusOn(entry: Item) {
+                    entry.forceActiveFocus();
+                    // Whole, with part of the next one, which tells that there is more.
+                    const part = 22;
+                    const lowest = entry.y + entry.height + part - list.height;
+                    list.contentY = Math.max(0, Math.min(Math.max(list.contentY, lowest), entry.y - part, list.contentHeight - list.height));
+                }
                 /// The first entry that can have the keys, from an index on.
                 function focusFrom(start: int, step: int) {
                     for (let now = start; children[now]; now += step) {
                         if (!children[now].activeFocusOnTab || !children[now].visible || !children[now].enabled)
                             continue;
-                        children[now].forceActiveFocus();
+                        focusOn(children[now]);
                         return;
                     }
                 }

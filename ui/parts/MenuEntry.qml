@@ -6,8 +6,9 @@ Pressable {
     id: entry
 
     property string symbol
+    property alias leading: front.data // before the name
 
-    height: 44
+    height: Math.max(44, front.childrenRect.height + 12)
     ringed: false
     role: Accessible.MenuItem
     rest: enabled ? 1 : 0.35
@@ -19,8 +20,16 @@ Pressable {
         radius: 10
         colour: Qt.rgba(1, 1, 1, 0.12)
     }
-    Label {
+    Item {
+        id: front
         x: 16
+        anchors.verticalCenter: parent.verticalCenter
+        width: childrenRect.width
+        height: childrenRect.height
+    }
+    Label {
+        anchors.left: front.right
+        anchors.leftMargin: front.width > 0 ? 12 : 0
         anchors.verticalCenter: parent.verticalCenter
         spoken: false
         text: entry.name
