@@ -5,6 +5,7 @@
 #include <QColorSpace>
 #include <QImageReader>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <optional>
@@ -42,6 +43,21 @@ QImage whole(const Bitmap& bitmap) {
 
 } // namespace
 
+QImage filling(const Image& image, const QSize& pixels) {
+  const std::int64_t width = image.size().width;
+  const std::int64_t height = image.size().height;
+  if (pixels.isEmpty()) return {};
+  const std::int64_t middleWidth =
+      std::clamp<std::int64_t>(height * pixels.width() / pixels.height(), 1, width);
+  const std::int64_t middleHeight =
+      std::clamp<std::int64_t>(width * pixels.height() / pixels.width(), 1, height);
+  const auto middle = image.cropped({.x = (width - middleWidth) / 2,
+                                     .y = (height - middleHeight) / 2,
+                                     .width = middleWidth,
+                                     .height = middleHeight});
+  return middle ? stretched(*middle, pixels) : QImage();
+}
+
 QImage stretched(const Image& image, const QSize& pixels) {
   const Result<Bitmap> bitmap = image.bitmap();
   if (!bitmap || pixels.isEmpty() || bitmap->size.width == 0) return {};
@@ -63,6 +79,23 @@ void PictureSource::load(const PictureName& name, const QSize& pixels,
     if (!image) return done({});
     if (shown && image->file() == shown) return;
     done({stretched(*image, pixels), image->file()});
+  });
+}
+
+void PictureSource::loadFile(const std::string& path, int revision, const QSize& pixels,
+                             std::weak_ptr<const void> asker,
+                             std::function<void(LoadedPicture)> done) {
+  pool_.start([this, path, revision, pixels, asker = std::move(asker), done = std::move(done)] {
+    if (asker.expired()) return;
+    const QString key =
+        QStringLiteral("%1 %2 %3 ").arg(revision).arg(pixels.width()).arg(pixels.height()) +
+        QString::fromStdString(path);
+    if (const QImage* known = files_.object(key)) return done({*known, {}});
+    const Result<Image> image = platform_.images.load(path);
+    const QImage picture = image ? filling(*image, pixels) : QImage();
+    if (!picture.isNull())
+      files_.insert(key, new QImage(picture), static_cast<int>(picture.sizeInBytes() >> 10));
+    done({picture, {}});
   });
 }
 

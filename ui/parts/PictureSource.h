@@ -4,11 +4,13 @@
 
 #include "core/platform/Platform.h"
 
+#include <QCache>
 #include <QImage>
 #include <QSize>
 #include <QThreadPool>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -46,14 +48,23 @@ class PictureSource final {
   /// that would be of the file that is `shown` already.
   void load(const PictureName& name, const QSize& pixels, const std::optional<FileIdentity>& shown,
             std::function<void(LoadedPicture)> done);
+  /// The same for a picture file anywhere, whose middle fills the size. Another `revision` is
+  /// another content. Nothing is done once the asker is gone, for who scrolls leaves many behind;
+  /// finished ones are kept for a while, for who scrolls comes back.
+  void loadFile(const std::string& path, int revision, const QSize& pixels,
+                std::weak_ptr<const void> asker, std::function<void(LoadedPicture)> done);
   /// The same for one of the program's own, whose middle fills the size.
   void loadAsset(const QString& name, const QSize& pixels, std::function<void(LoadedPicture)> done);
 
  private:
   const Platform& platform_;
   QThreadPool pool_;
+  QCache<QString, QImage> files_{64 << 10}; ///< of the pool's one thread; costs are kilobytes
 };
 
+/// The largest middle of an image that has the proportions of a size, in that size. Null when it
+/// can't be decoded.
+QImage filling(const Image& image, const QSize& pixels);
 /// The pixels of an image stretched to a size. Null when it can't be decoded.
 QImage stretched(const Image& image, const QSize& pixels);
 

@@ -47,11 +47,20 @@ void StoredPicture::load() {
   update();
   if (!isComponentComplete() || width() <= 0 || height() <= 0) return;
   const QSize pixels = pixelSize();
-  Wish wish{{stem_.toStdString(), styleNumber_, dark_}, standIn_, revision_, pixels};
+  Wish wish{{stem_.toStdString(), styleNumber_, dark_}, file_, standIn_, revision_, pixels};
   if (wish == wish_) return;
   const bool sameSize = wish.pixels == wish_.pixels;
   wish_ = std::move(wish);
   ++request_;
+  asking_ = nullptr;
+  if (!file_.isEmpty()) {
+    asking_ = std::make_shared<const int>();
+    Shell::of(*qmlEngine(this))
+        .pictures()
+        .loadFile(file_.toStdString(), revision_, pixels, asking_,
+                  receiver(&StoredPicture::takeStored));
+    return;
+  }
   if (styleNumber_ < 0) {
     takeStored(request_, {});
     return;

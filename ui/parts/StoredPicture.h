@@ -1,4 +1,5 @@
-// A stored picture on a screen, stretched into a rectangle with continuous corners.
+// A stored picture, or that of any file, on a screen, stretched into a rectangle with continuous
+// corners.
 #pragma once
 
 #include "ui/parts/PaintedItem.h"
@@ -9,6 +10,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace vitrelle::ui {
@@ -19,6 +21,8 @@ class StoredPicture : public vitrelle::ui::PaintedItem {
   Q_PROPERTY(QString stem MEMBER stem_ NOTIFY asked)
   Q_PROPERTY(int styleNumber MEMBER styleNumber_ NOTIFY asked)
   Q_PROPERTY(bool dark MEMBER dark_ NOTIFY asked)
+  /// Path of a picture file that is shown instead of a stored picture, filling the rectangle.
+  Q_PROPERTY(QString file MEMBER file_ NOTIFY asked)
   /// Raised when the file may have been replaced.
   Q_PROPERTY(int revision MEMBER revision_ NOTIFY asked)
   Q_PROPERTY(qreal radius MEMBER radius_ NOTIFY asked)
@@ -49,6 +53,7 @@ class StoredPicture : public vitrelle::ui::PaintedItem {
   /// What a load depends on.
   struct Wish {
     PictureName name;
+    QString file;
     QString standIn;
     int revision = 0;
     QSize pixels;
@@ -66,6 +71,7 @@ class StoredPicture : public vitrelle::ui::PaintedItem {
 
   QString stem_ = QStringLiteral("original");
   int styleNumber_ = -1;
+  QString file_;
   bool dark_ = false;
   int revision_ = 0;
   qreal radius_ = 0;
@@ -75,7 +81,8 @@ class StoredPicture : public vitrelle::ui::PaintedItem {
   bool missing_ = false;
   Wish wish_;
   QTimer rest_;
-  int request_ = 0; ///< the last; answers to earlier ones are dropped
+  int request_ = 0;                   ///< the last; answers to earlier ones are dropped
+  std::shared_ptr<const int> asking_; ///< there while a file's picture is still wanted
 };
 
 } // namespace vitrelle::ui
