@@ -1,9 +1,13 @@
 #include "ui/Shell.h"
 
+#include "core/store/Keys.h"
+#include "core/store/StoredValue.h"
 #include "ui/app/WindowPlace.h"
+#include "ui/pickers/PictureFolder.h"
 
 #include <QClipboard>
 #include <QEvent>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QVariant>
@@ -112,6 +116,17 @@ ScreenEntry Shell::screenEntry(const QString& name) const {
 
 FamilyScreen* Shell::family(const QString& name) const {
   return new FamilyScreen(platform_, familyScreens(name.toStdString()));
+}
+
+QString Shell::pictureFolder() const {
+  const StoredValue remembered(platform_, keys::pictureFolder);
+  return firstPictureFolder(QString::fromStdString(remembered.getOrDefault()));
+}
+
+void Shell::rememberPicture(const QUrl& file) const {
+  const StoredValue remembered(platform_, keys::pictureFolder);
+  const std::string folder = QFileInfo(file.toLocalFile()).path().toStdString();
+  if (file.isLocalFile() && remembered.get() != folder) remembered.set(folder);
 }
 
 void Shell::showNotice(const QString& text, NoticeKind kind) {

@@ -100,6 +100,10 @@ class Shell final : public QObject {
   Q_INVOKABLE static QString fontWords(const QString& name) {
     return qText(vitrelle::fontWords(name.toStdString()));
   }
+  /// Where the choosing of a picture begins.
+  Q_INVOKABLE QString pictureFolder() const;
+  /// Lets the next choosing begin where this file lies.
+  Q_INVOKABLE void rememberPicture(const QUrl& file) const;
   /// In the place of another, unless that tells of lasting trouble and this does not.
   Q_INVOKABLE void showNotice(const QString& text, NoticeKind kind = Refusal);
   Q_INVOKABLE void dismissNotice();

@@ -51,6 +51,34 @@
         <source></source>
         <translation>Bilder</translation>
     </message>
+    <message id="app.picker.computer">
+        <source></source>
+        <translation>Computer</translation>
+    </message>
+    <message id="app.picker.damaged">
+        <source></source>
+        <translation>%1, lässt sich nicht anzeigen</translation>
+    </message>
+    <message id="app.picker.empty">
+        <source></source>
+        <translation>In diesem Ordner sind keine Bilder.</translation>
+    </message>
+    <message id="app.picker.folder">
+        <source></source>
+        <translation>Ordner %1</translation>
+    </message>
+    <message id="app.picker.gone">
+        <source></source>
+        <translation>Diesen Ordner gibt es nicht mehr.</translation>
+    </message>
+    <message id="app.picker.home">
+        <source></source>
+        <translation>Persönlicher Ordner</translation>
+    </message>
+    <message id="app.picker.unreadable">
+        <source></source>
+        <translation>Dieser Ordner lässt sich nicht lesen.</translation>
+    </message>
     <message id="app.picker.title">
         <source></source>
         <translation>Bildschirmfoto auswählen</translation>

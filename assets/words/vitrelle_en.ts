@@ -51,6 +51,34 @@
         <source></source>
         <translation>Pictures</translation>
     </message>
+    <message id="app.picker.computer">
+        <source></source>
+        <translation>Computer</translation>
+    </message>
+    <message id="app.picker.damaged">
+        <source></source>
+        <translation>%1, which can’t be shown</translation>
+    </message>
+    <message id="app.picker.empty">
+        <source></source>
+        <translation>There are no pictures in this folder.</translation>
+    </message>
+    <message id="app.picker.folder">
+        <source></source>
+        <translation>Folder %1</translation>
+    </message>
+    <message id="app.picker.gone">
+        <source></source>
+        <translation>This folder is no longer there.</translation>
+    </message>
+    <message id="app.picker.home">
+        <source></source>
+        <translation>Home</translation>
+    </message>
+    <message id="app.picker.unreadable">
+        <source></source>
+        <translation>This folder can’t be read.</translation>
+    </message>
     <message id="app.picker.title">
         <source></source>
         <translation>Choose a Screenshot</translation>

@@ -80,6 +80,7 @@ inline constexpr Key<Date>   appReviewAskDate{standard, "appReviewAskDate", isAS
 inline constexpr Key<Int>    appStartUpsCountKey{standard, "appStartUpsCountKey", readsAsDefault};
 inline constexpr Key<Int>    styleInTheMaking{standard, "styleInTheMaking", isAState};
 inline constexpr Key<String> windowPlace{standard, "windowPlace", isAState};
+inline constexpr Key<String> pictureFolder{standard, "pictureFolder", isAState};
 
 // clang-format on
 
@@ -128,6 +129,6 @@ inline constexpr std::tuple groupKeys{selectedConfig,
 /// The keys of the standard defaults.
 inline constexpr std::tuple standardKeys{destination,      lastUsedAppVersion,  betaEnrollment,
                                          appReviewAskDate, appStartUpsCountKey, styleInTheMaking,
-                                         windowPlace};
+                                         windowPlace,      pictureFolder};
 
 } // namespace vitrelle::keys

@@ -1,9 +1,13 @@
 #include "tests/ui/UiTest.h"
 
+#include "host/imaging/ImageFile.h"
+
 #include <QClipboard>
+#include <QDir>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
+#include <QTemporaryDir>
 
 #include <string>
 #include <tuple>
@@ -61,11 +65,76 @@ TEST_F(IntakePageTest, pressingAHalf_opensThePickerAndCancellingItHarmsNothing) 
   };
   EXPECT_TRUE(picking());
   EXPECT_EQ(number("amountOfConfigs"), 1);
-  QTest::qWait(100); // the dialog comes up
+  EXPECT_TRUE(driver->isShown("picturePicker"));
   driver->key(Qt::Key_Escape);
   EXPECT_TRUE(driver->eventually([&] { return !picking(); }));
   EXPECT_TRUE(folder.written.empty());
   EXPECT_EQ(console.reloads, 2) << "the launch's and the cancelled picker's";
+}
+
+TEST_F(IntakePageTest, picker_findsAPictureByKeysAndRemembersItsFolder) {
+  QTemporaryDir pictures;
+  const QDir root(pictures.path());
+  ASSERT_TRUE(root.mkpath("Phone/Empty"));
+  QImage picture(300, 600, QImage::Format_RGB32);
+  picture.fill(Qt::darkRed);
+  picture.save(root.filePath("Phone/Screenshot 1.png"));
+  picture.save(root.filePath("Phone/Screenshot 2.png"));
+  QFile damaged(root.filePath("Phone/Broken.png"));
+  ASSERT_TRUE(damaged.open(QIODevice::WriteOnly) && damaged.write("no picture") > 0);
+  damaged.close();
+  platform.images.load = host::loadImageFile;
+  defaults.values(Suite::standard)["pictureFolder"] = pictures.path().toStdString();
+  setNumber("amountOfConfigs", 1);
+  addStyle(0);
+  open({.screen = QStringLiteral("ModernChangeLightDark"), .framed = false, .animated = false});
+  driver->click("darkCell");
+  const auto type = [&](const char* words) {
+    for (const char* letter = words; *letter != 0; ++letter)
+      QTest::keyClick(shell->window(), *letter);
+  };
+  const auto isAt = [&](const char* name) {
+    const QQuickItem* item = shell->window()->activeFocusItem();
+    return item != nullptr && item->property("fileName").toString() == QString::fromLatin1(name);
+  };
+  ASSERT_TRUE(driver->eventually([&] { return isAt("Phone"); }));
+  driver->key(Qt::Key_Return);
+  ASSERT_TRUE(driver->eventually([&] { return isAt("Empty"); }));
+  driver->key(Qt::Key_Return);
+  EXPECT_TRUE(driver->eventually([&] {
+    return driver->isShown("pickerMessage") &&
+           driver->find("pickerMessage")->property("text") == qtTrId("app.picker.empty");
+  }));
+  driver->key(Qt::Key_Backspace);
+  EXPECT_TRUE(driver->eventually([&] { return isAt("Empty"); }));
+  driver->key(Qt::Key_Up, Qt::AltModifier);
+  EXPECT_TRUE(driver->eventually([&] { return isAt("Phone"); }));
+  driver->key(Qt::Key_Return);
+  EXPECT_TRUE(driver->eventually([&] { return isAt("Empty"); }));
+
+  const auto thumbnail = [&](const char* cell) {
+    return driver->find(cell)->findChild<QQuickItem*>("picture");
+  };
+  EXPECT_TRUE(driver->eventually([&] { return thumbnail("cell3")->property("ready").toBool(); }));
+  EXPECT_TRUE(thumbnail("cell1")->property("missing").toBool());
+  EXPECT_TRUE(driver->find("cell1")->findChild<QQuickItem*>("sign")->isVisible());
+  type("broken");
+  EXPECT_TRUE(isAt("Broken.png"));
+  driver->key(Qt::Key_Return);
+  EXPECT_TRUE(driver->isShown("notice")) << "a damaged one is told of";
+  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("pickerSheet"); }));
+  EXPECT_TRUE(folder.written.empty());
+
+  driver->click("darkCell");
+  ASSERT_TRUE(driver->eventually([&] { return isAt("Empty"); })) << "where the last one was";
+  type("screenshot 2");
+  EXPECT_TRUE(isAt("Screenshot 2.png"));
+  driver->key(Qt::Key_Return);
+  ASSERT_FALSE(folder.written.empty());
+  EXPECT_EQ(folder.written.front(), "0originalDark.png");
+  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("pickerSheet"); }));
+  EXPECT_EQ(std::get<std::string>(defaults.values(Suite::standard)["pictureFolder"]),
+            root.filePath("Phone").toStdString());
 }
 
 TEST_F(IntakePageTest, press_choosesTheHalfInWhichItEnds) {

@@ -120,8 +120,8 @@ void UiTest::open(ui::ShellOptions options) {
 
 } // namespace vitrelle::test
 
-// Qt's file dialog leaves the textures of its icons behind. What our code allocates is named by our
-// frames, and still told.
+// What Qt leaves behind of textures. What our code allocates is named by our frames, and still
+// told.
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() {
   return "leak:libQt6Quick.so\nleak:libQt6Gui.so\nleak:libQt6Core.so\n";
@@ -129,6 +129,7 @@ extern "C" const char* __lsan_default_suppressions() {
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent"); // the desktop's dialogs stay away
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   QQuickStyle::setStyle(QStringLiteral("Basic"));
   testing::InitGoogleTest(&argc, argv);

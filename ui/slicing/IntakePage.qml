@@ -1,6 +1,5 @@
 // Takes a light and a dark screenshot in, for a new style or for one that is there.
 import QtQuick
-import QtQuick.Dialogs
 import Vitrelle
 
 Page {
@@ -11,7 +10,7 @@ Page {
 
     title: intake.title
     backTitle: intake.back
-    covered: sheet.shown
+    covered: sheet.shown || picker.shown
     onClosed: intake.disappear()
     Component.onCompleted: {
         intake.appear();
@@ -90,30 +89,30 @@ Page {
         onPasted: dark => page.intake.paste(dark)
         onHelpAsked: page.intake.showPerspectiveZoom()
     }
-    FileDialog {
-        id: picker
-        title: qsTrId("app.picker.title")
-        nameFilters: [qsTrId("app.picker.pictures") + " (*.png *.jpg *.jpeg *.heic *.heif *.PNG *.JPG *.JPEG *.HEIC *.HEIF)"]
-        onAccepted: page.intake.pick(selectedFile)
-        onRejected: page.intake.cancel()
-    }
-    overlay: Sheet {
-        id: sheet
-        objectName: "intakeSheet"
-        shown: Shell.hasScreen(page.intake.sheet)
-        onDismissed: page.intake.dismissSheet()
+    overlay: [
+        PicturePicker {
+            id: picker
+            onAccepted: file => page.intake.pick(file)
+            onRejected: page.intake.cancel()
+        },
+        Sheet {
+            id: sheet
+            objectName: "intakeSheet"
+            shown: Shell.hasScreen(page.intake.sheet)
+            onDismissed: page.intake.dismissSheet()
 
-        Loader {
-            anchors.fill: parent
-            focus: true
-            active: sheet.present
-            sourceComponent: PerspectiveZoomDescription {
+            Loader {
+                anchors.fill: parent
                 focus: true
-                backTitle: qsTrId("app.close")
-                onClosed: sheet.dismissed()
+                active: sheet.present
+                sourceComponent: PerspectiveZoomDescription {
+                    focus: true
+                    backTitle: qsTrId("app.close")
+                    onClosed: sheet.dismissed()
+                }
             }
         }
-    }
+    ]
     Timer {
         id: settled
         interval: 0
@@ -121,9 +120,9 @@ Page {
     }
     // What is dropped or pasted opens the picker in passing: only how it ends is followed.
     function followPicker() {
-        if (intake.pickerOpen && !picker.visible)
+        if (intake.pickerOpen && !picker.shown)
             picker.open();
-        else if (!intake.pickerOpen && picker.visible)
+        else if (!intake.pickerOpen && picker.shown)
             picker.close();
     }
     Connections {
