@@ -38,7 +38,7 @@ class PictureFolderTest : public testing::Test {
   bool becomes(const QStringList& expected) {
     return QTest::qWaitFor([&] { return names() == expected; }, 10000);
   }
-  bool becomes(PictureFolder::State expected) {
+  bool becomes(FolderState expected) {
     return QTest::qWaitFor([&] { return folder.state() == expected; }, 10000);
   }
 
@@ -59,11 +59,11 @@ TEST_F(PictureFolderTest, entries_areFoldersByNameThenPicturesByTime) {
   write(".hidden.png", 4);
   write("notes.txt", 5);
   QFile::link(at("nothing.png"), at("dangling.png"));
-  EXPECT_EQ(folder.state(), PictureFolder::Loading);
+  EXPECT_EQ(folder.state(), FolderState::loading);
   folder.show(root.path());
   EXPECT_TRUE(becomes({"A", "b", "new.JPG", "mid.heic", "same a.jpeg", "same b.heif", "old.png"}))
       << names().join(", ").toStdString();
-  EXPECT_EQ(folder.state(), PictureFolder::Ready);
+  EXPECT_EQ(folder.state(), FolderState::ready);
 
   EXPECT_EQ(folder.find("SAME", 0), 4);
   EXPECT_EQ(folder.find("same", 5), 5);
@@ -99,26 +99,26 @@ TEST_F(PictureFolderTest, changes_areFollowed) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return revision() != before; }));
 
   QDir(root.path()).removeRecursively();
-  EXPECT_TRUE(becomes(PictureFolder::Gone));
+  EXPECT_TRUE(becomes(FolderState::gone));
   EXPECT_TRUE(names().isEmpty());
   QDir().mkpath(root.path());
   write("back.png", 1);
   EXPECT_TRUE(becomes({"back.png"}));
-  EXPECT_EQ(folder.state(), PictureFolder::Ready);
+  EXPECT_EQ(folder.state(), FolderState::ready);
 }
 
 TEST_F(PictureFolderTest, whatIsNoReadableFolder_isSaid) {
   write("file.png", 1);
   folder.show(at("file.png"));
-  EXPECT_TRUE(becomes(PictureFolder::Unreadable));
+  EXPECT_TRUE(becomes(FolderState::unreadable));
   folder.show(at("nothing"));
-  EXPECT_TRUE(becomes(PictureFolder::Gone));
+  EXPECT_TRUE(becomes(FolderState::gone));
 
   QDir(root.path()).mkdir("closed");
   chmod(QFile::encodeName(at("closed")).constData(), 0);
   if (geteuid() == 0) return; // whom nothing is closed to
   folder.show(at("closed"));
-  EXPECT_TRUE(becomes(PictureFolder::Unreadable));
+  EXPECT_TRUE(becomes(FolderState::unreadable));
 }
 
 TEST_F(PictureFolderTest, trail_leadsFromTheRootOverTheHome) {

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <utility>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -42,12 +43,11 @@ bool before(const FolderEntry& a, const FolderEntry& b) {
   return order != 0 ? order < 0 : a.name < b.name;
 }
 
-PictureFolder::Listing readFolder(const QString& path) {
+Listing readFolder(const QString& path) {
   const fs::path folder = QFile::encodeName(path).toStdString();
-  PictureFolder::Listing listing;
+  Listing listing;
   const auto fail = [](int error) {
-    return PictureFolder::Listing{error == ENOENT ? PictureFolder::Gone : PictureFolder::Unreadable,
-                                  {}};
+    return Listing{error == ENOENT ? FolderState::gone : FolderState::unreadable, {}};
   };
   if (access(folder.c_str(), R_OK | X_OK) != 0) return fail(errno);
   std::error_code error;
@@ -115,11 +115,11 @@ bool PictureRows::merge(const QString& folder, const std::vector<FolderEntry>& e
   folder_ = folder;
   // Both are in the same order, so one pass finds the runs of rows that went and that came, and
   // what stays keeps its place on the screen.
-  const auto run = [](const auto& from, std::size_t first, const auto& to, std::size_t next) {
-    std::size_t end = first;
-    while (end < from.size() && (next == to.size() || before(from[end], to[next])))
+  const auto run = [](const auto& from, std::size_t start, const auto& to, std::size_t limit) {
+    std::size_t end = start;
+    while (end < from.size() && (limit == to.size() || before(from[end], to[limit])))
       ++end;
-    return static_cast<std::ptrdiff_t>(end - first);
+    return static_cast<std::ptrdiff_t>(end - start);
   };
   bool changed = false;
   std::size_t row = 0;
@@ -167,7 +167,8 @@ void PictureFolder::show(const QString& path) {
   path_ = clean;
   again_.stop();
   rows_.merge(path_, {});
-  setState(Loading);
+  state_ = FolderState::loading;
+  Q_EMIT stateChanged();
   Q_EMIT pathChanged();
   list();
 }
@@ -195,6 +196,20 @@ int PictureFolder::find(const QString& beginning, int from) const {
   return -1;
 }
 
+QString PictureFolder::message() const {
+  switch (state_) {
+  case FolderState::unreadable:
+    return qtTrId("app.picker.unreadable");
+  case FolderState::gone:
+    return qtTrId("app.picker.gone");
+  case FolderState::ready:
+    return rows_.entries().empty() ? qtTrId("app.picker.empty") : QString();
+  case FolderState::loading:
+    break;
+  }
+  return {};
+}
+
 QString PictureFolder::nameIn(const QString& above) const {
   const QString folder = above.endsWith(u'/') ? above : above + u'/';
   return path_.startsWith(folder) ? path_.mid(folder.size()).section(u'/', 0, 0) : QString();
@@ -219,13 +234,9 @@ void PictureFolder::list() {
 void PictureFolder::take(int request, const Listing& listing) {
   if (request != request_) return;
   if (rows_.merge(path_, listing.entries)) again_.start(rest);
-  setState(listing.state);
-}
-
-void PictureFolder::setState(State state) {
-  if (state == state_) return;
-  state_ = state;
+  const bool first = std::exchange(state_, listing.state) == FolderState::loading;
   Q_EMIT stateChanged();
+  if (first) Q_EMIT loaded();
 }
 
 QString firstPictureFolder(const QString& remembered) {

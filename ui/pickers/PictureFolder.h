@@ -22,6 +22,14 @@ struct FolderEntry {
   bool operator==(const FolderEntry&) const = default;
 };
 
+enum class FolderState { loading, ready, unreadable, gone };
+
+/// A folder as it was read.
+struct Listing {
+  FolderState state = FolderState::ready;
+  std::vector<FolderEntry> entries;
+};
+
 /// The rows of the model, in their order.
 class PictureRows : public QAbstractListModel {
   Q_OBJECT
@@ -52,17 +60,11 @@ class PictureFolder : public QObject {
   /// The last but one of them; empty at the root.
   Q_PROPERTY(QString above READ above NOTIFY pathChanged)
   Q_PROPERTY(QString home READ home CONSTANT)
-  Q_PROPERTY(State state READ state NOTIFY stateChanged)
+  /// Why there is nothing to choose from; empty where there is something, and while it is looked.
+  Q_PROPERTY(QString message READ message NOTIFY stateChanged)
   Q_PROPERTY(vitrelle::ui::PictureRows* rows READ rows CONSTANT)
 
  public:
-  enum State { Loading, Ready, Unreadable, Gone };
-  Q_ENUM(State)
-  struct Listing {
-    State state = Ready;
-    std::vector<FolderEntry> entries;
-  };
-
   explicit PictureFolder(QObject* parent = nullptr);
 
   const QString& path() const { return path_; }
@@ -70,7 +72,8 @@ class PictureFolder : public QObject {
   QStringList trail() const;
   QString above() const { return trail().value(trail().size() - 2); }
   static QString home();
-  State state() const { return state_; }
+  FolderState state() const { return state_; }
+  QString message() const;
   PictureRows* rows() { return &rows_; }
 
   Q_INVOKABLE static QUrl urlOf(const QString& path) { return QUrl::fromLocalFile(path); }
@@ -82,15 +85,16 @@ class PictureFolder : public QObject {
  Q_SIGNALS:
   void pathChanged();
   void stateChanged();
+  /// Once for each folder that is shown: its first entries are there.
+  void loaded();
 
  private:
   /// Reads the folder on another thread, for it may lie on a slow disk.
   void list();
   void take(int request, const Listing& listing);
-  void setState(State state);
 
   QString path_;
-  State state_ = Loading;
+  FolderState state_ = FolderState::loading;
   PictureRows rows_;
   QFileSystemWatcher watcher_;
   QTimer again_;

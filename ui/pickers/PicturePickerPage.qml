@@ -72,8 +72,8 @@ FocusScope {
 
     PictureFolder {
         id: folder
-        onStateChanged: {
-            if (state === PictureFolder.Loading || grid.count === 0)
+        onLoaded: {
+            if (grid.count === 0)
                 return;
             const before = page.cameFrom === "" ? 0 : find(page.cameFrom, 0);
             grid.currentIndex = Math.max(0, before);
@@ -188,18 +188,7 @@ FocusScope {
         width: grid.width - 80
         horizontalAlignment: Text.AlignHCenter
         visible: text !== ""
-        text: {
-            switch (folder.state) {
-            case PictureFolder.Unreadable:
-                return qsTrId("app.picker.unreadable");
-            case PictureFolder.Gone:
-                return qsTrId("app.picker.gone");
-            case PictureFolder.Ready:
-                return grid.count === 0 ? qsTrId("app.picker.empty") : "";
-            default:
-                return "";
-            }
-        }
+        text: folder.message
         Accessible.role: Accessible.StaticText
         Accessible.name: text
     }

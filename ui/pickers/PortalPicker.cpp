@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QGuiApplication>
 
+#include <utility>
+
 namespace vitrelle::ui {
 
 namespace {
@@ -68,10 +70,9 @@ QString nameOf(const QQuickWindow* window) {
 
 } // namespace
 
-PortalPicker::PortalPicker(const QDBusConnection& bus, std::chrono::milliseconds patience,
-                           QObject* parent)
+PortalPicker::PortalPicker(QDBusConnection bus, std::chrono::milliseconds patience, QObject* parent)
     : QObject(parent),
-      bus_(bus),
+      bus_(std::move(bus)),
       owner_(service, bus_, QDBusServiceWatcher::WatchForUnregistration) {
   patience_.setSingleShot(true);
   patience_.setInterval(patience);

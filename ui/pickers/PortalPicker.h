@@ -25,8 +25,7 @@ class PortalPicker : public QObject {
       : PortalPicker(QDBusConnection::sessionBus(), std::chrono::seconds(3), parent) {}
   /// A portal that says nothing for so long is none: starting one takes a moment, and one that
   /// waits for a part of itself that hangs takes half a minute.
-  PortalPicker(const QDBusConnection& bus, std::chrono::milliseconds patience,
-               QObject* parent = nullptr);
+  PortalPicker(QDBusConnection bus, std::chrono::milliseconds patience, QObject* parent = nullptr);
   ~PortalPicker() override { close(); }
 
   /// Exactly one signal follows, unless it is closed before. `kinds` names the files that are
@@ -42,10 +41,8 @@ class PortalPicker : public QObject {
   /// There is no such dialog here, or it failed: something else has to do.
   void unavailable();
 
- private Q_SLOTS:
-  void takeAnswer(uint response, const QVariantMap& results);
-
  private:
+  Q_SLOT void takeAnswer(uint response, const QVariantMap& results);
   void listenAt(const QString& request);
   void forgetRequest();
   void giveUp();
