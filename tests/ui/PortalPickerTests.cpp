@@ -137,6 +137,9 @@ TEST_F(PortalPickerTest, dialog_isAskedForPicturesInTheFolder) {
     EXPECT_EQ(kind, 1U);
     types += type;
   }
+  filters.endArray();
+  filters.endStructure();
+  filters.endArray();
   EXPECT_EQ(name, "Pictures");
   EXPECT_EQ(types, (QStringList{"image/png", "image/jpeg", "image/heic", "image/heif"}));
 }
