@@ -57,6 +57,7 @@ Pressable {
         font.pixelSize: 12
         wrapMode: Text.NoWrap
         elide: Text.ElideMiddle
+        spoken: false
         text: cell.fileName
     }
 }
