@@ -29,10 +29,10 @@ class Pen final {
 /// Where the control points of a quarter circle of radius 1 lie.
 constexpr double quarter = 0.5522847498307936;
 
-// In radii from the corner: where the bend begins, and where its curve's control points lie. The
-// middle of the bend is that of the circle.
+/// In radii from the corner: where a bend begins that has the room for it.
 constexpr double bend = 1.28;
-constexpr double control = 0.354;
+/// In radii: how far the middle of a circle's quarter is from each side of its corner.
+constexpr double middle = 0.2928932188134524;
 
 } // namespace
 
@@ -61,22 +61,26 @@ Path circle(const PointRect& box) {
 
 Path continuousRectangle(const PointRect& box, double radius) {
   const double longest = std::min(box.width, box.height) / 2;
-  const double begin = std::min(radius * bend, longest);
-  const double pull = begin / bend * control;
+  const double r = std::clamp(radius, 0.0, std::max(longest, 0.0));
+  // With less room the bend begins later, down to the circle's own quarter. The curve's control
+  // points lie so that its middle always is the circle's.
+  const double reach = r > 0 ? std::min(bend, longest / r) : 1;
+  const double begin = r * reach;
+  const double pull = r * (8 * middle - reach) / 3;
   const double left = box.x;
   const double top = box.y;
   const double right = box.x + box.width;
   const double bottom = box.y + box.height;
   Pen pen;
-  pen.move(left + begin, top);
-  pen.line(right - begin, top);
-  pen.cubic({right - pull, top}, {right, top + pull}, {right, top + begin});
+  pen.move(right, top + box.height / 2);
   pen.line(right, bottom - begin);
   pen.cubic({right, bottom - pull}, {right - pull, bottom}, {right - begin, bottom});
   pen.line(left + begin, bottom);
   pen.cubic({left + pull, bottom}, {left, bottom - pull}, {left, bottom - begin});
   pen.line(left, top + begin);
   pen.cubic({left, top + pull}, {left + pull, top}, {left + begin, top});
+  pen.line(right - begin, top);
+  pen.cubic({right - pull, top}, {right, top + pull}, {right, top + begin});
   return pen.close();
 }
 

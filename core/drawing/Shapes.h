@@ -13,7 +13,8 @@ Path circle(const PointRect& box);
 
 /// Corners that begin to bend early, so that edge and corner pass into each other: the form of the
 /// phone's screen, its icons and its widgets. `radius` is that of the circle whose corner it looks
-/// like; it is cut to half the shorter side.
+/// like; it is cut to half the shorter side, and the ends are then round. From the middle of the
+/// right side clockwise.
 Path continuousRectangle(const PointRect& box, double radius);
 
 } // namespace vitrelle::shapes
