@@ -36,8 +36,7 @@ TEST(Trim, part_isOfLinesAndTheClosingOne) {
 TEST(Trim, liftedPen_isLiftedInTheParts) {
   const Path two{{PathCommand::move, PathCommand::line, PathCommand::move, PathCommand::line},
                  {{0, 0}, {10, 0}, {0, 5}, {10, 5}}};
-  EXPECT_EQ(trimmed(two, 0.25, 0.75),
-            (Path{two.commands, {{5, 0}, {10, 0}, {0, 5}, {5, 5}}}));
+  EXPECT_EQ(trimmed(two, 0.25, 0.75), (Path{two.commands, {{5, 0}, {10, 0}, {0, 5}, {5, 5}}}));
 }
 
 TEST(Trim, beyondTheEnds_isNothing) {
