@@ -92,6 +92,7 @@ class Writer final {
     text_ +=
         "text " + quoted(item.text) + " in " + quoted(item.font.name) + numbers(item.font.size);
     if (item.font.weight != 400) text_ += " weight " + std::to_string(item.font.weight);
+    if (item.font.evenDigits) text_ += " even digits";
     if (item.alignment == TextAlignment::centre) text_ += " centred";
     text_ += words(item.colour) + words(item.box);
     if (item.room != PointSize{item.box.width, item.box.height})

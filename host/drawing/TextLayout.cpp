@@ -1,5 +1,6 @@
 #include "host/drawing/TextLayout.h"
 
+#include "host/drawing/DigitCells.h"
 #include "host/drawing/Emoji.h"
 #include "host/drawing/Fonts.h"
 
@@ -67,13 +68,17 @@ class Paragraph final {
     option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     layout_.setTextOption(option);
     layout_.setCacheEnabled(true);
-    QList<QTextLayout::FormatRange> pictures;
+    QList<QTextLayout::FormatRange> formats;
+    if (style.font.evenDigits) {
+      cells_ = digitCells(text, style.face);
+      formats = cells_.formatsFor(text, style.face);
+    }
     for (const TextRange& range : emojiIn(text)) {
       QTextCharFormat format;
       format.setFont(emojiFaceOf(style.font, unitsPerPoint));
-      pictures.push_back({range.start, range.length, format});
+      formats.push_back({range.start, range.length, format});
     }
-    if (!pictures.empty()) layout_.setFormats(pictures);
+    if (!formats.empty()) layout_.setFormats(formats);
     layout_.beginLayout();
   }
   ~Paragraph() { layout_.endLayout(); }
@@ -86,15 +91,20 @@ class Paragraph final {
     if (line.isValid()) line.setLineWidth(width);
     return line;
   }
+  const DigitCells& cells() const { return cells_; }
 
  private:
+  DigitCells cells_;
   QTextLayout layout_;
 };
 
 /// Adds a line of the layout below those that are there; `bottom` is in units.
-void append(TextLayout& to, const QTextLine& line, bool rightToLeft, double& bottom) {
+void append(TextLayout& to, const QTextLine& line, const DigitCells& cells, bool rightToLeft,
+            double& bottom) {
   TextLine added;
-  added.width = line.naturalTextWidth() / unitsPerPoint;
+  // What the last letter has beyond its advance depends on the digit, which cells are to hide.
+  added.width =
+      (cells.slack.empty() ? line.naturalTextWidth() : line.horizontalAdvance()) / unitsPerPoint;
   added.baseline = (bottom + line.ascent()) / unitsPerPoint;
   added.rightToLeft = rightToLeft;
   added.runs = line.glyphRuns();
@@ -104,6 +114,7 @@ void append(TextLayout& to, const QTextLine& line, bool rightToLeft, double& bot
     QList<QPointF> positions = run.positions();
     for (QPointF& position : positions)
       position += shift;
+    cells.centre(run.rawFont(), run.glyphIndexes(), positions);
     run.setPositions(positions);
   }
   bottom += line.height();
@@ -131,7 +142,7 @@ QString elided(const QString& text, const Style& style, bool rightToLeft) {
 void appendElided(TextLayout& to, const QString& rest, const Style& style, bool rightToLeft,
                   double& bottom) {
   Paragraph shown(elided(rest, style, rightToLeft), style, rightToLeft, QTextOption::NoWrap);
-  append(to, shown.nextLine(unboundedUnits), rightToLeft, bottom);
+  append(to, shown.nextLine(unboundedUnits), shown.cells(), rightToLeft, bottom);
 }
 
 } // namespace
@@ -159,7 +170,7 @@ TextLayout layOutText(const QString& text, const Font& font, const PointSize& ro
         result.size = {roundedUp(result.size.width), roundedUp(bottom / unitsPerPoint)};
         return result;
       }
-      append(result, line, rightToLeft, bottom);
+      append(result, line, paragraph.cells(), rightToLeft, bottom);
     }
   }
   result.size = {roundedUp(result.size.width), roundedUp(bottom / unitsPerPoint)};

@@ -95,6 +95,24 @@ TEST(TextLayout, emoji_areOnePictureEach) {
   }
 }
 
+TEST(TextLayout, evenDigits_standStillWhateverTheTime) {
+  const auto clock = [](const char* time, const char* font, bool even) {
+    return layOutText(QString::fromUtf8(time), {.name = font, .size = 40, .evenDigits = even},
+                      {endless, endless});
+  };
+  for (const char* font : {"", "Inter-BoldItalic"}) {
+    EXPECT_NE(clock("11:11", font, false).size, clock("00:00", font, false).size);
+    const TextLayout noon = clock("00:00", font, true);
+    for (const char* time : {"11:11", "13:30", "23:59"})
+      EXPECT_EQ(clock(time, font, true).size, noon.size) << time;
+    EXPECT_NEAR(noon.size.width, clock("00:00", font, false).size.width, 4);
+    EXPECT_LT(clock("1", font, true).lines[0].runs[0].positions()[0].x(), 40) << "in its cell";
+    EXPECT_GT(clock("1", font, true).lines[0].runs[0].positions()[0].x(), 5) << "and in the middle";
+    EXPECT_EQ(clock("ab", font, true).size, clock("ab", font, false).size);
+  }
+  EXPECT_TRUE(clock("١:٣٠ م", "", true).lines[0].rightToLeft);
+}
+
 TEST(TextLayout, cutLine_keepsTheDirectionOfItsParagraph) {
   const char* text = "שלום this is English for a few lines";
   const TextLayout whole = layOut(text, 100, endless);
