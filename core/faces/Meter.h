@@ -15,9 +15,9 @@ struct Meter {
   PlatformColour ringColour{1, 1, 1, 1};
   PlatformColour iconColour{1, 1, 1, 1};
   PlatformColour textColour{1, 1, 1, 1};
-  std::string symbol;
+  std::string symbol = {};
   bool symbolOn = true;
-  std::string font; ///< PostScript name; empty for the system's face
+  std::string font = {}; ///< PostScript name; empty for the system's face
   bool percentageOn = true;
 
   View view() const;
@@ -28,9 +28,9 @@ struct SquareMeter {
   PlatformColour lineColour{1, 1, 1, 1};
   PlatformColour iconColour{1, 1, 1, 1};
   PlatformColour textColour{1, 1, 1, 1};
-  std::string symbol;
+  std::string symbol = {};
   bool symbolOn = true;
-  std::string font; ///< PostScript name; empty for the system's face
+  std::string font = {}; ///< PostScript name; empty for the system's face
   bool percentageOn = true;
 
   View view() const;
