@@ -38,6 +38,7 @@ DebugConsole makeDebugConsole(bool verbose) {
 /// Programs that draw put theirs in its place: it takes libraries that the others do without.
 Drawing noDrawing() {
   return {.textSize = [](const std::string&, const Font&, const PointSize&) { return PointSize(); },
+          .lastBaseline = [](const std::string&, const Font&, const PointSize&) { return 0.0; },
           .render = [](std::span<const DisplayList>, const PointRect&, double) -> Result<Image> {
             return Failure{"drawing", "this program does not draw"};
           }};

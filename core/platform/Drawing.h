@@ -15,6 +15,9 @@ struct Drawing {
   /// Either side of `room` may be infinite; one line is always taken.
   std::function<PointSize(const std::string& text, const Font& font, const PointSize& room)>
       textSize;
+  /// How far below its top the last line of such a text has the feet of its letters, in points.
+  std::function<double(const std::string& text, const Font& font, const PointSize& room)>
+      lastBaseline;
 
   /// The area of the layers, each drawn by itself and laid over those before it. `scale` is in
   /// pixels per point; a broken pixel at the right and bottom edges counts whole. Fails when the

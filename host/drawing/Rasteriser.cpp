@@ -58,6 +58,11 @@ Drawing makeDrawing(const Symbols& symbols) {
                 lookForFont(font.name);
                 return layOutText(QString::fromStdString(text), font, room).size;
               },
+          .lastBaseline =
+              [](const std::string& text, const Font& font, const PointSize& room) {
+                lookForFont(font.name);
+                return layOutText(QString::fromStdString(text), font, room).lines.back().baseline;
+              },
           .render = [symbols](std::span<const DisplayList> layers, const PointRect& area,
                               double scale) { return render(symbols, layers, area, scale); }};
 }

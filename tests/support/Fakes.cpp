@@ -174,6 +174,8 @@ void FakeDrawing::use(Platform& platform) {
             const double width = static_cast<double>(text.size()) * font.size / 2;
             return PointSize{std::min(width, room.width), font.size};
           },
+      .lastBaseline = [](const std::string&, const Font& font,
+                         const PointSize&) { return font.size * 0.8; },
       .render = [](std::span<const DisplayList>, const PointRect&, double) -> Result<Image> {
         return Failure{"drawing", "nothing is drawn"};
       }};

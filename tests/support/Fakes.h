@@ -92,8 +92,8 @@ class FakeSurroundings final {
   std::map<std::uint64_t, Waiting> waiting_;
 };
 
-/// A face in which every byte of a text is half as wide as its size, and a line as high; lines
-/// never break. Nothing is drawn.
+/// A face in which every byte of a text is half as wide as its size, and a line as high with its
+/// baseline a fifth above the bottom; lines never break. Nothing is drawn.
 class FakeDrawing final {
  public:
   static void use(Platform& platform);

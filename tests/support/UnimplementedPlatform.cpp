@@ -75,6 +75,7 @@ Platform unimplementedPlatform() {
       .symbols = {.outline = Unimplemented{"symbols.outline"},
                   .match = Unimplemented{"symbols.match"}},
       .drawing = {.textSize = Unimplemented{"drawing.textSize"},
+                  .lastBaseline = Unimplemented{"drawing.lastBaseline"},
                   .render = Unimplemented{"drawing.render"}},
       .fonts = {.families = Unimplemented{"fonts.families"}},
   };
