@@ -29,7 +29,7 @@ struct StrokeStyle {
 struct Font {
   std::string name = {};   ///< PostScript name; the system's face when empty or not installed
   double size = 17;        ///< points
-  int weight = 400;        ///< of the system's face: 400 regular, 600 semibold, 700 bold
+  int weight = 400;        ///< 400 the face as it is, 600 its family's semibold, 700 bold
   bool evenDigits = false; ///< each in a cell as wide as the widest, so that a clock stands still
   bool operator==(const Font&) const = default;
 };

@@ -231,8 +231,10 @@ QFont faceOf(const Font& font, double pixelsPerPoint) {
   const auto named = font.name.empty() ? std::nullopt : installedFace(font.name);
   if (named) {
     face = QFont(named->family);
-    face.setStyleName(named->style);
     face.setStyle(named->slant);
+  }
+  if (named && font.weight == Font().weight) {
+    face.setStyleName(named->style);
     face.setWeight(static_cast<QFont::Weight>(named->weight));
   } else {
     face.setWeight(static_cast<QFont::Weight>(font.weight));

@@ -52,6 +52,13 @@ TEST(Fonts, slantedFace_isNotItsFamilysUprightOne) {
   }
 }
 
+TEST(Fonts, weight_isThatOfTheNamedFacesFamily) {
+  EXPECT_EQ(styleOf({.name = "Inter-Regular", .weight = 600}), "Inter/Semi Bold");
+  EXPECT_EQ(styleOf({.name = "Inter-Italic", .weight = 600}), "Inter/Semi Bold Italic");
+  EXPECT_EQ(styleOf({.name = "Inter-Black"}), "Inter/Black") << "its own where none is told";
+  EXPECT_EQ(styleOf({.name = "NoSuchFont", .weight = 600}), "Inter/Semi Bold");
+}
+
 /// A font with another name, in the user's own folder of fonts.
 void installRenamedInter() {
   const QString fonts = qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/fonts");
