@@ -189,6 +189,23 @@ TEST_F(RasteriserTest, text_hasTheSameShapeAtEveryScale) {
     EXPECT_NEAR(ink(render(list, area, scale)) / (scale * scale), once, 0.02 * once) << scale;
 }
 
+TEST_F(RasteriserTest, lastBaseline_isWhereTheLastLettersStand) {
+  const Font font{.size = 40};
+  for (const char* words : {"x", "x\nx", "x y x x"}) {
+    const PointSize room{50, 300};
+    const DisplayList list{{DrawnText{.text = words,
+                                      .font = font,
+                                      .colour = {1, 1, 1, 1},
+                                      .box = {0, 0, 50, 300},
+                                      .room = room}}};
+    const Bitmap bitmap = render(list, {0, 0, 50, 300});
+    int lowest = 299;
+    while (lowest > 0 && at(bitmap, 10, lowest)[3] < 128 && at(bitmap, 4, lowest)[3] < 128)
+      --lowest;
+    EXPECT_NEAR(drawing.lastBaseline(words, font, room), lowest + 1, 1) << words;
+  }
+}
+
 TEST_F(RasteriserTest, emoji_areInColour) {
   const DisplayList list{{DrawnText{.text = "\U0001F389",
                                     .font = {.size = 30},
