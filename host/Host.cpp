@@ -66,7 +66,7 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .application = {.suspend = [] {}, .rootViewController = [] { return std::nullopt; }},
       .links = makeLinks(home),
       // A desktop has nothing to be felt, and there is no advertising kit for it.
-      .haptics = {.success = [] {}, .error = [] {}, .lightImpact = [] {}},
+      .haptics = {.success = [] {}, .error = [] {}, .lightImpact = [] {}, .mediumImpact = [] {}},
       .bannerKit = {.start = [] {}, .load = [](const BannerRequest&, const BannerDelegate&) {}},
       .symbols = makeSymbols(),
       .drawing = noDrawing(),

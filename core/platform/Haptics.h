@@ -9,6 +9,7 @@ struct Haptics {
   std::function<void()> success;
   std::function<void()> error;
   std::function<void()> lightImpact;
+  std::function<void()> mediumImpact;
 };
 
 } // namespace vitrelle

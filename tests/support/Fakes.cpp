@@ -137,7 +137,8 @@ void FakeConsole::use(Platform& platform) {
 void FakeSurroundings::use(Platform& platform) {
   platform.haptics = {.success = [this] { felt.emplace_back("success"); },
                       .error = [this] { felt.emplace_back("error"); },
-                      .lightImpact = [this] { felt.emplace_back("light impact"); }};
+                      .lightImpact = [this] { felt.emplace_back("light impact"); },
+                      .mediumImpact = [this] { felt.emplace_back("medium impact"); }};
   platform.notificationCentre.post = [this](const Notification& note) { posted.push_back(note); };
   platform.application = {.suspend = [this] { ++suspensions; },
                           .rootViewController = [this] { return rootViewController; }};
