@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Turns the symbol table and the icons it names into a C++ source of constant data.
 
-Usage: compile.py TABLE ICONS_FOLDER OUTPUT
+Usage: compile.py TABLE CATALOGUE ICONS_FOLDER OUTPUT
 """
 
 import math
@@ -9,15 +9,12 @@ import re
 import sys
 from pathlib import Path
 
+import areas
 import outlines
-from outlines import bounds, canonical, clipped, contours_of, fitted, mapped, turned
+from areas import told_apart
+from outlines import bounds, canonical, contours_of, fitted, mapped, turned
 
 EDGE = 0.01  # how far an outline may reach out of its box
-
-
-def polygon(x, y, radius, corners=12):
-    angles = [2 * math.pi * (i + 0.5) / corners for i in range(corners)]
-    return [(x + radius * math.cos(a), y + radius * math.sin(a)) for a in angles]
 
 
 def drawn(data):
@@ -26,16 +23,14 @@ def drawn(data):
 
 def slash(outline):
     """A bar from the upper left to the lower right, with a gap on either side."""
-    gap = 0.95
-    above = clipped(outline, (gap, -gap), (1, -1))
-    below = clipped(outline, (-gap, gap), (-1, 1))
-    return above + below + drawn("M1.15 1.85a.5.5 0 0 1 .7 -.7l13 13a.5.5 0 0 1 -.7 .7z")
+    bar = drawn("M1.15 1.85a.5.5 0 0 1 .7 -.7l13 13a.5.5 0 0 1 -.7 .7z")
+    return areas.minus(outline, bar, 0.85) + bar
 
 
 def badge(outline, mark, x=12.25, y=12.25, size=7):
     """A second outline in the lower right, with a gap around it."""
     half = size / 2
-    cut = outlines.outside(outline, polygon(x, y, half + 0.9))
+    cut = areas.minus(outline, areas.disc(x, y, half + 0.9))
     return cut + fitted(mark, x - half, y - half, x + half, y + half)
 
 
@@ -99,22 +94,90 @@ OPERATIONS = {
     "at": fitted,
     "badge": badge,
     "beside": beside,
-    "clear": lambda outline, x, y, r: outlines.outside(outline, polygon(x, y, r)),
+    "bolder": areas.bolder,
+    "box": areas.box,
+    "disc": areas.disc,
     "draw": drawn,
+    "filled": areas.filled,
+    "hollow": areas.hollow,
     "join": lambda *all_outlines: [contour for o in all_outlines for contour in o],
     "knock": knock,
+    "merge": areas.merge,
+    "minus": areas.minus,
     "mirror": mirror,
+    "over": areas.over,
     "part": part,
+    "plate": areas.plate,
+    "ring": areas.ring,
     "slash": slash,
+    "stroke": lambda *arguments: shrunk(areas.stroke(*arguments)),
     "turn": turn,
     "without": without,
 }
 
 
+class Unknown(Exception):
+    """A name of which nothing is known."""
+
+
+class Picture:
+    def __init__(self, outline, kind):
+        self.outline, self.kind = outline, kind
+
+DRAWINGS = ("box", "disc", "draw", "plate", "ring", "stroke")
+
+
+def pattern_of(name):
+    """A capital letter stands for any words, and for the same where it comes again."""
+    pattern = re.escape(name)
+    for letter in sorted(set(re.findall("[A-Z]", name))):
+        pattern = pattern.replace(letter, f"(?P<{letter}>.+)", 1)
+        head, group, tail = pattern.partition(f"(?P<{letter}>.+)")
+        pattern = head + group + re.sub(rf"(?<![<=]){letter}", f"(?P={letter})", tail)
+    return re.compile(pattern)
+
+
 class Compiler:
-    def __init__(self, icons):
-        self.icons = icons
-        self.read = {}
+    """Finds the picture of a name: that of its own row, else by the first rule that fits."""
+
+    def __init__(self, table, icons):
+        self.icons, self.read = icons, {}
+        self.rows, self.rules, self.known = {}, [], {}
+        for number, name, expression in rows_of(table):
+            if name in self.rows:
+                raise ValueError(f"line {number}: {name} stands in the table already")
+            if re.search("[A-Z]", name):
+                self.rules.append((pattern_of(name), number, expression))
+            else:
+                self.rows[name] = (number, expression)
+
+    def picture(self, name):
+        """None for a name of which nothing is known."""
+        if name not in self.known:
+            self.known[name] = None  # what leads back to itself is not known
+            self.known[name] = self.made(name)
+        return self.known[name]
+
+    def made(self, name):
+        if name in self.rows:
+            number, expression = self.rows[name]
+            try:
+                return self.evaluate(expression)
+            except (Unknown, ValueError) as error:
+                raise ValueError(f"line {number}: {name}: {error}") from error
+        for pattern, number, expression in self.rules:
+            match = pattern.fullmatch(name)
+            if not match:
+                continue
+            words = match.groupdict()
+            try:
+                return self.evaluate(re.sub(r"\b[A-Z]\b(?=[^<]*>|\"\))",
+                                            lambda m: words[m[0]], expression))
+            except Unknown:
+                continue
+            except ValueError as error:
+                raise ValueError(f"line {number}: {name}: {error}") from error
+        return None
 
     def icon(self, name):
         if name not in self.read:
@@ -124,34 +187,96 @@ class Compiler:
             self.read[name] = shrunk(outlines.read_icon(path))
         return self.read[name]
 
+    def spell(self, text):
+        """Letters and digits in a row, of one height."""
+        glyphs = [self.picture(letter) for letter in text]
+        if not text or len(text) > 3 or None in glyphs:
+            raise Unknown(text)
+        return beside(*[glyph.outline for glyph in glyphs])
+
     def evaluate(self, text):
-        words = re.findall(r'"[^"]*"|[-\w.]+|[(),]', text)
+        """An icon or the picture of another name as it is; else a composition, or a drawing where
+        nothing but drawings went into it."""
+        words = re.findall(r'"[^"]*"|<[^>]*>|[-\w.]+|[(),]', text)
         if "".join(words) != re.sub(r'\s+(?=(?:[^"]*"[^"]*")*[^"]*$)', "", text):
             raise ValueError(f"cannot read {text!r}")
-        value = self.term(words)
+        if len(words) == 1 and words[0][0] == "<":
+            return self.named(words[0])
+        kinds = set()
+        bare = len(words) == 1
+        outline = self.term(words, kinds)
         if words:
             raise ValueError(f"unexpected {words[0]!r}")
-        return value
+        if not outline:
+            raise ValueError("nothing is left of it")
+        l, t, r, b = bounds(outline)
+        if min(l, t) < -EDGE or max(r, b) > 16 + EDGE:
+            raise ValueError("reaches out of the box")
+        kind = "alias" if bare else "drawing" if kinds == {"drawing"} else "composition"
+        return Picture(outline, kind)
 
-    def term(self, words):
+    def named(self, word):
+        picture = self.picture(word[1:-1])
+        if not picture:
+            raise Unknown(word)
+        return picture
+
+    def term(self, words, kinds):
         if not words:
             raise ValueError("unexpected end")
         word = words.pop(0)
         if word[0] == '"':
             return word[1:-1]
+        if word[0] == "<":
+            picture = self.named(word)
+            kinds.add(picture.kind)
+            return picture.outline
         if re.fullmatch(r"-?(\d+\.?\d*|\.\d+)", word):
             return float(word)
         if not words or words[0] != "(":
+            kinds.add("icon")
             return self.icon(word)
-        if word not in OPERATIONS:
+        operation = self.spell if word == "spell" else OPERATIONS.get(word)
+        if not operation:
             raise ValueError(f"there is no operation {word}")
+        if word in DRAWINGS:
+            kinds.add("drawing")
         arguments = []
         while words and words.pop(0) in "(,":
-            arguments.append(self.term(words))
+            arguments.append(self.term(words, kinds))
         try:
-            return OPERATIONS[word](*arguments)
+            return operation(*arguments)
         except TypeError as error:
             raise ValueError(f"{word}: {error}") from error
+
+
+ENCLOSURES = (".circle.fill", ".square.fill", ".circle", ".square")
+
+
+def pictures_of(compiler, catalogue):
+    """By name: the table's, and what the catalogue takes besides. Shapes around letters, or around
+    a picture that is there, are left to the program."""
+    wanted = dict.fromkeys(compiler.rows)
+    for line in catalogue.read_text().splitlines():
+        name = line.split("\t")[1]
+        ending = next((e for e in ENCLOSURES if name.endswith(e)), None)
+        inner = name[:-len(ending)] if ending else None
+        if name in compiler.rows or not ending:
+            wanted[name] = None
+        elif compiler.picture(inner):
+            wanted[inner] = None
+        elif not re.fullmatch("[a-z0-9]{1,2}", inner):
+            wanted[name] = None
+    pictures = {name: compiler.picture(name) for name in wanted}
+    pictures = {name: picture for name, picture in pictures.items() if picture}
+    for name, picture in list(pictures.items()):
+        full = pictures.get(name + ".fill")
+        if full and encoded(full.outline) == encoded(picture.outline):
+            one, other = told_apart(picture.outline)
+            kind = "drawing" if picture.kind == "drawing" else "composition"
+            pictures[name] = picture if one is picture.outline else Picture(one, kind)
+            pictures[name + ".fill"] = full if other is picture.outline else Picture(other, kind)
+    return pictures
 
 
 def rows_of(table):
@@ -172,7 +297,7 @@ def rows_of(table):
 
 
 def encoded(outline):
-    """The command string and the coordinates of an outline."""
+    """The command string and the points of an outline, in 1024ths of a unit."""
     commands, points = "", []
     for contour in outline:
         commands += "M"
@@ -181,7 +306,7 @@ def encoded(outline):
             commands += "L" if len(segment) == 1 else "C"
             points += segment
         commands += "Z"
-    return commands, points
+    return commands, [tuple(round(value * 1024) for value in point) for point in points]
 
 
 def lines_of(items, separator, width=96):
@@ -195,50 +320,39 @@ def lines_of(items, separator, width=96):
         yield line
 
 
-def compile_table(table, icons, output):
-    compiler, known, entries = Compiler(icons), {}, {}
-    commands, points, troubles = "", [], []
-    for number, name, expression in rows_of(table):
-        try:
-            if name in entries:
-                raise ValueError("stands in the table already")
-            if expression not in known:
-                outline = compiler.evaluate(expression)
-                l, t, r, b = bounds(outline)
-                if min(l, t) < -EDGE or max(r, b) > 16 + EDGE:
-                    raise ValueError("reaches out of the box")
-                own_commands, own_points = encoded(outline)
-                known[expression] = (len(commands), len(own_commands), len(points))
-                commands += own_commands
-                points += own_points
-            kind = "composition" if "(" in expression else "alias"
-            entries[name] = (kind, *known[expression])
-        except ValueError as error:
-            troubles.append(f"line {number}: {name}: {error}")
-    if troubles:
-        raise ValueError("\n  ".join(troubles))
+def quoted(text):
+    return [f'    "{text[i:i + 90]}"' for i in range(0, len(text), 90)] + ["    ;"]
 
-    rows = [f'    {{"{name}", SymbolMatch::{kind}, {", ".join(map(str, place))}}},'
-            for name, (kind, *place) in sorted(entries.items())]
-    tidy = lambda value: f"{value + 0.0:.3f}".rstrip("0").rstrip(".")
-    numbers = [number for p in points for number in (tidy(p[0]), tidy(p[1]))]
-    floats = [number + ("F" if "." in number else ".F") for number in numbers]
+
+def compile_table(table, catalogue, icons, output):
+    names, commands, points, places, rows = "", "", [], {}, []
+    for name, picture in sorted(pictures_of(Compiler(table, icons), catalogue).items()):
+        own_commands, own_points = encoded(picture.outline)
+        key = (own_commands, *own_points)
+        if key not in places:
+            places[key] = f"{len(commands)}, {len(own_commands)}, {len(points)}"
+            commands += own_commands
+            points += own_points
+        rows.append(f"    {{{len(names)}, {len(name)}, SymbolMatch::{picture.kind}, {places[key]}}},"
+                    f" // {name}")
+        names += name
+    numbers = [str(number) for point in points for number in point]
     output.write_text("\n".join([
         "// Made from the symbol table by the build.",
         '#include "host/symbols/SymbolTable.h"', "",
         "namespace vitrelle::host {", "", "namespace {", "",
         "constexpr SymbolEntry entries[] = {", *rows, "};", "",
-        "constexpr char commands[] =",
-        *[f'    "{commands[i:i + 90]}"' for i in range(0, len(commands), 90)], "    ;", "",
-        "constexpr float coordinates[] = {", *[f"    {line}" for line in lines_of(floats, ",")],
+        "constexpr char names[] =", *quoted(names), "",
+        "constexpr char commands[] =", *quoted(commands), "",
+        "constexpr std::int16_t coordinates[] = {",
+        *[f"    {line}" for line in lines_of(numbers, ",")],
         "};", "", "} // namespace", "",
-        "const SymbolTable symbolTable = {entries, commands, coordinates};", "",
+        "const SymbolTable symbolTable = {entries, names, commands, coordinates};", "",
         "} // namespace vitrelle::host", ""]))
-    return len(entries)
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 4:
+    if len(sys.argv) != 5:
         sys.exit(__doc__.strip())
     try:
         compile_table(*map(Path, sys.argv[1:]))

@@ -1,4 +1,4 @@
-"""Outlines as lists of closed contours, and what can be done to them without boolean geometry.
+"""Outlines as lists of closed contours, and what can be done to them while curves stay curves.
 
 A contour is a list of cubic or straight segments: ((x, y),) or ((x, y), (x, y), (x, y)), the last
 point being the end; a contour starts where its last segment ends. An outline is canonical: no
@@ -243,58 +243,3 @@ def fitted(outline, left, top, right, bottom):
     scale = min((right - left) / max(r - l, 1e-6), (bottom - top) / max(b - t, 1e-6))
     x, y = (left + right) / 2 - scale * (l + r) / 2, (top + bottom) / 2 - scale * (t + b) / 2
     return mapped(outline, lambda p: (p[0] * scale + x, p[1] * scale + y))
-
-
-def clipped(outline, point, normal):
-    """What lies on the side of the line through the point that the normal points to."""
-    side = lambda p: (p[0] - point[0]) * normal[0] + (p[1] - point[1]) * normal[1]
-    along = lambda p: p[1] * normal[0] - p[0] * normal[1]
-    kept, chains = [], []
-    for contour in outline:
-        corners = flatten(contour)
-        signs = [side(p) > 0 for p in corners]
-        if all(signs):
-            kept.append(contour)
-        if all(signs) or not any(signs):
-            continue
-        first = next(i for i in range(len(corners)) if signs[i] and not signs[i - 1])
-        corners, signs = corners[first:] + corners[:first], signs[first:] + signs[:first]
-        for i, corner in enumerate(corners):
-            before = corners[i - 1]
-            if signs[i] != signs[i - 1]:
-                t = side(before) / (side(before) - side(corner))
-                cut = tuple(a + t * (b - a) for a, b in zip(before, corner))
-                chains.append([cut]) if signs[i] else chains[-1].append(cut)
-            if signs[i]:
-                chains[-1].append(corner)
-        if signs[-1]:
-            before, corner = corners[-1], corners[0]
-            t = side(before) / (side(before) - side(corner))
-            chains[-1].append(tuple(a + t * (b - a) for a, b in zip(before, corner)))
-    # Along the line outside and inside alternate, so the ends of chains join up in pairs.
-    ends = sorted([(along(chain[0]), i, 0) for i, chain in enumerate(chains)] +
-                  [(along(chain[-1]), i, 1) for i, chain in enumerate(chains)])
-    following = {}
-    for a, b in zip(ends[::2], ends[1::2]):
-        if a[2] == b[2]:
-            raise ValueError("contours that cross each other cannot be cut")
-        leaving, entering = (a, b) if a[2] == 1 else (b, a)
-        following[leaving[1]] = entering[1]
-    while following:
-        index = next(iter(following))
-        corners = []
-        while index in following:
-            corners += chains[index]
-            index = following.pop(index)
-        kept.append([(p,) for p in corners])
-    return kept
-
-
-def outside(outline, corners):
-    """What lies outside of a convex polygon of positive area."""
-    rest, result = outline, []
-    for (ax, ay), (bx, by) in zip(corners, corners[1:] + corners[:1]):
-        inward = (ay - by, bx - ax)
-        result += clipped(rest, (ax, ay), (-inward[0], -inward[1]))
-        rest = clipped(rest, (ax, ay), inward)
-    return result

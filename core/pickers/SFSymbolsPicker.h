@@ -20,8 +20,13 @@ class SFSymbolsPicker final {
   /// close button does.
   SFSymbolsPicker(const Platform& platform, bool& isPresented, std::string& icon, Category category,
                   Axis axis, bool haptic, std::function<void()> dismiss)
-      : platform_(platform), isPresented_(isPresented), icon_(icon), category_(category),
-        axis_(axis), haptic_(haptic), dismiss_(std::move(dismiss)) {}
+      : platform_(platform),
+        isPresented_(isPresented),
+        icon_(icon),
+        category_(category),
+        axis_(axis),
+        haptic_(haptic),
+        dismiss_(std::move(dismiss)) {}
 
   bool isPresented() const { return isPresented_; }
   /// Shown in the header, also when it is in no list.

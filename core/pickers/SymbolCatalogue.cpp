@@ -11,9 +11,9 @@ namespace vitrelle {
 namespace {
 
 constexpr std::array<std::string_view, categoryCount> labels = {
-    "Communication", "Weather", "Objects",    "Devices",  "Games",    "Connectivity", "Transport",
-    "People",        "Nature",  "Edit",       "Text",     "Multimedia", "KeyBoard",   "Commerce",
-    "Time",          "Health",  "Forms",      "Arrows",   "Indices",  "Math",         "",
+    "Communication", "Weather", "Objects", "Devices", "Games",      "Connectivity", "Transport",
+    "People",        "Nature",  "Edit",    "Text",    "Multimedia", "KeyBoard",     "Commerce",
+    "Time",          "Health",  "Forms",   "Arrows",  "Indices",    "Math",         "",
 };
 
 char lower(char c) {
@@ -22,9 +22,8 @@ char lower(char c) {
 
 /// The file writes a category as its case is written, which is its label in lower case.
 std::string_view labelOf(std::string_view category) {
-  const auto* found = std::ranges::find_if(labels, [&](std::string_view text) {
-    return std::ranges::equal(text, category, {}, lower);
-  });
+  const auto* found = std::ranges::find_if(
+      labels, [&](std::string_view text) { return std::ranges::equal(text, category, {}, lower); });
   if (found == labels.end()) fatalError("no category " + std::string(category));
   return *found;
 }

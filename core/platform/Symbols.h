@@ -4,6 +4,7 @@
 
 #include "core/platform/Path.h"
 
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -18,9 +19,10 @@ struct SymbolOutline {
 };
 
 /// From the nearest to the farthest.
-enum class SymbolMatch {
+enum class SymbolMatch : std::uint8_t {
   alias,       ///< one picture stands for the name
   composition, ///< put together, such as a glyph knocked out of a disc
+  drawing,     ///< drawn for the name, of nothing else
   stripped,    ///< the picture of the name without its badge, slash, fill or enclosing shape
   fallback,    ///< nothing known: a square with the first letter
 };

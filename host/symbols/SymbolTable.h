@@ -10,18 +10,22 @@
 namespace vitrelle::host {
 
 struct SymbolEntry {
-  std::string_view name;
+  // Where the name stands in the table's names: an address would have to be filled in at the start.
+  std::uint32_t firstLetter;
+  std::uint8_t letterCount;
   SymbolMatch match;
   // Where its outline stands in the table's commands and points.
   std::uint32_t firstCommand;
-  std::uint32_t commandCount;
+  std::uint16_t commandCount;
   std::uint32_t firstPoint;
 };
 
 struct SymbolTable {
   std::span<const SymbolEntry> entries; ///< sorted by name
-  std::string_view commands;            ///< M, L, C, Z as in SVG
-  std::span<const float> coordinates;   ///< x and y of each point, in a box of 16 by 16
+  std::string_view names;
+  std::string_view commands; ///< M, L, C, Z as in SVG
+  /// x and y of each point, in a box of 16 by 16 units of 1024.
+  std::span<const std::int16_t> coordinates;
 };
 
 extern const SymbolTable symbolTable;

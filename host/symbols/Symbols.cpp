@@ -41,15 +41,21 @@ Path pathOf(const SymbolEntry& entry) {
     points += pointCount(path.commands.back());
   }
   const auto coordinates = symbolTable.coordinates.subspan(entry.firstPoint * std::size_t{2});
+  constexpr double unit = 1024;
+  path.points.reserve(points);
   for (std::size_t i = 0; i < points; ++i) {
-    path.points.push_back({coordinates[2 * i], coordinates[2 * i + 1]});
+    path.points.push_back({coordinates[2 * i] / unit, coordinates[2 * i + 1] / unit});
   }
   return path;
 }
 
+std::string_view nameOf(const SymbolEntry& entry) {
+  return symbolTable.names.substr(entry.firstLetter, entry.letterCount);
+}
+
 const SymbolEntry* entryOf(std::string_view name) {
-  const auto entry = std::ranges::lower_bound(symbolTable.entries, name, {}, &SymbolEntry::name);
-  return entry != symbolTable.entries.end() && entry->name == name ? &*entry : nullptr;
+  const auto entry = std::ranges::lower_bound(symbolTable.entries, name, {}, nameOf);
+  return entry != symbolTable.entries.end() && nameOf(*entry) == name ? &*entry : nullptr;
 }
 
 /// Takes the ending off the name, if it has it and more.

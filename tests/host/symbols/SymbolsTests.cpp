@@ -1,11 +1,15 @@
 #include "host/symbols/Symbols.h"
 
+#include "core/pickers/SymbolCatalogue.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <set>
 #include <string>
+#include <string_view>
 
 namespace vitrelle::host {
 
@@ -208,9 +212,51 @@ TEST(Symbols, usedNames_areNeitherStrippedNorUnknown) {
   const Symbols symbols = makeSymbols();
   for (const std::string name : usedNames) {
     const SymbolMatch match = symbols.match(name);
-    EXPECT_TRUE(match == SymbolMatch::alias || match == SymbolMatch::composition) << name;
+    EXPECT_LT(match, SymbolMatch::stripped) << name;
     expectDrawable(symbols.outline(name), name);
   }
+}
+
+std::set<std::string> catalogueNames() {
+  std::set<std::string> names;
+  for (const auto& [label, list] : symbolCatalogue())
+    names.insert(list.begin(), list.end());
+  return names;
+}
+
+TEST(Symbols, catalogue_hasPicturesOfItsOwn) {
+  const Symbols symbols = makeSymbols();
+  const std::set<std::string> names = catalogueNames();
+  std::string without;
+  std::size_t count = 0;
+  for (const std::string& name : names) {
+    if (symbols.match(name) >= SymbolMatch::stripped) {
+      without += ' ' + name;
+      ++count;
+    }
+    const SymbolOutline symbol = symbols.outline(name);
+    expectDrawable(symbol, name);
+    const auto [left, right] = std::ranges::minmax(symbol.path.points, {}, &PathPoint::x);
+    const auto [top, bottom] = std::ranges::minmax(symbol.path.points, {}, &PathPoint::y);
+    EXPECT_GT(std::max(right.x - left.x, bottom.y - top.y), 8) << name << " is all but blank";
+  }
+  EXPECT_LE(count, names.size() / 20) << without;
+}
+
+TEST(Symbols, fill_differsFromItsOutline) {
+  constexpr std::string_view fill = ".fill";
+  const Symbols symbols = makeSymbols();
+  const std::set<std::string> names = catalogueNames();
+  int compared = 0;
+  for (const std::string& name : names) {
+    const std::size_t at = name.find(fill);
+    if (at == std::string::npos || name.find(".filled") == at) continue;
+    const std::string plain = std::string(name).erase(at, fill.size());
+    if (!names.contains(plain)) continue;
+    ++compared;
+    EXPECT_NE(symbols.outline(name).path, symbols.outline(plain).path) << name;
+  }
+  EXPECT_GT(compared, 1000);
 }
 
 TEST(Symbols, name_isFoundByItsNearestPicture) {
