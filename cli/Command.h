@@ -54,5 +54,6 @@ void addPhonesCommand(CLI::App& program, CommandContext& context);
 void addRecordsCommand(CLI::App& program, CommandContext& context);
 void addShortcutCommand(CLI::App& program, CommandContext& context);
 void addStyleCommand(CLI::App& program, CommandContext& context);
+void addSymbolsCommand(CLI::App& program, CommandContext& context);
 
 } // namespace vitrelle::cli

@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
   host::PollLoop loop;
   const host::DrawingProcess drawing;
   return cli::runProgram(argc, argv,
-                         {.commands = {cli::addFaceCommand},
+                         {.commands = {cli::addFaceCommand, cli::addSymbolsCommand},
                           .makePlatform = [&](const cli::Options& options) -> Result<Platform> {
                             Result<Platform> made = cli::hostPlatform(options, loop.operations());
                             if (!made) return made;

@@ -35,7 +35,7 @@ int main(int argc, char** argv) {
       {.commands = {cli::addCutCommand, cli::addPaletteCommand, cli::addPhonesCommand,
                     cli::addPhoneCommand, cli::addDefaultsCommand, cli::addRecordsCommand,
                     cli::addStyleCommand, cli::addShortcutCommand, cli::addFaceCommand,
-                    cli::addOpenCommand},
+                    cli::addSymbolsCommand, cli::addOpenCommand},
        .makePlatform =
            [&](const cli::Options& options) {
              return cli::hostPlatform(options, loop.operations());
