@@ -15,9 +15,13 @@ namespace vitrelle::host {
 
 namespace {
 
-struct Found {
-  SymbolOutline outline;
-  SymbolMatch match;
+/// Where a picture is found.
+struct Place {
+  const SymbolEntry* entry = nullptr; ///< of the picture, or of what stands within the shape
+  std::string_view letters = {};      ///< spelled within the shape instead
+  std::optional<Enclosure> shape = std::nullopt;
+
+  SymbolMatch match() const { return shape ? SymbolMatch::composition : entry->match; }
 };
 
 PathCommand commandOf(char letter) {
@@ -66,48 +70,43 @@ bool dropEnding(std::string_view& name, std::string_view ending) {
 }
 
 /// Up to two letters or digits, such as those of `50.square`.
-std::optional<Path> spelling(std::string_view text) {
-  if (text.empty() || text.size() > 2) return std::nullopt;
+bool canBeSpelled(std::string_view text) {
+  return !text.empty() && text.size() <= 2 && std::ranges::all_of(text, [](const char& letter) {
+    return entryOf({&letter, 1}) != nullptr;
+  });
+}
+
+Path spelling(std::string_view letters) {
   std::vector<Path> glyphs;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const SymbolEntry* glyph = entryOf(text.substr(i, 1));
-    if (!glyph) return std::nullopt;
-    glyphs.push_back(pathOf(*glyph));
-  }
+  for (const char& letter : letters)
+    glyphs.push_back(pathOf(*entryOf({&letter, 1})));
   return spelled(glyphs);
 }
 
 /// What stands within a shape: rather a filled picture, which is still told when it is small.
-std::optional<Path> glyph(std::string_view name) {
-  if (const SymbolEntry* filled = entryOf(std::string(name) + ".fill")) return pathOf(*filled);
-  if (const SymbolEntry* plain = entryOf(name)) return pathOf(*plain);
-  return spelling(name);
+const SymbolEntry* glyphOf(std::string_view name) {
+  const SymbolEntry* filled = entryOf(std::string(name) + ".fill");
+  return filled ? filled : entryOf(name);
 }
 
-std::optional<SymbolOutline> inShape(std::string_view name) {
+std::optional<Place> known(std::string_view name) {
+  if (const SymbolEntry* entry = entryOf(name)) return Place{.entry = entry};
   constexpr std::array<std::pair<std::string_view, Enclosure>, 4> shapes = {
       {{".circle", Enclosure::circle},
        {".circle.fill", Enclosure::filledCircle},
        {".square", Enclosure::square},
        {".square.fill", Enclosure::filledSquare}}};
-  for (const auto& [ending, enclosure] : shapes) {
+  for (const auto& [ending, shape] : shapes) {
     std::string_view rest = name;
     if (!dropEnding(rest, ending)) continue;
-    if (const auto path = glyph(rest)) return enclosed(*path, enclosure);
+    if (const SymbolEntry* glyph = glyphOf(rest)) return Place{.entry = glyph, .shape = shape};
+    if (canBeSpelled(rest)) return Place{.letters = rest, .shape = shape};
   }
-  return std::nullopt;
-}
-
-std::optional<Found> known(std::string_view name) {
-  if (const SymbolEntry* entry = entryOf(name)) {
-    return Found{{.path = pathOf(*entry)}, entry->match};
-  }
-  if (auto shape = inShape(name)) return Found{std::move(*shape), SymbolMatch::composition};
   return std::nullopt;
 }
 
 /// Names go from the thing to its variants, so the picture of their beginning is near enough.
-std::optional<Found> stripped(std::string_view name) {
+std::optional<Place> stripped(std::string_view name) {
   while (true) {
     const std::size_t badge = name.find(".badge");
     const std::size_t end = badge != std::string_view::npos ? badge : name.rfind('.');
@@ -115,8 +114,13 @@ std::optional<Found> stripped(std::string_view name) {
     name = name.substr(0, end);
     // A letter alone would stand for anything.
     if (name.size() < 2) return std::nullopt;
-    if (auto found = known(name)) return Found{std::move(found->outline), SymbolMatch::stripped};
+    if (const auto found = known(name)) return found;
   }
+}
+
+SymbolOutline outlineOf(const Place& place) {
+  if (!place.shape) return {.path = pathOf(*place.entry)};
+  return enclosed(place.entry ? pathOf(*place.entry) : spelling(place.letters), *place.shape);
 }
 
 SymbolOutline fallback(std::string_view name) {
@@ -125,20 +129,24 @@ SymbolOutline fallback(std::string_view name) {
   const char lower = letter == name.end()
                          ? 'x'
                          : static_cast<char>(std::tolower(static_cast<unsigned char>(*letter)));
-  return enclosed(spelling({&lower, 1}).value_or(Path{}), Enclosure::square);
+  return enclosed(spelling({&lower, 1}), Enclosure::square);
 }
 
-Found find(std::string_view name) {
-  if (auto found = known(name)) return std::move(*found);
-  if (auto found = stripped(name)) return std::move(*found);
-  return {fallback(name), SymbolMatch::fallback};
+SymbolOutline outline(const std::string& name) {
+  if (const auto found = known(name)) return outlineOf(*found);
+  if (const auto found = stripped(name)) return outlineOf(*found);
+  return fallback(name);
+}
+
+SymbolMatch match(const std::string& name) {
+  if (const auto found = known(name)) return found->match();
+  return stripped(name) ? SymbolMatch::stripped : SymbolMatch::fallback;
 }
 
 } // namespace
 
 Symbols makeSymbols() {
-  return {.outline = [](const std::string& name) { return find(name).outline; },
-          .match = [](const std::string& name) { return find(name).match; }};
+  return {.outline = outline, .match = match};
 }
 
 } // namespace vitrelle::host
