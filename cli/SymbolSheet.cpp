@@ -46,8 +46,8 @@ View cell(const Platform& platform, std::string_view name) {
   const bool own = platform.symbols.match(std::string(name)) < SymbolMatch::stripped;
   const View picture = symbol(std::string(name), symbolSize, own ? ink : warning);
   const View words = text(withBreaks(name), {.size = letterSize}, quietInk, TextAlignment::centre);
-  return framed(padded(vstack({picture, words}, Place::centre, 3), {.top = 5}), cellWidth, cellHeight,
-                {Place::centre, Place::start});
+  return framed(padded(vstack({picture, words}, Place::centre, 3), {.top = 5}), cellWidth,
+                cellHeight, {Place::centre, Place::start});
 }
 
 } // namespace
