@@ -183,5 +183,9 @@
         <source></source>
         <translation>Gespeichert</translation>
     </message>
+    <message id="app.intake.tooMany">
+        <source></source>
+        <translation>Höchstens zwei Bilder werden genommen: ein helles und ein dunkles.</translation>
+    </message>
 </context>
 </TS>

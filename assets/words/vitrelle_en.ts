@@ -183,5 +183,9 @@
         <source></source>
         <translation>Saved</translation>
     </message>
+    <message id="app.intake.tooMany">
+        <source></source>
+        <translation>Two pictures are taken at most: a light one and a dark one.</translation>
+    </message>
 </context>
 </TS>

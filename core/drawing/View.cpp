@@ -43,6 +43,21 @@ bool anyFlexible(const std::vector<View>& parts, Axis axis) {
                              [axis](const View& part) { return part.node().isFlexible(axis); });
 }
 
+/// Breaks wherever a line may end: at spaces, after hyphens and after each East Asian letter.
+std::string eachOnALine(const std::string& text) {
+  constexpr unsigned char firstEastAsian = 0xE3; // the first byte of U+3000 and what follows,
+  constexpr unsigned char lastEastAsian = 0xED;  // to U+DFFF, in UTF-8
+  std::string lines;
+  int left = 0; // bytes of such a letter that are to come
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte >= firstEastAsian && byte <= lastEastAsian) left = 3;
+    lines += c == ' ' ? '\n' : c;
+    if (c == '-' || (left > 0 && --left == 0)) lines += '\n';
+  }
+  return lines;
+}
+
 class TextNode final : public Node {
  public:
   explicit TextNode(DrawnText text) : text_(std::move(text)) {}
@@ -60,8 +75,7 @@ class TextNode final : public Node {
     constexpr double endless = std::numeric_limits<double>::infinity();
     if (drawing.textSize(text_.text, text_.font, {room.width, endless}).height > room.height)
       return false;
-    std::string words = text_.text;
-    std::ranges::replace(words, ' ', '\n');
+    const std::string words = eachOnALine(text_.text);
     return drawing.textSize(words, text_.font, {endless, endless}).width <= room.width;
   }
 

@@ -236,11 +236,24 @@ TEST_F(IntakePageTest, newStyle_isThePageThatOneComesBackTo) {
   ASSERT_TRUE(driver->isShown("intakePage"));
   EXPECT_EQ(driver->find("styleName")->property("text"), "Vitrelle Style 3");
   EXPECT_TRUE(folder.images.contains("2original.png"));
-  paste("darkCell");
+  EXPECT_TRUE(driver->find("darkCell")->hasActiveFocus()) << "what will be used next";
+  driver->key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_TRUE(folder.images.contains("2originalDark.png"));
   driver->key(Qt::Key_Escape);
   EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("intakePage"); }));
   EXPECT_EQ(shell->root()->page(), 2);
   EXPECT_TRUE(driver->find("shownPage")->hasActiveFocus());
+}
+
+TEST_F(IntakePageTest, pasteThatCannotBeStored_isTold) {
+  setNumber("amountOfConfigs", 0);
+  open();
+  const auto others = platform.files.lock(0);
+  ASSERT_TRUE(others);
+  driver->key(Qt::Key_V, Qt::ControlModifier);
+  ASSERT_TRUE(driver->isShown("intakePage"));
+  EXPECT_NE(shell->notice(), "");
+  EXPECT_TRUE(folder.written.empty());
 }
 
 TEST_F(IntakePageTest, keys_beginAtTheHalfThatIsMissing) {
@@ -281,6 +294,8 @@ TEST_F(IntakePageTest, files_goToTheHalvesThatTheirNamesTell) {
   EXPECT_EQ(written({dark}), Names{"0originalDark.png"});
   EXPECT_EQ(written({dark, light}), (Names{"0originalDark.png", "0original.png"}));
   EXPECT_EQ(written({light, light}), (Names{"0original.png", "0originalDark.png"}));
+  EXPECT_EQ(written({light, dark, light}), Names{});
+  EXPECT_NE(shell->notice(), "") << "none is chosen by chance";
   EXPECT_EQ(written({QUrl(QStringLiteral("file:///bad")), light}), Names{});
   EXPECT_NE(shell->notice(), "") << "the refusal stays to be read";
   EXPECT_EQ(written({light}), Names{"0original.png"});

@@ -142,8 +142,44 @@ TEST_F(RootPageTest, enter_doesWhatThePageIsFor) {
   driver->key(Qt::Key_Return);
   EXPECT_EQ(number("selectedConfig"), 1);
   driver->key(Qt::Key_End);
+  driver->repeat(Qt::Key_Return);
+  EXPECT_FALSE(driver->isShown("intakePage")) << "a key that is held presses nothing more";
+  driver->find("edit1")->forceActiveFocus();
+  driver->repeat(Qt::Key_Return);
+  EXPECT_FALSE(driver->isShown("intakePage"));
+  driver->find("shownPage")->forceActiveFocus();
   driver->key(Qt::Key_Space);
   EXPECT_TRUE(driver->isShown("intakePage"));
+}
+
+TEST_F(RootPageTest, alert_hasTheKeysAndGivesThemBack) {
+  open();
+  driver->find("widgetCentreButton")->forceActiveFocus();
+  driver->key(Qt::Key_Return);
+  ASSERT_TRUE(driver->isShown("alert"));
+  driver->key(Qt::Key_Tab);
+  driver->key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_FALSE(driver->isShown("intakePage")) << "nothing begins beneath it";
+  EXPECT_TRUE(driver->find("alertButton")->hasActiveFocus());
+  driver->key(Qt::Key_Return);
+  EXPECT_FALSE(driver->isShown("alert"));
+  EXPECT_TRUE(driver->find("widgetCentreButton")->hasActiveFocus());
+}
+
+TEST_F(RootPageTest, notice_takesOneStepBackAndGivesTheKeysBack) {
+  addStyles(1);
+  open();
+  driver->click("edit0");
+  ASSERT_TRUE(driver->isShown("intakePage"));
+  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+    shell->showNotice(QStringLiteral("read this"), ui::Shell::Trouble);
+    driver->find("darkCell")->forceActiveFocus();
+    driver->find("notice")->forceActiveFocus();
+    driver->key(key);
+    EXPECT_EQ(shell->notice(), "");
+    EXPECT_TRUE(driver->isShown("intakePage"));
+    EXPECT_TRUE(driver->find("darkCell")->hasActiveFocus());
+  }
 }
 
 TEST_F(RootPageTest, pressOnACardAside_bringsItToTheMiddle) {

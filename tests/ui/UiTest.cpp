@@ -83,6 +83,11 @@ void Driver::key(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
   QTest::keyClick(shell_.window(), key, modifiers);
 }
 
+void Driver::repeat(Qt::Key key) const {
+  QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+  QCoreApplication::sendEvent(shell_.window(), &event);
+}
+
 bool Driver::eventually(const std::function<bool()>& isSo) {
   return QTest::qWaitFor(isSo, 15000); // sanitizers are slow
 }

@@ -25,6 +25,8 @@ class Driver final {
   void click(const QString& objectName, Qt::MouseButton button = Qt::LeftButton) const;
   void drag(QPoint from, int distance) const;
   void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+  /// As a key that is held sends it again.
+  void repeat(Qt::Key key) const;
   /// Runs the event loop until it is so, for a while at most.
   static bool eventually(const std::function<bool()>& isSo);
 

@@ -75,6 +75,11 @@ FocusScope {
                     pager.created();
             }
 
+            function pressByKey(event: KeyEvent) {
+                if (!event.isAutoRepeat)
+                    press();
+            }
+
             x: pager.root.page * pager.step
             width: pager.root.pageWidth
             height: Shell.screenHeight / 1.5
@@ -84,9 +89,9 @@ FocusScope {
             Accessible.name: (title === "" ? "" : title + ", ") + qsTrId("app.page").arg(pager.root.page + 1).arg(pager.root.pageCount)
             Accessible.focusable: true
             Accessible.onPressAction: press()
-            Keys.onReturnPressed: press()
-            Keys.onEnterPressed: press()
-            Keys.onSpacePressed: press()
+            Keys.onReturnPressed: event => pressByKey(event)
+            Keys.onEnterPressed: event => pressByKey(event)
+            Keys.onSpacePressed: event => pressByKey(event)
 
             FocusRing {
                 shown: shownPage.activeFocus

@@ -15,7 +15,7 @@ FocusScope {
     signal dropped(var files)
     signal pasted
 
-    readonly property bool canCreate: root.showsCreateCard && root.canBeChanged
+    readonly property bool canCreate: root.showsCreateCard && root.canBeChanged && !root.showingAlert
 
     Keys.forwardTo: [pager]
     Keys.onPressed: event => {
@@ -97,7 +97,10 @@ FocusScope {
             if (!event.hasUrls)
                 return;
             event.acceptProposedAction();
-            page.dropped(event.urls);
+            if (event.urls.length > 2)
+                Shell.showNotice(qsTrId("app.intake.tooMany"));
+            else
+                page.dropped(event.urls);
         }
 
         Rectangle {

@@ -50,17 +50,31 @@ FocusScope {
             open(Shell.screen);
     }
 
+    KeysKeeper {
+        id: keys
+        overlay: alert
+        covered: Shell.root.showingAlert
+    }
     StackView {
         id: stack
         objectName: "stack"
+        enabled: keys.open
         anchors.fill: parent
         focus: true
         onCurrentItemChanged: if (currentItem) currentItem.forceActiveFocus()
         initialItem: RootPage {
             onOpened: screen => screens.open(screen)
             onCreated: screens.makeStyle()
-            onDropped: files => screens.makeStyle().intake.takeFiles(files)
-            onPasted: screens.makeStyle().intake.paste(false)
+            onDropped: files => {
+                const page = screens.makeStyle();
+                page.intake.takeFiles(files);
+                page.focusNext();
+            }
+            onPasted: {
+                const page = screens.makeStyle();
+                page.intake.pasteAll();
+                page.focusNext();
+            }
             onEdited: styleNumber => stack.push(intakePage, { "intake": Shell.changeStyle(styleNumber) })
         }
         pushEnter: Transition { NumberAnimation { property: "x"; from: stack.width; to: 0; duration: Theme.longTime; easing.type: Easing.OutCubic } }
@@ -105,6 +119,7 @@ FocusScope {
         }
     }
     AlertBox {
+        id: alert
         objectName: "alert"
         title: Shell.root.alertTitle
         message: Shell.root.alertMessage

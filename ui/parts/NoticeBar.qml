@@ -1,6 +1,7 @@
 // One line that the user should read, below whatever is open: out of the way of titles and of the way
 // back. It leaves when there was time to read it, unless what it tells of lasts.
 import QtQuick
+import QtQuick.Window
 import Vitrelle
 
 Pressable {
@@ -9,6 +10,11 @@ Pressable {
 
     readonly property bool shown: Shell.notice !== ""
     readonly property bool good: Shell.noticeKind === Shell.Done
+    property Item before // had the keys before the notice did
+
+    function goBack() {
+        Shell.dismissNotice();
+    }
 
     name: Shell.notice
     role: Accessible.AlertMessage
@@ -17,13 +23,31 @@ Pressable {
     width: parent.width - 24
     height: Math.max(44, words.height + 24)
     visible: y < parent.height
-    activeFocusOnTab: shown
     onPressed: Shell.dismissNotice()
     onNameChanged: if (shown) words.text = name
+    onShownChanged: if (!shown && activeFocus && before) before.forceActiveFocus()
+    Keys.onEscapePressed: goBack()
+    Keys.onBackPressed: goBack()
 
     Behavior on y { NumberAnimation { duration: Theme.longTime; easing.type: Easing.OutCubic } }
 
+    Connections {
+        target: bar.Window.window
+        function onActiveFocusItemChanged() {
+            const now = bar.Window.window.activeFocusItem;
+            if (now !== bar)
+                bar.before = now;
+        }
+    }
+    Connections {
+        target: Shell
+        function onNoticeChanged() { // another has its own time
+            if (leave.running)
+                leave.restart();
+        }
+    }
     Timer {
+        id: leave
         running: bar.shown && Shell.noticeKind !== Shell.Trouble && !bar.hovered && !bar.activeFocus
         interval: bar.good ? 2500 : 8000
         onTriggered: Shell.dismissNotice()

@@ -2,6 +2,7 @@
 
 #include <QQuickWindow>
 #include <QSGImageNode>
+#include <QSGRendererInterface>
 #include <QtMath>
 
 #include <memory>
@@ -35,8 +36,11 @@ QSGNode* PaintedItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   if (node == nullptr) {
     node.reset(window()->createImageNode());
     node->setOwnsTexture(true);
-    // Each pixel of the picture is one of the screen; anything between two would blur it.
-    node->setFiltering(QSGTexture::Nearest);
+    // Each pixel of the picture is one of the screen, and anything between two would blur it. A
+    // graphics card, though, takes pixels twice where an item begins in the middle of one.
+    const bool isExact =
+        window()->rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
+    node->setFiltering(isExact ? QSGTexture::Nearest : QSGTexture::Linear);
   }
   node->setTexture(window()->createTextureFromImage(pixels, QQuickWindow::TextureHasAlphaChannel));
   node->setSourceRect(QRectF(QPointF(), pixels.size()));

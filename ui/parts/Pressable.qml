@@ -20,15 +20,21 @@ Item {
     /// A right click, or a long press.
     signal menuAsked(point position)
 
+    /// A key that is held presses once: what it led to must not be pressed as well.
+    function pressByKey(event: KeyEvent) {
+        if (!event.isAutoRepeat)
+            pressed();
+    }
+
     activeFocusOnTab: true
-    opacity: rest * (held ? 0.6 : hover.hovered ? 0.85 : 1)
+    opacity: rest * (held ? 0.6 : hover.hovered ? 0.92 : 1)
     Accessible.role: role
     Accessible.name: name
     Accessible.focusable: true
     Accessible.onPressAction: pressed()
-    Keys.onReturnPressed: pressed()
-    Keys.onEnterPressed: pressed()
-    Keys.onSpacePressed: pressed()
+    Keys.onReturnPressed: event => pressByKey(event)
+    Keys.onEnterPressed: event => pressByKey(event)
+    Keys.onSpacePressed: event => pressByKey(event)
     Keys.onMenuPressed: menuAsked(Qt.point(width / 2, height / 2))
 
     TapHandler {

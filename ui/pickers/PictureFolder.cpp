@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <limits>
 #include <utility>
 
 #include <sys/stat.h>
@@ -60,8 +61,10 @@ Listing readFolder(const QString& path) {
       listing.entries.push_back({.name = name, .isFolder = true});
     } else if (S_ISREG(status.st_mode) && isPictureName(name)) {
       constexpr std::int64_t second = 1'000'000'000;
+      constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max() / second - 1;
+      const auto seconds = std::clamp<std::int64_t>(status.st_mtim.tv_sec, -most, most);
       listing.entries.push_back({.name = name,
-                                 .changed = status.st_mtim.tv_sec * second + status.st_mtim.tv_nsec,
+                                 .changed = seconds * second + status.st_mtim.tv_nsec,
                                  .bytes = status.st_size});
     }
   }

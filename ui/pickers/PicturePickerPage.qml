@@ -52,7 +52,10 @@ FocusScope {
     }
     function takeKey(event: var) {
         const alone = (event.modifiers & ~(Qt.ShiftModifier | Qt.KeypadModifier)) === 0;
-        if (event.key === Qt.Key_Backspace || event.key === Qt.Key_Up && event.modifiers & Qt.AltModifier)
+        const chooses = [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key);
+        if (chooses && event.isAutoRepeat) {
+            // Held since before this page was there.
+        } else if (event.key === Qt.Key_Backspace || event.key === Qt.Key_Up && event.modifiers & Qt.AltModifier)
             goUp();
         else if (alone && keyActions[event.key] && !(event.key === Qt.Key_Space && typed !== ""))
             keyActions[event.key]();

@@ -1,13 +1,14 @@
 #include "ui/pickers/PortalPicker.h"
 
+#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QFile>
 #include <QGuiApplication>
+#include <QPointer>
 
 #include <utility>
 
@@ -68,6 +69,13 @@ QString nameOf(const QQuickWindow* window) {
   return QStringLiteral("x11:%1").arg(window->winId(), 0, 16);
 }
 
+void closeRequest(const QDBusConnection& bus, const QString& request) {
+  QDBusMessage message =
+      QDBusMessage::createMethodCall(service, request, requests, QStringLiteral("Close"));
+  message.setAutoStartService(false);
+  bus.send(message);
+}
+
 } // namespace
 
 PortalPicker::PortalPicker(QDBusConnection bus, std::chrono::milliseconds patience, QObject* parent)
@@ -102,25 +110,29 @@ void PortalPicker::open(QQuickWindow* window, const QString& title, const QStrin
   QDBusMessage message =
       QDBusMessage::createMethodCall(service, portalPath, chooser, QStringLiteral("OpenFile"));
   message << nameOf(window) << title << options;
-  auto* call = new QDBusPendingCallWatcher(bus_.asyncCall(message), this);
-  connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, asked = request_] {
-    call->deleteLater();
-    if (request_ != asked) return;
-    const QDBusPendingReply<QDBusObjectPath> reply = *call;
-    if (reply.isError()) return giveUp();
-    patience_.stop();
-    // Old portals choose the path themselves.
-    if (reply.value().path() != request_) listenAt(reply.value().path());
-  });
+  auto* call = new QDBusPendingCallWatcher(bus_.asyncCall(message), QCoreApplication::instance());
+  connect(call, &QDBusPendingCallWatcher::finished, call,
+          [self = QPointer(this), bus = bus_, call, asked = request_] {
+            call->deleteLater();
+            const QDBusPendingReply<QDBusObjectPath> reply = *call;
+            const bool isWanted = self && self->request_ == asked;
+            if (isWanted) return self->follow(reply);
+            // A portal that was slow to start shows a dialog that nobody listens to any more.
+            if (!reply.isError()) closeRequest(bus, reply.value().path());
+          });
   patience_.start();
+}
+
+void PortalPicker::follow(const QDBusPendingReply<QDBusObjectPath>& reply) {
+  if (reply.isError()) return giveUp();
+  patience_.stop();
+  // Old portals choose the path themselves.
+  if (reply.value().path() != request_) listenAt(reply.value().path());
 }
 
 void PortalPicker::close() {
   if (request_.isEmpty()) return;
-  QDBusMessage message =
-      QDBusMessage::createMethodCall(service, request_, requests, QStringLiteral("Close"));
-  message.setAutoStartService(false);
-  bus_.send(message);
+  closeRequest(bus_, request_);
   forgetRequest();
 }
 

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusObjectPath>
+#include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QObject>
 #include <QQuickWindow>
@@ -43,6 +45,7 @@ class PortalPicker : public QObject {
 
  private:
   Q_SLOT void takeAnswer(uint response, const QVariantMap& results);
+  void follow(const QDBusPendingReply<QDBusObjectPath>& reply);
   void listenAt(const QString& request);
   void forgetRequest();
   void giveUp();

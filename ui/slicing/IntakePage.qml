@@ -14,11 +14,19 @@ Page {
     onClosed: intake.disappear()
     Component.onCompleted: {
         intake.appear();
-        cell(intake.lightSet && !intake.darkSet).focus = true; // what will be used first
+        focusNext();
+    }
+    Keys.onPressed: event => {
+        if (!event.matches(StandardKey.Paste))
+            return;
+        event.accepted = true;
+        intake.paste(nextIsDark);
     }
 
-    function cell(dark: bool): Item {
-        return halves.itemAt(dark ? 1 : 0);
+    readonly property bool nextIsDark: intake.lightSet && !intake.darkSet // what will be used next
+
+    function focusNext() {
+        halves.itemAt(nextIsDark ? 1 : 0).focus = true;
     }
 
     Label {

@@ -6,7 +6,6 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
-#include <algorithm>
 #include <utility>
 
 namespace vitrelle::ui {
@@ -46,15 +45,16 @@ void IntakeScreen::tap(qreal x) {
   tellObstacle();
 }
 
-void IntakeScreen::choose(bool dark) {
+bool IntakeScreen::choose(bool dark) {
   screen_->choose(dark ? darkStyle : lightStyle);
-  tellObstacle();
+  return !tellObstacle();
 }
 
-void IntakeScreen::tellObstacle() const {
-  if (!screen_->obstacle()) return;
+bool IntakeScreen::tellObstacle() const {
+  if (!screen_->obstacle()) return false;
   const auto& [what, why] = *screen_->obstacle();
   shell_.showNotice(qtTrId("app.store.readOnly").arg(QString::fromStdString(what + ": " + why)));
+  return true;
 }
 
 bool IntakeScreen::pick(const QUrl& file) {
@@ -69,7 +69,7 @@ bool IntakeScreen::pick(const QUrl& file) {
 }
 
 void IntakeScreen::paste(bool dark) {
-  choose(dark);
+  if (!choose(dark)) return;
   const QMimeData* data = QGuiApplication::clipboard()->mimeData();
   if (data != nullptr && data->hasUrls() && !data->urls().isEmpty()) {
     pick(data->urls().constFirst());
@@ -82,16 +82,25 @@ void IntakeScreen::paste(bool dark) {
     take(imageOf(picture));
 }
 
+void IntakeScreen::pasteAll() {
+  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+  if (data != nullptr && data->hasUrls() && !data->urls().isEmpty())
+    takeFiles(data->urls());
+  else
+    paste(false);
+}
+
 void IntakeScreen::takeFiles(const QList<QUrl>& files) {
   const auto isDark = [&](qsizetype index) {
     return files[index].fileName().contains(u"dark", Qt::CaseInsensitive);
   };
-  const qsizetype count = std::min<qsizetype>(files.size(), 2);
+  const qsizetype count = files.size();
+  if (count > 2) return shell_.showNotice(qtTrId("app.intake.tooMany"));
   bool firstIsDark = count > 0 && isDark(0);
   if (count == 2 && firstIsDark && isDark(1)) firstIsDark = false;
   for (qsizetype i = 0; i < count; ++i) {
-    choose(firstIsDark != (i == 1));
-    if (!pick(files[i])) break; // what is told of it must not be taken back by the next
+    // What is told of one must not be taken back by the next.
+    if (!choose(firstIsDark != (i == 1)) || !pick(files[i])) return;
   }
 }
 

@@ -62,7 +62,8 @@ class IntakeScreen final : public QObject {
   Q_INVOKABLE void disappear();
   /// A press that ended so far from the screen's left edge, in points.
   Q_INVOKABLE void tap(qreal x);
-  Q_INVOKABLE void choose(bool dark);
+  /// Whether a screenshot can be taken in; else it was said why not.
+  Q_INVOKABLE bool choose(bool dark);
   /// The picker closed with a file, or without one. What can't be read counts as none, is told to
   /// the user and changes nothing; false then.
   Q_INVOKABLE bool pick(const QUrl& file);
@@ -72,7 +73,10 @@ class IntakeScreen final : public QObject {
   WallpaperIntake& screen() { return *screen_; }
   /// The picture in the clipboard, or the file that it names.
   Q_INVOKABLE void paste(bool dark);
-  /// One file or two, for the half of which the name tells, else light before dark.
+  /// All that the clipboard holds, as far as it is pictures.
+  Q_INVOKABLE void pasteAll();
+  /// One file or two, for the half of which the name tells, else light before dark. More are not
+  /// taken, which is said.
   Q_INVOKABLE void takeFiles(const QList<QUrl>& files);
 
  Q_SIGNALS:
@@ -84,7 +88,7 @@ class IntakeScreen final : public QObject {
   }
   void take(const std::optional<Image>& picture);
   bool refuse(const Failure& failure); ///< false
-  void tellObstacle() const;
+  bool tellObstacle() const;
 
   Shell& shell_;
   std::unique_ptr<WallpaperIntake> screen_;

@@ -73,8 +73,10 @@ Pressable {
             if (!event.hasUrls)
                 return;
             event.acceptProposedAction();
-            cell.intake.choose(cell.dark);
-            cell.intake.pick(event.urls[0]);
+            if (event.urls.length > 1)
+                cell.intake.takeFiles(event.urls);
+            else if (cell.intake.choose(cell.dark))
+                cell.intake.pick(event.urls[0]);
         }
     }
 }

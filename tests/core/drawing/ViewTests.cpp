@@ -130,6 +130,7 @@ TEST_F(ViewTest, shrunkToFit_isSmallerOnlyWhereWordsWouldBeCut) {
   EXPECT_NEAR(shrunk(std::string(25, 'x'), 0.5), 0.8, 0.01);
   EXPECT_LE(shrunk(std::string(25, 'x'), 0.5), 0.8);
   EXPECT_EQ(shrunk(std::string(90, 'x'), 0.5), 0.5) << "no smaller than told";
+  EXPECT_EQ(shrunk(std::string(15, 'x') + '-' + std::string(15, 'x'), 0.5), 1) << "may be parted";
   const View words = shrunkToFit(letters(std::string(40, 'x')), 0.5);
   EXPECT_EQ(size(words, {100, 60}), (PointSize{100, 5}));
   EXPECT_EQ(places(shrunkToFit(letters("ab"), 0.5)), places(letters("ab")));
