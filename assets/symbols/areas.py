@@ -9,7 +9,7 @@ from shapely.validation import make_valid
 
 from outlines import contours_of, fitted, flatten
 
-FINE = 0.02  # how far a corner may lie off the line to be left out; a twentieth of a pixel at most
+FINE = 0.02  # how far a corner may lie off the line to be left out; a tenth of a pixel at 28 points
 CORNER = 6  # straight pieces of a quarter circle
 VISIBLE = 1.5  # the difference in area by which two pictures are told apart
 

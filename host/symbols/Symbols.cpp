@@ -39,6 +39,7 @@ PathCommand commandOf(char letter) {
 
 Path pathOf(const SymbolEntry& entry) {
   Path path;
+  path.commands.reserve(entry.commandCount);
   std::size_t points = 0;
   for (const char letter : symbolTable.commands.substr(entry.firstCommand, entry.commandCount)) {
     path.commands.push_back(commandOf(letter));
