@@ -48,11 +48,13 @@ class Shell final : public QObject {
   Q_PROPERTY(bool canPaste READ canPaste NOTIFY canPasteChanged)
 
  public:
+  // NOLINTBEGIN(readability-identifier-naming): QML knows enumerators by their capitals.
   enum NoticeKind {
     Done,    ///< what was wanted has happened
     Refusal, ///< something did not happen; gone as soon as it does
     Trouble, ///< stays as long as what it tells of
   };
+  // NOLINTEND(readability-identifier-naming)
   Q_ENUM(NoticeKind)
 
   /// The platform must outlive it.

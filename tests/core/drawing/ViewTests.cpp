@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <numbers>
@@ -130,10 +131,29 @@ TEST_F(ViewTest, shrunkToFit_isSmallerOnlyWhereWordsWouldBeCut) {
   EXPECT_NEAR(shrunk(std::string(25, 'x'), 0.5), 0.8, 0.01);
   EXPECT_LE(shrunk(std::string(25, 'x'), 0.5), 0.8);
   EXPECT_EQ(shrunk(std::string(90, 'x'), 0.5), 0.5) << "no smaller than told";
-  EXPECT_EQ(shrunk(std::string(15, 'x') + '-' + std::string(15, 'x'), 0.5), 1) << "may be parted";
   const View words = shrunkToFit(letters(std::string(40, 'x')), 0.5);
   EXPECT_EQ(size(words, {100, 60}), (PointSize{100, 5}));
   EXPECT_EQ(places(shrunkToFit(letters("ab"), 0.5)), places(letters("ab")));
+}
+
+TEST_F(ViewTest, wordsThatMayBeParted_areNotShrunk) {
+  platform.drawing.textSize = [](const std::string& text, const Font& font, const PointSize&) {
+    std::size_t longest = 0;
+    for (std::size_t at = 0; at < text.size();) {
+      const std::size_t end = std::min(text.find('\n', at), text.size());
+      longest = std::max(longest, end - at);
+      at = end + 1;
+    }
+    return PointSize{static_cast<double>(longest) * font.size / 2, font.size};
+  };
+  const auto isShrunk = [&](const std::string& words) {
+    const auto list = layOut(shrunkToFit(letters(words), 0.5), {50, 60}, platform.drawing);
+    return std::holds_alternative<DrawnGroup>(list[0].content);
+  };
+  EXPECT_FALSE(isShrunk("Good morning"));
+  EXPECT_FALSE(isShrunk("well-meaning")) << "after a hyphen";
+  EXPECT_FALSE(isShrunk("今日もいい日に")) << "between East Asian letters";
+  EXPECT_TRUE(isShrunk("Gutenmorgen"));
 }
 
 TEST_F(ViewTest, roomOfAText_isTheRoomItWasMeasuredIn) {
