@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QVariant>
 
@@ -100,11 +101,21 @@ bool Shell::eventFilter(QObject* watched, QEvent* event) {
   const bool isKey = event->type() == QEvent::KeyPress;
   const bool isPointer =
       event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin;
+  if (watched == window_ && isKey) noteKey(static_cast<const QKeyEvent&>(*event));
   if (watched == window_ && isKey != keysInUse_ && (isKey || isPointer)) {
     keysInUse_ = isKey;
     Q_EMIT keysInUseChanged();
   }
   return QObject::eventFilter(watched, event);
+}
+
+void Shell::noteKey(const QKeyEvent& event) {
+  // Not every repetition says that it is one. No finger presses a key anew so soon.
+  constexpr quint64 tooSoon = 120;
+  const bool isSame = event.key() == lastKey_;
+  keyHeld_ = event.isAutoRepeat() || (isSame && event.timestamp() - lastKeyTime_ < tooSoon);
+  lastKey_ = event.key();
+  lastKeyTime_ = event.timestamp();
 }
 
 ScreenEntry Shell::screenEntry(const QString& name) const {

@@ -87,6 +87,8 @@ class Shell final : public QObject {
   NoticeKind noticeKind() const { return noticeKind_; }
   bool canPaste() const;
   bool areKeysInUse() const { return keysInUse_; }
+  /// Whether the key that was pressed last is one that is held, and sends its presses again.
+  Q_INVOKABLE bool isKeyHeld() const { return keyHeld_; }
 
   /// The QML owns what it gets.
   Q_INVOKABLE vitrelle::ui::IntakeScreen* newStyle();
@@ -122,6 +124,8 @@ class Shell final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void noteKey(const QKeyEvent& event);
+
   const Platform& platform_;
   const ShellOptions options_;
   PictureSource pictures_;
@@ -129,6 +133,9 @@ class Shell final : public QObject {
   QString notice_;
   NoticeKind noticeKind_ = Done;
   bool keysInUse_ = false;
+  bool keyHeld_ = false;
+  int lastKey_ = 0;
+  quint64 lastKeyTime_ = 0;        ///< milliseconds, by the window system's clock
   QQuickWindow* window_ = nullptr; ///< the engine's
   QQmlApplicationEngine engine_;   ///< last, for its objects use all others
 };

@@ -75,8 +75,8 @@ FocusScope {
                     pager.created();
             }
 
-            function pressByKey(event: KeyEvent) {
-                if (!event.isAutoRepeat)
+            function pressByKey() {
+                if (!Shell.isKeyHeld())
                     press();
             }
 
@@ -89,9 +89,9 @@ FocusScope {
             Accessible.name: (title === "" ? "" : title + ", ") + qsTrId("app.page").arg(pager.root.page + 1).arg(pager.root.pageCount)
             Accessible.focusable: true
             Accessible.onPressAction: press()
-            Keys.onReturnPressed: event => pressByKey(event)
-            Keys.onEnterPressed: event => pressByKey(event)
-            Keys.onSpacePressed: event => pressByKey(event)
+            Keys.onReturnPressed: pressByKey()
+            Keys.onEnterPressed: pressByKey()
+            Keys.onSpacePressed: pressByKey()
 
             FocusRing {
                 shown: shownPage.activeFocus

@@ -21,8 +21,8 @@ Item {
     signal menuAsked(point position)
 
     /// A key that is held presses once: what it led to must not be pressed as well.
-    function pressByKey(event: KeyEvent) {
-        if (!event.isAutoRepeat)
+    function pressByKey() {
+        if (!Shell.isKeyHeld())
             pressed();
     }
 
@@ -32,9 +32,9 @@ Item {
     Accessible.name: name
     Accessible.focusable: true
     Accessible.onPressAction: pressed()
-    Keys.onReturnPressed: event => pressByKey(event)
-    Keys.onEnterPressed: event => pressByKey(event)
-    Keys.onSpacePressed: event => pressByKey(event)
+    Keys.onReturnPressed: pressByKey()
+    Keys.onEnterPressed: pressByKey()
+    Keys.onSpacePressed: pressByKey()
     Keys.onMenuPressed: menuAsked(Qt.point(width / 2, height / 2))
 
     TapHandler {
