@@ -101,7 +101,8 @@ bool Shell::eventFilter(QObject* watched, QEvent* event) {
   const bool isKey = event->type() == QEvent::KeyPress;
   const bool isPointer =
       event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin;
-  if (watched == window_ && isKey) noteKey(static_cast<const QKeyEvent&>(*event));
+  if (watched == window_ && (isKey || event->type() == QEvent::KeyRelease))
+    noteKey(static_cast<const QKeyEvent&>(*event));
   if (watched == window_ && isKey != keysInUse_ && (isKey || isPointer)) {
     keysInUse_ = isKey;
     Q_EMIT keysInUseChanged();
@@ -110,12 +111,14 @@ bool Shell::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Shell::noteKey(const QKeyEvent& event) {
-  // Not every repetition says that it is one. No finger presses a key anew so soon.
-  constexpr quint64 tooSoon = 120;
-  const bool isSame = event.key() == lastKey_;
-  keyHeld_ = event.isAutoRepeat() || (isSame && event.timestamp() - lastKeyTime_ < tooSoon);
-  lastKey_ = event.key();
-  lastKeyTime_ = event.timestamp();
+  if (event.type() == QEvent::KeyRelease) {
+    lastKey_ = event.key();
+    lastKeyTime_ = event.timestamp();
+    return;
+  }
+  // Not every repetition says that it is one, but each comes at the time of a release.
+  const bool isAtRelease = event.key() == lastKey_ && event.timestamp() == lastKeyTime_;
+  keyHeld_ = event.isAutoRepeat() || isAtRelease;
 }
 
 ScreenEntry Shell::screenEntry(const QString& name) const {
