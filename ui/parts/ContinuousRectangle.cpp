@@ -1,44 +1,16 @@
 #include "ui/parts/ContinuousRectangle.h"
 
+#include "core/drawing/Shapes.h"
+#include "ui/parts/PainterPath.h"
+
 #include <QLinearGradient>
 #include <QPainter>
 
-#include <algorithm>
-
 namespace vitrelle::ui {
 
-namespace {
-
-// In radii from the corner: where the bend begins, and where its curve's control points lie. The
-// middle of the bend is that of the circle.
-constexpr qreal bend = 1.28;
-constexpr qreal control = 0.354;
-
-} // namespace
-
 QPainterPath continuousRectangle(const QRectF& rectangle, qreal radius) {
-  const qreal longest = std::min(rectangle.width(), rectangle.height()) / 2;
-  if (radius >= longest) { // round ends, of which nothing is left to bend
-    QPainterPath capsule;
-    capsule.addRoundedRect(rectangle, longest, longest);
-    return capsule;
-  }
-  const qreal begin = std::min(radius * bend, longest);
-  const qreal pull = begin / bend * control;
-  const qreal left = rectangle.left();
-  const qreal top = rectangle.top();
-  const qreal right = rectangle.right();
-  const qreal bottom = rectangle.bottom();
-  QPainterPath path(QPointF(left + begin, top));
-  path.lineTo(right - begin, top);
-  path.cubicTo(right - pull, top, right, top + pull, right, top + begin);
-  path.lineTo(right, bottom - begin);
-  path.cubicTo(right, bottom - pull, right - pull, bottom, right - begin, bottom);
-  path.lineTo(left + begin, bottom);
-  path.cubicTo(left + pull, bottom, left, bottom - pull, left, bottom - begin);
-  path.lineTo(left, top + begin);
-  path.cubicTo(left, top + pull, left + pull, top, left + begin, top);
-  return path;
+  const PointRect box{rectangle.x(), rectangle.y(), rectangle.width(), rectangle.height()};
+  return painterPath(shapes::continuousRectangle(box, radius), FillRule::nonZero);
 }
 
 ContinuousRectangle::ContinuousRectangle(QQuickItem* parent) : PaintedItem(parent) {

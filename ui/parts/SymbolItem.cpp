@@ -1,6 +1,7 @@
 #include "ui/parts/SymbolItem.h"
 
 #include "ui/Shell.h"
+#include "ui/parts/PainterPath.h"
 
 #include <QPainter>
 #include <QQmlEngine>
@@ -14,32 +15,6 @@ namespace {
 /// How much thicker all lines are, in units of a symbol 16 high.
 qreal thickening(int weight) {
   return std::max(weight - 400, 0) / 500.0 * 0.9;
-}
-
-QPainterPath painterPath(const Path& path, FillRule rule) {
-  QPainterPath result;
-  result.setFillRule(rule == FillRule::evenOdd ? Qt::OddEvenFill : Qt::WindingFill);
-  const auto point = [](PathPoint p) { return QPointF(p.x, p.y); };
-  std::size_t next = 0;
-  for (const PathCommand command : path.commands) {
-    const PathPoint* points = path.points.data() + next;
-    switch (command) {
-    case PathCommand::move:
-      result.moveTo(point(points[0]));
-      break;
-    case PathCommand::line:
-      result.lineTo(point(points[0]));
-      break;
-    case PathCommand::cubic:
-      result.cubicTo(point(points[0]), point(points[1]), point(points[2]));
-      break;
-    case PathCommand::close:
-      result.closeSubpath();
-      break;
-    }
-    next += pointCount(command);
-  }
-  return result;
 }
 
 } // namespace
