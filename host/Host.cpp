@@ -7,7 +7,10 @@
 #include "host/store/SqliteDefaults.h"
 #include "host/symbols/Symbols.h"
 
+#include <chrono>
+#include <cmath>
 #include <cstdio>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -44,6 +47,32 @@ Drawing noDrawing() {
           }};
 }
 
+/// Days as UTC has them, without words.
+DateTime makeDateTime() {
+  constexpr double referenceDate = 978307200; // in seconds since 1970
+  constexpr double day = 86400;
+  return {.now =
+              [] {
+                const auto time = std::chrono::system_clock::now().time_since_epoch();
+                return Date{std::chrono::duration<double>(time).count() - referenceDate};
+              },
+          .startOfDay =
+              [](const Date& moment) {
+                return Date{std::floor(moment.secondsSinceReferenceDate / day) * day};
+              },
+          .text = [](const Date&, FormatterStyle, FormatterStyle) { return std::string(); }};
+}
+
+Battery noBattery() {
+  return {.setMonitoringEnabled = [](bool) {},
+          .level = [] { return unknownBatteryLevel; },
+          .watch =
+              [](const std::function<void(float)>& subscriber) {
+                subscriber(unknownBatteryLevel);
+                return Subscription();
+              }};
+}
+
 } // namespace
 
 Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
@@ -70,7 +99,9 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .bannerKit = {.start = [] {}, .load = [](const BannerRequest&, const BannerDelegate&) {}},
       .symbols = makeSymbols(),
       .drawing = noDrawing(),
-      .fonts = {.families = [] { return std::vector<FontFamily>(); }}};
+      .fonts = {.families = [] { return std::vector<FontFamily>(); }},
+      .dateTime = makeDateTime(),
+      .battery = noBattery()};
 }
 
 } // namespace vitrelle::host

@@ -4,7 +4,9 @@
 
 #include "core/platform/Application.h"
 #include "core/platform/BannerKit.h"
+#include "core/platform/Battery.h"
 #include "core/platform/Bundle.h"
+#include "core/platform/DateTime.h"
 #include "core/platform/DebugConsole.h"
 #include "core/platform/Defaults.h"
 #include "core/platform/Device.h"
@@ -41,6 +43,8 @@ struct Platform {
   Symbols symbols;
   Drawing drawing;
   Fonts fonts;
+  DateTime dateTime;
+  Battery battery;
 
   /// What is made once per platform, such as the device name.
   SharedInstances shared = {};

@@ -1,6 +1,7 @@
 #include "tests/support/Fakes.h"
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 namespace vitrelle::test {
@@ -166,6 +167,41 @@ void FakeSurroundings::pass(double seconds) {
     waiting_.erase(next);
     work();
   }
+}
+
+void FakeTime::use(Platform& platform) {
+  platform.dateTime = {.now = [this] { return now; },
+                       .startOfDay =
+                           [this](const Date& moment) {
+                             return Date{moment.secondsSinceReferenceDate - sinceMidnight(moment)};
+                           },
+                       .text =
+                           [this](const Date& moment, FormatterStyle date, FormatterStyle time) {
+                             return "date " + std::to_string(static_cast<int>(date)) + " time " +
+                                    std::to_string(static_cast<int>(time)) + " at " +
+                                    std::to_string(static_cast<int>(sinceMidnight(moment)));
+                           }};
+}
+
+double FakeTime::sinceMidnight(const Date& moment) const {
+  constexpr double day = 86400;
+  const double local = moment.secondsSinceReferenceDate + secondsFromUtc;
+  return local - std::floor(local / day) * day;
+}
+
+void FakeBattery::use(Platform& platform) {
+  platform.battery = {.setMonitoringEnabled = [this](bool on) { monitored = on; },
+                      .level = [this] { return shown(); },
+                      .watch =
+                          [this](std::function<void(float)> subscriber) {
+                            subscriber(shown());
+                            return changes_.add(std::move(subscriber));
+                          }};
+}
+
+void FakeBattery::set(float level) {
+  level_ = level;
+  changes_.notify(shown());
 }
 
 void FakeDrawing::use(Platform& platform) {

@@ -92,6 +92,34 @@ class FakeSurroundings final {
   std::map<std::uint64_t, Waiting> waiting_;
 };
 
+/// A clock that stands still until it is moved, in a place that is so many seconds ahead of UTC.
+/// Its words are the codes of the styles and the seconds since midnight: "date 1 time 0 at 48600".
+class FakeTime final {
+ public:
+  void use(Platform& platform);
+
+  Date now{816960600}; ///< 2026-11-21 13:30 in UTC
+  double secondsFromUtc = 0;
+
+ private:
+  double sinceMidnight(const Date& moment) const;
+};
+
+/// A battery whose level is moved by hand, and is unknown while nobody monitors it.
+class FakeBattery final {
+ public:
+  void use(Platform& platform);
+  void set(float level);
+
+  bool monitored = false;
+
+ private:
+  float shown() const { return monitored ? level_ : unknownBatteryLevel; }
+
+  float level_ = 0.75F;
+  Subscribers<float> changes_;
+};
+
 /// A face in which every byte of a text is half as wide as its size, and a line as high with its
 /// baseline a fifth above the bottom; lines never break. Nothing is drawn.
 class FakeDrawing final {

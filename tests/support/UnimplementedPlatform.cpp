@@ -79,6 +79,12 @@ Platform unimplementedPlatform() {
                   .lastBaseline = Unimplemented{"drawing.lastBaseline"},
                   .render = Unimplemented{"drawing.render"}},
       .fonts = {.families = Unimplemented{"fonts.families"}},
+      .dateTime = {.now = Unimplemented{"dateTime.now"},
+                   .startOfDay = Unimplemented{"dateTime.startOfDay"},
+                   .text = Unimplemented{"dateTime.text"}},
+      .battery = {.setMonitoringEnabled = Unimplemented{"battery.setMonitoringEnabled"},
+                  .level = Unimplemented{"battery.level"},
+                  .watch = Unimplemented{"battery.watch"}},
   };
 }
 
