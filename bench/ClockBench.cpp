@@ -1,7 +1,7 @@
 // ClockBench: an analog clock and the ring of a battery at 3x, beside Qt's painter doing the same.
 #include "bench/Timing.h"
-#include "core/faces/AnalogClockView.h"
-#include "core/faces/Meter.h"
+#include "core/families/clock/AnalogClockView.h"
+#include "core/families/battery/Meter.h"
 #include "host/drawing/Rasteriser.h"
 #include "host/symbols/Symbols.h"
 

@@ -3,7 +3,7 @@
 // last picture, beside the same grid in plain QML, and a keystroke to the redrawn preview.
 #include "bench/Timing.h"
 #include "core/drawing/Shapes.h"
-#include "core/faces/CustomTextPreviewView.h"
+#include "core/families/text/CustomTextPreviewView.h"
 #include "core/slicing/ImageCropper.h"
 #include "core/store/GroupStore.h"
 #include "core/store/Keys.h"

@@ -5,11 +5,11 @@
 #include "core/drawing/Describe.h"
 #include "core/drawing/Shapes.h"
 #include "core/drawing/View.h"
-#include "core/faces/CustomTextPreviewView.h"
+#include "core/families/Families.h"
+#include "core/lifecycle/WidgetLook.h"
 #include "core/slicing/ImageLoader.h"
 #include "core/slicing/Measurements.h"
 #include "core/store/GroupStore.h"
-#include "core/store/Keys.h"
 
 #include <array>
 #include <charconv>
@@ -37,19 +37,13 @@ struct Sheet {
   bool list = false;
 };
 
-struct TextArguments {
-  Sheet sheet;
-  std::optional<std::int64_t> record;
-  std::string text;
-  std::string font;
-  std::int64_t size = 18;
-  bool noShadow = false;
-  std::string colour = "FFFFFF";
+/// Which record is drawn.
+struct Chosen {
+  const StyleFamily* family = nullptr;
+  std::optional<std::int64_t> record = {};
+  bool current = false;
+  std::vector<std::string> fields = {}; ///< "textWidgetSize=40"
 };
-
-PlatformColour platformColour(const Colour& colour) {
-  return {colour.red, colour.green, colour.blue, colour.alpha};
-}
 
 /// The pixels of a screenshot in one point, which slots are measured in. A zoomed display has more
 /// than its scale says.
@@ -96,14 +90,8 @@ std::string whyNoSlot(const std::string& text) {
   return isSlot ? "" : "'" + text + "' is no slot, such as topLeftSmall or topMedium";
 }
 
-bool isColour(const std::string& text) {
-  const std::string digits = text.substr(text.starts_with('#') ? 1 : 0);
-  return (digits.size() == 6 || digits.size() == 8) &&
-         digits.find_first_not_of("0123456789abcdefABCDEF") == std::string::npos;
-}
-
 std::string whyNoColour(const std::string& text) {
-  return isColour(text) ? "" : "'" + text + "' is no colour, such as FF8000";
+  return Colour::isWritten(text) ? "" : "'" + text + "' is no colour, such as FF8000";
 }
 
 std::string whyNoBackground(const std::string& text) {
@@ -112,19 +100,22 @@ std::string whyNoBackground(const std::string& text) {
 
 /// The layer behind the face; an empty one for a transparent picture.
 Result<DisplayList> background(const Platform& platform, const Sheet& sheet,
-                               const PointSize& frame) {
+                               const StyleRecord& record, const PointSize& frame) {
   const PointRect box{0, 0, frame.width, frame.height};
   if (sheet.background.empty()) return DisplayList{};
   if (sheet.background != "slice") {
     return DisplayList{{DrawnPath{.path = shapes::rectangle(box),
                                   .colour = platformColour(Colour::parse(sheet.background))}}};
   }
-  const std::int64_t config = GroupStore(platform).valueOrDefault(keys::selectedConfig);
-  const InterfaceStyle style = platform.device.userInterfaceStyle();
-  const auto slice = ImageLoader(platform).loadSlice(sheet.slot, style, config);
-  if (!slice) {
-    return Failure{sliceFileName(config, sheet.slot, style), "there is no such slice"};
+  const auto name = widgetBackdrop(platform, record, *widgetLocation(sheet.slot));
+  if (!name) {
+    const std::string file =
+        sliceFileName(styleInUse(platform).value, sheet.slot, platform.device.userInterfaceStyle());
+    return Failure{file, "there is no such slice"};
   }
+  const auto slice =
+      ImageLoader(platform).loadSlice(name->stem, name->appearance, name->style.value);
+  if (!slice) return Failure{sheet.slot, "the slice can't be read"};
   if (const auto bitmap = slice->bitmap(); !bitmap) return bitmap.failure();
   return DisplayList{{DrawnImage{.image = *slice, .box = box}}};
 }
@@ -136,13 +127,15 @@ void printLines(const std::string& text) {
     std::cout << oneLine(line) << '\n';
 }
 
-Status draw(const Platform& platform, const Sheet& sheet, const View& view) {
+Status draw(const Platform& platform, const Sheet& sheet, const StyleFamily& family,
+            const StyleRecord& record) {
   const PointSize frame = sheet.frame.empty() ? slotSize(platform, *widgetLocation(sheet.slot))
                                               : *parseFrame(sheet.frame);
-  const DisplayList face = layOut(view, frame, platform.drawing);
+  const Subscription alive = family.live(platform, [] {});
+  const DisplayList face = widgetFace(platform, family, record, frame);
   if (sheet.list) printLines(describe(face));
   if (sheet.file.empty()) return success();
-  const auto behind = background(platform, sheet, frame);
+  const auto behind = background(platform, sheet, record, frame);
   if (!behind) return behind.failure();
   const std::array layers{*behind, face};
   const double scale = sheet.scale ? *sheet.scale : phoneScale(platform);
@@ -154,25 +147,28 @@ Status draw(const Platform& platform, const Sheet& sheet, const View& view) {
   return success();
 }
 
-/// The text that is told, or that of a stored record.
-Result<CustomTextPreviewView> textFace(const Platform& platform, const TextArguments& told) {
-  if (!told.record) {
-    return CustomTextPreviewView{.text = told.text,
-                                 .colour = platformColour(Colour::parse(told.colour)),
-                                 .fontName = told.font,
-                                 .textSize = told.size,
-                                 .showShadow = !told.noShadow};
+/// The stored record that is asked for, else a new one; with the fields that are told.
+Result<StyleRecord> chosenRecord(const Platform& platform, const Chosen& chosen) {
+  const FamilyStore& store = chosen.family->store();
+  StyleRecord record = store.newRecord(0);
+  if (chosen.record) {
+    const auto stored = store.read(GroupStore(platform));
+    if (!stored) return stored.failure();
+    const RecordIndex index{*chosen.record};
+    if (!index.isWithin(stored->size()))
+      return Failure{store.records.name, "it has no record " + std::to_string(index.value)};
+    record = (*stored)[static_cast<std::size_t>(index.value)];
+  } else if (chosen.current) {
+    const auto shown = shownRecord(platform, *chosen.family);
+    if (!shown) return Failure{store.records.name, "it has no records"};
+    record = *shown;
   }
-  const auto records = GroupStore(platform).loadRecords(families::text);
-  if (*told.record < 0 || static_cast<std::size_t>(*told.record) >= records.size()) {
-    return Failure{families::text.records.name, "it has no record " + std::to_string(*told.record)};
+  for (const std::string& field : chosen.fields) {
+    const std::size_t equals = field.find('=');
+    const Status set = setField(record, field.substr(0, equals), field.substr(equals + 1));
+    if (!set) return set.failure();
   }
-  const textWidgetData& record = records[static_cast<std::size_t>(*told.record)];
-  return CustomTextPreviewView{.text = record.textWidgetText,
-                               .colour = platformColour(record.textWidgetTextColour),
-                               .fontName = record.textWidgetFont,
-                               .textSize = record.textWidgetSize,
-                               .showShadow = record.textWidgetShadow};
+  return record;
 }
 
 void addSheetOptions(CLI::App& command, Sheet& sheet) {
@@ -191,32 +187,43 @@ void addSheetOptions(CLI::App& command, Sheet& sheet) {
   command.add_flag("--list", sheet.list, "Print what is drawn, one item a line");
 }
 
-void addTextFace(CLI::App& face, CommandContext& context) {
-  const auto told = std::make_shared<TextArguments>();
-  CLI::App* command = face.add_subcommand("text", "A few words");
-  addSheetOptions(*command, told->sheet);
+std::string whyNoField(const std::string& text) {
+  return text.find('=') != std::string::npos ? "" : "'" + text + "' is no FIELD=VALUE";
+}
+
+std::string fieldsHelp(const FamilyStore& store) {
+  std::string help = "A field of the record, by its stored name:";
+  for (const std::string_view name : fieldNames(store.newRecord(0)))
+    help += " " + std::string(name);
+  return help;
+}
+
+void addFamilyFace(CLI::App& face, const StyleFamily& family, CommandContext& context) {
+  const auto sheet = std::make_shared<Sheet>();
+  const auto chosen = std::make_shared<Chosen>(Chosen{.family = &family});
+  CLI::App* command =
+      face.add_subcommand(std::string(family.words().name), std::string(family.words().entryTitle));
+  addSheetOptions(*command, *sheet);
   CLI::Option* record =
-      command->add_option("--record", told->record, "The widget style of this index, from 0")
+      command->add_option("--record", chosen->record, "The widget style of this index, from 0")
           ->check(wholeNumber(0, std::numeric_limits<std::int64_t>::max()));
-  const auto own = [record](CLI::Option* option) { return option->excludes(record); };
-  own(command->add_option("--text", told->text, "The words"));
-  own(command->add_option("--font", told->font, "A PostScript name"));
-  own(command->add_option("--size", told->size, "Points")->capture_default_str())
-      ->check(wholeNumber(1, 1000));
-  own(command->add_option("--colour", told->colour)->capture_default_str())
-      ->check(CLI::Validator(whyNoColour, "RRGGBB"));
-  own(command->add_flag("--no-shadow", told->noShadow));
-  command->callback([told, &context] {
-    if (told->sheet.file.empty() && !told->sheet.list) throw CLI::RequiredError("FILE or --list");
+  command->add_flag("--current", chosen->current, "The widget style that widgets show now")
+      ->excludes(record);
+  command->add_option("--set", chosen->fields, fieldsHelp(family.store()))
+      ->check(CLI::Validator(whyNoField, "FIELD=VALUE"))
+      ->take_all()
+      ->allow_extra_args(false);
+  command->callback([sheet, chosen, &context] {
+    if (sheet->file.empty() && !sheet->list) throw CLI::RequiredError("FILE or --list");
     if (context.handOver) {
       context.handOver();
       context.exit = Exit::failed;
       return;
     }
     const Platform& platform = context.platform();
-    const auto words = textFace(platform, *told);
+    const auto record = chosenRecord(platform, *chosen);
     const Status drawn =
-        words ? draw(platform, told->sheet, words->view()) : Status(words.failure());
+        record ? draw(platform, *sheet, *chosen->family, *record) : Status(record.failure());
     if (drawn) return;
     complain(drawn.failure());
     context.exit = Exit::failed;
@@ -228,7 +235,10 @@ void addTextFace(CLI::App& face, CommandContext& context) {
 void addFaceCommand(CLI::App& program, CommandContext& context) {
   CLI::App* command = program.add_subcommand("face", "Draw a widget's face to a PNG file");
   command->require_subcommand(1);
-  addTextFace(*command, context);
+  for (const FamilyDescription& words : familyTable) {
+    const StyleFamily& family = styleFamily(words.name);
+    if (family.hasEditor()) addFamilyFace(*command, family, context);
+  }
 }
 
 } // namespace vitrelle::cli

@@ -1,5 +1,6 @@
 #include "ui/Shell.h"
 
+#include "core/families/Families.h"
 #include "core/store/Keys.h"
 #include "core/store/StoredValue.h"
 #include "ui/app/WindowPlace.h"
@@ -129,7 +130,7 @@ ScreenEntry Shell::screenEntry(const QString& name) const {
 }
 
 FamilyScreen* Shell::family(const QString& name) const {
-  return new FamilyScreen(platform_, familyScreens(name.toStdString()));
+  return new FamilyScreen(platform_, styleFamily(name.toStdString()));
 }
 
 QString Shell::pictureFolder() const {

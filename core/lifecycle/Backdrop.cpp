@@ -10,15 +10,15 @@ InterfaceStyle currentAppearance(const Platform& platform) {
   return platform.device.userInterfaceStyle() == darkStyle ? darkStyle : lightStyle;
 }
 
-std::int64_t styleInUse(const Platform& platform) {
-  return GroupStore(platform).valueOrDefault(keys::selectedConfig);
+StyleNumber styleInUse(const Platform& platform) {
+  return {GroupStore(platform).valueOrDefault(keys::selectedConfig)};
 }
 
 std::optional<SliceName> findSlice(const Platform& platform, WidgetLocationImageNames slot,
-                                   std::int64_t config, InterfaceStyle style) {
+                                   StyleNumber number, InterfaceStyle style) {
   const std::string_view stem = rawValue(slot);
-  if (!ImageLoader(platform).loadSlice(stem, style, config)) return std::nullopt;
-  return SliceName{std::string(stem), config, style};
+  if (!ImageLoader(platform).loadSlice(stem, style, number.value)) return std::nullopt;
+  return SliceName{std::string(stem), number, style};
 }
 
 std::optional<SliceName> currentSlice(const Platform& platform, WidgetLocationImageNames slot) {

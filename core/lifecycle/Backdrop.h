@@ -3,8 +3,8 @@
 
 #include "core/platform/Platform.h"
 #include "core/slicing/WidgetLocation.h"
+#include "core/store/Numbers.h"
 
-#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -14,7 +14,7 @@ namespace vitrelle {
 /// program's own stands in.
 struct SliceName {
   std::string stem;
-  std::int64_t style = 0;
+  StyleNumber style = {};
   InterfaceStyle appearance = lightStyle;
   bool operator==(const SliceName&) const = default;
 };
@@ -23,11 +23,11 @@ struct SliceName {
 InterfaceStyle currentAppearance(const Platform& platform);
 
 /// The style in use; 0 where none is told.
-std::int64_t styleInUse(const Platform& platform);
+StyleNumber styleInUse(const Platform& platform);
 
 /// The slice's name if it can be loaded. Its pixels are not decoded.
 std::optional<SliceName> findSlice(const Platform& platform, WidgetLocationImageNames slot,
-                                   std::int64_t config, InterfaceStyle style);
+                                   StyleNumber number, InterfaceStyle style);
 
 /// The slice of the style in use in the present appearance.
 std::optional<SliceName> currentSlice(const Platform& platform, WidgetLocationImageNames slot);

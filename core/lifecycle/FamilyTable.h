@@ -32,6 +32,10 @@ struct FamilyDescription {
   std::string_view assignItem; ///< of a tile's menu
   std::string_view assignTitle;
   std::string_view assignRefusal;
+
+  /// Of the second step's screen; most edit colours there.
+  std::string_view secondTitle = "Edit Colours";
+  std::string_view secondSymbol = "paintpalette.fill";
 };
 
 /// In the order of the store's table. Music speaks of weather, and Text links a time: the words
@@ -50,12 +54,14 @@ inline constexpr std::string_view preview = "Preview";
 inline constexpr std::string_view noPreviewTitle = "Cannot open Widget Preview";
 inline constexpr std::string_view closeSymbol = "xmark.circle.fill";
 
+inline constexpr std::string_view kindsTitle = "Widget Styles";
+inline constexpr std::string_view kindsSymbol = "circle.hexagonpath.fill";
+inline constexpr std::string_view kindsNote = "Pick a Style to get more options";
+
 inline constexpr std::string_view setupTitle = "Edit Style";
 inline constexpr std::string_view setupSymbol = "slider.horizontal.3";
 inline constexpr std::string_view previewHeading = "Widget Preview";
 inline constexpr std::string_view saveAndContinue = "Save and Continue";
-inline constexpr std::string_view coloursTitle = "Edit Colours";
-inline constexpr std::string_view coloursSymbol = "paintpalette.fill";
 inline constexpr std::string_view saveAndExit = "Save and Exit";
 
 inline constexpr std::string_view loading = "Loading";

@@ -1,28 +1,35 @@
-// The controls of an editor as data: what they show and write is told by each family, and one view
-// draws them all.
+// The controls of an editor as data: a family tells what they show and write, and one view draws
+// them all.
 #pragma once
 
-#include "core/store/Colour.h"
+#include "core/lifecycle/StyleDraft.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
+#include <vector>
 
 namespace vitrelle {
 
 using FormValue = std::variant<bool, std::int64_t, std::string, Colour>;
 
-/// Views know them by their order.
 enum class FormControl {
   text,       ///< a string; the title is the field's placeholder
   font,       ///< a string: a PostScript name, picked on a sheet
+  symbol,     ///< a string: a name of the catalogue, picked on a sheet
   stepper,    ///< a number, shown behind the title
   toggle,     ///< a bool
   colourWell, ///< a colour
+  segments,   ///< one of several values, each with a symbol
 };
+
+constexpr bool isPickedOnSheet(FormControl control) {
+  return control == FormControl::font || control == FormControl::symbol;
+}
 
 /// Of a stepper, in steps of 1.
 struct NumberRange {
@@ -31,37 +38,67 @@ struct NumberRange {
   bool operator==(const NumberRange&) const = default;
 };
 
-/// One row of a family's form, over the record that the form edits.
-template <class Record>
+/// One value to choose, in the order in which they are shown from the left.
+struct FormOption {
+  FormValue value;
+  std::string_view symbol;
+  std::string_view spoken; ///< what the symbol stands for, for those who do not see it
+};
+
+/// One row of a family's form. Which control it is, is told by its kind alone.
 struct FormRow {
   std::string_view title;
   FormControl control = FormControl::toggle;
-  std::function<FormValue(const Record&)> get = {};
-  std::function<void(Record&, const FormValue&)> set = {};
-  std::function<bool(const Record&)> shown = {}; ///< always, when it is empty
+  std::function<FormValue(const StyleDraft&)> get = {};
+  /// A value of another kind than the row's changes nothing.
+  std::function<void(StyleDraft&, const FormValue&)> set = {};
+  std::function<bool(const StyleDraft&)> shown = {}; ///< always, when it is empty
   NumberRange range = {};
+  std::vector<FormOption> options = {};
+  std::string_view label = {};  ///< of a choice; spoken, not shown
+  bool isBehindDivider = false; ///< a line sets it apart from the row above
 };
 
-/// A row over one field of the record.
+/// A row over one field of a family's record.
 template <class Record, class Field>
-FormRow<Record> rowOver(std::string_view title, FormControl control, Field Record::*field) {
+FormRow rowOver(std::string_view title, FormControl control, Field Record::*field) {
   return {.title = title,
           .control = control,
-          .get = [field](const Record& record) { return FormValue(record.*field); },
+          .get =
+              [field](const StyleDraft& draft) {
+                return FormValue(std::get<Record>(draft.record).*field);
+              },
           .set =
-              [field](Record& record, const FormValue& value) {
-                if (const auto* told = std::get_if<Field>(&value)) record.*field = *told;
+              [field](StyleDraft& draft, const FormValue& value) {
+                if (const auto* told = std::get_if<Field>(&value))
+                  std::get<Record>(draft.record).*field = *told;
               }};
+}
+
+/// The same row, where the condition holds.
+inline FormRow shownWhen(std::function<bool(const StyleDraft&)> condition, FormRow row) {
+  row.shown = std::move(condition);
+  return row;
 }
 
 /// A row as it is shown now.
 struct ShownRow {
-  std::size_t row = 0; ///< which of the form's
-  std::string_view title;
-  FormControl control = FormControl::toggle;
+  std::size_t index = 0; ///< which of the form's
+  FormRow row;
   FormValue value;
-  NumberRange range;
-  bool operator==(const ShownRow&) const = default;
+};
+
+/// The rows of a step over a draft.
+class Form final {
+ public:
+  explicit Form(std::vector<FormRow> rows) : rows_(std::move(rows)) {}
+
+  std::vector<ShownRow> shownRows(const StyleDraft& draft) const;
+  /// Numbers of a stepper stay in its range; an index without a row changes nothing.
+  void setValue(StyleDraft& draft, std::size_t index, const FormValue& value) const;
+
+ private:
+  std::vector<FormRow> rows_;
 };
 
 /// What a font row shows for a name.

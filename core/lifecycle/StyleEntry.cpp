@@ -3,21 +3,21 @@
 namespace vitrelle {
 
 void StyleEntry::appear() {
-  storedDataArray_->load();
+  storedDataArray_.load();
   changed();
 }
 
 bool StyleEntry::canRead() {
-  if (!storedDataArray_->loaded()) storedDataArray_->load();
-  if (!storedDataArray_->loaded()) platform_.haptics.error();
-  return storedDataArray_->loaded();
+  if (!storedDataArray_.loaded()) storedDataArray_.load();
+  if (!storedDataArray_.loaded()) platform_.haptics.error();
+  return storedDataArray_.loaded();
 }
 
 void StyleEntry::tapCreate() {
-  if (!hasEditor_ || !canRead()) return;
-  if (storedDataArray_->count() < maximumWidgetStyles) {
+  if (!family_.hasEditor() || !canRead()) return;
+  if (storedDataArray_.count() < maximumWidgetStyles) {
     platform_.haptics.lightImpact();
-    showCreate_ = !showCreate_;
+    toggle(FlowStart::create);
   } else {
     platform_.haptics.error();
     showingOverAlert_ = true;
@@ -27,15 +27,15 @@ void StyleEntry::tapCreate() {
 
 void StyleEntry::tapGallery() {
   platform_.haptics.lightImpact();
-  showGallery_ = !showGallery_;
+  toggle(FlowStart::gallery);
   changed();
 }
 
 void StyleEntry::tapPreview() {
   if (!canRead()) return;
-  if (storedDataArray_->count() != 0) {
+  if (storedDataArray_.count() != 0) {
     platform_.haptics.lightImpact();
-    showPreview_ = !showPreview_;
+    toggle(FlowStart::preview);
   } else {
     platform_.haptics.error();
     showingNoConfigAlert_ = true;
@@ -43,8 +43,17 @@ void StyleEntry::tapPreview() {
   changed();
 }
 
+void StyleEntry::toggle(FlowStart start) {
+  if (shows(start)) {
+    flow_.reset();
+    return;
+  }
+  start_ = start;
+  flow_ = std::make_shared<StyleFlow>(platform_, family_, start, [this] { dismissSheet(); });
+}
+
 void StyleEntry::dismissSheet() {
-  showCreate_ = showGallery_ = showPreview_ = false;
+  flow_.reset();
   appear();
 }
 
@@ -54,8 +63,9 @@ void StyleEntry::dismissAlert() {
 }
 
 std::optional<Alert> StyleEntry::alert() const {
-  if (showingOverAlert_) return Alert{words_.overLimitTitle, words_.overLimitMessage};
-  if (showingNoConfigAlert_) return Alert{familyWords::noPreviewTitle, words_.noPreviewMessage};
+  const FamilyDescription& words = family_.words();
+  if (showingOverAlert_) return Alert{words.overLimitTitle, words.overLimitMessage};
+  if (showingNoConfigAlert_) return Alert{familyWords::noPreviewTitle, words.noPreviewMessage};
   return std::nullopt;
 }
 

@@ -1,34 +1,25 @@
 // The entry screen of a family: leads to a new style, the gallery and the preview.
 #pragma once
 
-#include "core/lifecycle/FamilyTable.h"
+#include "core/lifecycle/Alert.h"
+#include "core/lifecycle/StyleFlow.h"
 #include "core/lifecycle/StyleRecords.h"
 #include "core/platform/Screen.h"
 
 #include <memory>
 #include <optional>
-#include <string_view>
 
 namespace vitrelle {
 
-struct Alert {
-  std::string_view title;
-  std::string_view message;
-  bool operator==(const Alert&) const = default;
-};
-
 class StyleEntry final : public Screen {
  public:
-  StyleEntry(const Platform& platform, const FamilyDescription& words,
-             std::unique_ptr<StyleRecords> stored, bool hasEditor)
-      : platform_(platform),
-        words_(words),
-        storedDataArray_(std::move(stored)),
-        hasEditor_(hasEditor) {}
+  /// The platform and the family must outlive it.
+  StyleEntry(const Platform& platform, const StyleFamily& family)
+      : platform_(platform), family_(family), storedDataArray_(platform, family.store()) {}
 
   /// Also when a sheet over it is gone, so that the limit holds for what was made there.
   void appear();
-  /// Opens the setup of a new style, or says why not: a family has a most. Nothing in a family
+  /// Opens the way to a new style, or says why not: a family has a most. Nothing in a family
   /// whose editor is still to be made.
   void tapCreate();
   void tapGallery();
@@ -37,24 +28,26 @@ class StyleEntry final : public Screen {
   void dismissSheet();
   void dismissAlert();
 
-  const FamilyDescription& words() const { return words_; }
-  bool hasEditor() const { return hasEditor_; }
-  bool showCreate() const { return showCreate_; }
-  bool showGallery() const { return showGallery_; }
-  bool showPreview() const { return showPreview_; }
+  const StyleFamily& family() const { return family_; }
+  bool showCreate() const { return shows(FlowStart::create); }
+  bool showGallery() const { return shows(FlowStart::gallery); }
+  bool showPreview() const { return shows(FlowStart::preview); }
+  /// What the sheet holds, while one is shown. Shared with whoever still draws one that leaves.
+  const std::shared_ptr<StyleFlow>& flow() const { return flow_; }
   std::optional<Alert> alert() const;
 
  private:
   /// Whether the styles are known; only felt if not. Neither a limit nor an absence shows without.
   bool canRead();
+  bool shows(FlowStart start) const { return flow_ && start_ == start; }
+  /// Opens the sheet, or closes it where it is open.
+  void toggle(FlowStart start);
 
   const Platform& platform_;
-  const FamilyDescription& words_;
-  std::unique_ptr<StyleRecords> storedDataArray_;
-  bool hasEditor_;
-  bool showCreate_ = false;
-  bool showGallery_ = false;
-  bool showPreview_ = false;
+  const StyleFamily& family_;
+  StyleRecords storedDataArray_;
+  std::shared_ptr<StyleFlow> flow_;
+  FlowStart start_ = FlowStart::create;
   bool showingOverAlert_ = false;
   bool showingNoConfigAlert_ = false;
 };

@@ -1,31 +1,89 @@
-// What a family brings to the shared screens besides its words: its face and the rows of its two
-// forms.
+// A widget family as the shared screens know it: how its styles look, what its forms edit, and what
+// else its screens do differently. Each family stands in a folder of its own under core/families.
 #pragma once
 
 #include "core/drawing/View.h"
 #include "core/lifecycle/FamilyTable.h"
 #include "core/lifecycle/Form.h"
-#include "core/store/Family.h"
+#include "core/lifecycle/StyleDraft.h"
+#include "core/platform/Platform.h"
 
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace vitrelle {
 
 /// Where a face is shown, since some are laid out by that.
-enum class FaceUse { setup, second, gallery, assign, preview };
+enum class FaceUse { setup, second, gallery, assign, preview, widget };
 
-template <class Record>
-struct StyleFamily {
-  const Family<Record>& store;
-  /// The look of a record. Read anew at each drawing: it may show the time.
-  View (*face)(const Platform& platform, const Record& record, FaceUse use);
-  std::vector<FormRow<Record>> setupRows;
-  /// Copies what the setup edits, and nothing else.
-  void (*copySetup)(const Record& from, Record& to);
-  std::vector<FormRow<Record>> secondRows;
-  void (*copySecond)(const Record& from, Record& to);
+enum class EditorStep { setup, second };
 
-  const FamilyDescription& words() const { return familyDescription(store.name); }
+/// A square at the top of a page of the preview, where a small widget lies.
+PointRect topBox(const Platform& platform, const PointSize& page, double side);
+
+/// One of the kinds of style that a family lets choose before its form.
+struct StyleKind {
+  std::string_view pickedStyle; ///< as the screens pass it on
+  std::string_view caption;
+  View (*sample)(const Platform& platform);
+};
+
+class StyleFamily {
+ public:
+  explicit StyleFamily(std::string_view name)
+      : words_(familyDescription(name)), store_(familyStore(name)) {}
+  StyleFamily(const StyleFamily&) = delete;
+  StyleFamily& operator=(const StyleFamily&) = delete;
+  virtual ~StyleFamily() = default;
+
+  const FamilyDescription& words() const { return words_; }
+  const FamilyStore& store() const { return store_; }
+
+  /// The look of a record of this family. Asked anew at each drawing: it may show the time.
+  virtual View face(const Platform& platform, const StyleRecord& record, FaceUse use) const = 0;
+  /// The look of what a form edits.
+  virtual View draftFace(const Platform& platform, const StyleDraft& draft, FaceUse use) const {
+    return face(platform, draft.record, use);
+  }
+  /// Brings the family's faces to life for as long as the subscription is held: starts what they
+  /// wait for, and calls when they look different though no record has changed.
+  virtual Subscription live(const Platform&, std::function<void()> /*changed*/) const { return {}; }
+  /// Where on a page of the preview, as large as told, the face lies.
+  virtual PointRect previewBox(const Platform& platform, const PointSize& page) const;
+
+  /// Whether its styles can be made and changed; all other screens are there for every family.
+  virtual bool hasEditor() const { return true; }
+  /// Chosen between the entry and the form, if there are any.
+  virtual std::span<const StyleKind> kinds() const { return {}; }
+
+  /// Which of them a record is of.
+  virtual std::string kindOf(const StyleRecord&) const { return {}; }
+
+  /// What a new style begins with.
+  virtual StyleDraft newDraft(std::string_view kind) const {
+    return {.record = store_.newRecord(0), .kind = std::string(kind)};
+  }
+  /// What the setup and the linking screen take of a stored record.
+  virtual StyleDraft draftOf(const StyleRecord& record) const {
+    return {.record = record, .kind = kindOf(record)};
+  }
+  /// What the second step begins with, over what is stored by then.
+  virtual StyleDraft secondDraft(const Platform&, const StyleRecord& record, bool /*isNew*/) const {
+    return {.record = record, .kind = kindOf(record)};
+  }
+  virtual std::vector<FormRow> rows(EditorStep step) const = 0;
+  /// Writes what the step edits into a record, and nothing else.
+  virtual void copy(EditorStep step, const StyleDraft& from, StyleRecord& to) const = 0;
+  /// Stores what a draft holds beside its record, before that is stored. A failure ends the saving
+  /// with nothing changed.
+  virtual Status keep(const Platform&, const StyleDraft&, RecordIndex) const { return success(); }
+
+ private:
+  const FamilyDescription& words_;
+  const FamilyStore& store_;
 };
 
 } // namespace vitrelle

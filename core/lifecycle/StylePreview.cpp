@@ -19,32 +19,42 @@ double smallWidgetSide(const Platform& platform) {
 
 } // namespace
 
-StylePreview::StylePreview(const Platform& platform, const FamilyDescription& words,
-                           const Key<std::int64_t>& selected)
+StylePreview::StylePreview(const Platform& platform, const StyleFamily& family)
     : platform_(platform),
-      words_(words),
+      family_(family),
+      storedDataArray_(platform, family.store()),
       amountOfConfigs_(platform, keys::amountOfConfigs),
-      selectedConfig_(platform, selected),
-      widgetSide_(smallWidgetSide(platform)),
-      amountBinding_(amountOfConfigs_.onChange([this](const auto&) { changed(); })) {}
+      selectedConfig_(platform, family.store().selected),
+      widgetSide_(smallWidgetSide(platform)) {
+  bindings_.push_back(amountOfConfigs_.onChange([this](const auto&) { changed(); }));
+  bindings_.push_back(family.live(platform, [this] { changed(); }));
+}
 
 void StylePreview::appear() {
   img_ = currentSlice(platform_, WidgetLocationImageNames::mediumTop);
-  stored().load();
-  const std::int64_t current = selectedConfig_.getOrDefault();
-  for (std::size_t i = 0; i < stored().count(); ++i) {
-    if (stored().tag(i) == current) copy(i);
+  storedDataArray_.load();
+  const RecordIndex current{selectedConfig_.getOrDefault()};
+  shown_.reset();
+  for (const StyleRecord& record : storedDataArray_.records) {
+    if (tagOf(record) == current) shown_ = record;
   }
   changed();
+}
+
+DisplayList StylePreview::face(const PointSize& frame) const {
+  if (!shown_) return {};
+  const View whole = family_.face(platform_, *shown_, FaceUse::preview);
+  return layOut(shrunkToFit(whole, frame.width / widgetSide_), frame, platform_.drawing);
 }
 
 std::vector<std::optional<SliceName>> StylePreview::pages() const {
   std::vector<std::optional<SliceName>> pages;
   const std::int64_t amount = listed(amountOfConfigs_.getOrDefault());
   for (std::int64_t config = 0; config < amount; ++config) {
-    auto whole = findSlice(platform_, WidgetLocationImageNames::fullImage, config, lightStyle);
+    const StyleNumber number{config};
+    auto whole = findSlice(platform_, WidgetLocationImageNames::fullImage, number, lightStyle);
     if (!whole)
-      whole = findSlice(platform_, WidgetLocationImageNames::fullImage, config, darkStyle);
+      whole = findSlice(platform_, WidgetLocationImageNames::fullImage, number, darkStyle);
     pages.push_back(std::move(whole));
   }
   return pages;
@@ -53,14 +63,6 @@ std::vector<std::optional<SliceName>> StylePreview::pages() const {
 PointSize StylePreview::pageSize() const {
   const PointSize screen = platform_.device.screenBounds();
   return {screen.width / 1.5, screen.height / 1.5};
-}
-
-PointRect StylePreview::widgetBox() const {
-  const PointSize screen = platform_.device.screenBounds();
-  const double side = screen.width * 0.25;
-  // The square and the padding behind it stand in the middle of the page's width.
-  const double left = (pageSize().width - (side + screen.width / 3.5)) / 2;
-  return {left, screen.height / 1.5 * 0.125, side, side};
 }
 
 } // namespace vitrelle

@@ -12,11 +12,12 @@
 
 namespace vitrelle {
 
-class StylePreview : public Screen {
+class StylePreview final : public Screen {
  public:
   static constexpr double pageSpacing = 21; ///< points
 
-  virtual ~StylePreview() = default;
+  /// The platform and the family must outlive it.
+  StylePreview(const Platform& platform, const StyleFamily& family);
 
   /// Reads the slice and the records anew. Of several records with the tag of the current style
   /// the last is shown; without one nothing is.
@@ -24,57 +25,25 @@ class StylePreview : public Screen {
   /// One for each wallpaper style: its light screenshot, else its dark one, if there is either.
   std::vector<std::optional<SliceName>> pages() const;
   PointSize pageSize() const; ///< points
-  /// Where on a page the widget lies: at the place of the top left small one.
-  PointRect widgetBox() const;
+  /// Where on a page the face lies.
+  PointRect widgetBox() const { return family_.previewBox(platform_, pageSize()); }
 
-  const FamilyDescription& words() const { return words_; }
+  const StyleFamily& family() const { return family_; }
   const std::optional<SliceName>& img() const { return img_; }
   /// The record in the middle of the frame: at its own size where the frame shows it whole, else
   /// smaller, down to the size at which the frame shows what the widget does.
-  virtual DisplayList face(const PointSize& frame) const = 0;
-
- protected:
-  StylePreview(const Platform& platform, const FamilyDescription& words,
-               const Key<std::int64_t>& selected);
-
-  const Platform& platform() const { return platform_; }
-  /// The side of the small widget on the screen, points.
-  double widgetSide() const { return widgetSide_; }
-  virtual StyleRecords& stored() = 0;
-  virtual void copy(std::size_t index) = 0;
+  DisplayList face(const PointSize& frame) const;
 
  private:
   const Platform& platform_;
-  const FamilyDescription& words_;
+  const StyleFamily& family_;
+  StyleRecords storedDataArray_;
   StoredValue<std::int64_t> amountOfConfigs_;
   StoredValue<std::int64_t> selectedConfig_;
   std::optional<SliceName> img_;
-  double widgetSide_;
-  Subscription amountBinding_; ///< last, for it calls this screen
-};
-
-template <class Record>
-class StylePreviewOf final : public StylePreview {
- public:
-  /// The family must outlive it.
-  StylePreviewOf(const Platform& platform, const StyleFamily<Record>& family)
-      : StylePreview(platform, family.words(), family.store.selected),
-        family_(family),
-        storedDataArray_(platform, family.store) {}
-
-  DisplayList face(const PointSize& frame) const override {
-    const View whole = family_.face(platform(), record_, FaceUse::preview);
-    return layOut(shrunkToFit(whole, frame.width / widgetSide()), frame, platform().drawing);
-  }
-
- protected:
-  StyleRecords& stored() override { return storedDataArray_; }
-  void copy(std::size_t index) override { record_ = storedDataArray_.records[index]; }
-
- private:
-  const StyleFamily<Record>& family_;
-  FamilyRecords<Record> storedDataArray_;
-  Record record_;
+  std::optional<StyleRecord> shown_;
+  double widgetSide_;                  ///< of a small widget on the screen, points
+  std::vector<Subscription> bindings_; ///< last, for they call this screen
 };
 
 } // namespace vitrelle

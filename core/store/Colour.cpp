@@ -84,6 +84,12 @@ Colour Colour::parse(std::string_view text) {
   }
 }
 
+bool Colour::isWritten(std::string_view text) {
+  if (text.starts_with('#')) text.remove_prefix(1);
+  return (text.size() == 6 || text.size() == 8) &&
+         text.find_first_not_of("0123456789abcdefABCDEF") == std::string_view::npos;
+}
+
 std::optional<std::string> Colour::hex(bool includeAlpha) const {
   if (!resolved) return std::nullopt;
   const auto byte = [](float part) { return static_cast<unsigned long>(std::lround(part * 255)); };

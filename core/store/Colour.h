@@ -1,6 +1,8 @@
 // A colour as records hold it, and its coding as a string: six hexadecimal digits, RRGGBB.
 #pragma once
 
+#include "core/platform/PlatformColour.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,6 +25,9 @@ struct Colour {
   /// it and every "#" in it are ignored. Any other length is opaque black, and digits are read as
   /// far as they go: "GG0000" is black too.
   static Colour parse(std::string_view text);
+  /// Whether a person who writes a colour has written one: six or eight digits, with or without
+  /// "#".
+  static bool isWritten(std::string_view text);
 
   /// Upper-case digits without "#", each component rounded to the nearest byte, halves away from
   /// zero. Nothing for an unresolved colour.
@@ -30,6 +35,11 @@ struct Colour {
 
   bool operator==(const Colour&) const = default;
 };
+
+/// As it is drawn; an unresolved one as it happens to be.
+inline PlatformColour platformColour(const Colour& colour) {
+  return {colour.red, colour.green, colour.blue, colour.alpha};
+}
 
 namespace colours {
 

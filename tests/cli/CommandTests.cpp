@@ -185,7 +185,8 @@ TEST_F(CommandTest, foreignText_isShownInOneLineAndToldExactly) {
             "vitrelle: no\\x1b[31m\\n.png: No such file or directory\n");
   EXPECT_EQ(run({"sl\x1b[31m\nice"}).complaints,
             "vitrelle: there is no 'sl\\x1b[31m\\nice' (see 'vitrelle --help')\n");
-  const std::string words = run({"face", "text", "--text", "a\x1b[1mb", "--list"}).output;
+  const std::string words =
+      run({"face", "text", "--set", "textWidgetText=a\x1b[1mb", "--list"}).output;
   EXPECT_NE(words.find("text \"a\\x1b[1mb\""), std::string::npos) << words;
 }
 

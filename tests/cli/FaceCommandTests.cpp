@@ -16,7 +16,8 @@ class FaceCommandTest : public test::ProgramTest {
 
 TEST_F(FaceCommandTest, text_isDrawnAtTheSlotsSize) {
   const test::Outcome drawn =
-      run({"face", "text", "--text", "Hello", "--size", "30", "--no-shadow", "--list", file()});
+      run({"face", "text", "--set", "textWidgetText=Hello", "--set", "textWidgetSize=30", "--set",
+           "textWidgetShadow=false", "--list", file()});
   ASSERT_EQ(drawn.status, 0) << drawn.complaints;
   EXPECT_TRUE(drawn.complaints.empty()) << drawn.complaints;
   EXPECT_TRUE(drawn.output.starts_with("text \"Hello\" in \"\" 30 FFFFFF at ")) << drawn.output;
@@ -33,7 +34,7 @@ TEST_F(FaceCommandTest, text_isDrawnAtTheSlotsSize) {
 
 TEST_F(FaceCommandTest, everyPhone_hasFacesAsLargeAsItsSlices) {
   const auto sizeOn = [&](const std::vector<std::string>& told) {
-    std::vector<std::string> arguments{"face", "text", "--text", "x", file()};
+    std::vector<std::string> arguments{"face", "text", "--set", "textWidgetText=x", file()};
     arguments.insert(arguments.end(), told.begin(), told.end());
     EXPECT_EQ(run(arguments).status, 0);
     return readPicture(file()).size;
@@ -79,7 +80,7 @@ TEST_F(FaceCommandTest, record_isDrawnOverItsSlice) {
 
 TEST_F(FaceCommandTest, standardOutput_takesThePicture) {
   for (const char* name : {"/proc/self/fd/1"}) {
-    const test::Outcome outcome = run({"face", "text", "--text", "x", name});
+    const test::Outcome outcome = run({"face", "text", "--set", "textWidgetText=x", name});
     EXPECT_EQ(outcome.status, 0) << outcome.complaints;
     EXPECT_TRUE(outcome.output.starts_with("\x89PNG")) << name;
     EXPECT_TRUE(outcome.output.ends_with("IEND\xae\x42\x60\x82")) << name;
@@ -91,18 +92,25 @@ TEST_F(FaceCommandTest, wrongUsage_isTold) {
   for (const Arguments& arguments : {Arguments{"face"},
                                      {"face", "text"},
                                      {"face", "clockwork", file()},
-                                     {"face", "text", "--size", "0", file()},
-                                     {"face", "text", "--colour", "red", file()},
+                                     {"face", "text", "--set", "textWidgetSize", file()},
                                      {"face", "text", "--frame", "12", file()},
                                      {"face", "text", "--slot", "original", file()},
-                                     {"face", "text", "--record", "0", "--text", "x", file()},
+                                     {"face", "text", "--record", "0", "--current", file()},
                                      {"face", "text", "--scale", "4", file()}}) {
     const test::Outcome outcome = run(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments.back();
     EXPECT_TRUE(outcome.complaints.starts_with("vitrelle: ")) << outcome.complaints;
   }
+  for (const char* field : {"textWidgetColour=red", "textWidgetTextColour=red", "textWidgetSize=1x",
+                            "textWidgetShadow=1"}) {
+    const test::Outcome outcome = run({"face", "text", "--set", field, file()});
+    EXPECT_EQ(outcome.status, 1) << field;
+    EXPECT_TRUE(outcome.complaints.starts_with("vitrelle: textWidget")) << outcome.complaints;
+  }
+  EXPECT_EQ(run({"face", "text", "--current", file()}).complaints,
+            "vitrelle: savedTextWidgetData: it has no records\n");
   EXPECT_EQ(run({"face", "text", "--background", "slice", file()}).status, 1) << "there is none";
-  EXPECT_EQ(run({"face", "text", "--text", "x", "/proc/none/face.png"}).status, 1);
+  EXPECT_EQ(run({"face", "text", "--set", "textWidgetText=x", "/proc/none/face.png"}).status, 1);
 }
 
 } // namespace

@@ -74,7 +74,7 @@ TEST_F(FamilyPageTest, style_isMadeFromTheRootFoundAndEdited) {
   driver->click("saveAndExit");
   EXPECT_EQ(records()[0].textWidgetTextColour.hex(false), "FF8000");
   EXPECT_EQ(number("textSelectedConfig"), 0);
-  waitForEndOf("setupSheet");
+  waitForEndOf("familySheet");
 
   driver->click("gallery");
   waitFor("tile0");
@@ -100,7 +100,7 @@ TEST_F(FamilyPageTest, style_isMadeFromTheRootFoundAndEdited) {
   EXPECT_EQ(records()[0].textWidgetText, "Hi there!");
   EXPECT_EQ(records()[0].textWidgetTextColour.hex(false), "FF8000");
   driver->click("sheetClose");
-  waitForEndOf("gallerySheet");
+  waitForEndOf("familySheet");
 }
 
 TEST_F(FamilyPageTest, limits_areTold) {
@@ -112,7 +112,7 @@ TEST_F(FamilyPageTest, limits_areTold) {
   waitFor("galleryPlaceholder");
   EXPECT_EQ(text("galleryPlaceholder"), "No Text Widget Styles");
   driver->key(Qt::Key_Escape);
-  waitForEndOf("gallerySheet");
+  waitForEndOf("familySheet");
 
   store(12);
   driver->key(Qt::Key_Escape); // to the root and back: the page reads the store when it appears
@@ -126,8 +126,8 @@ TEST_F(FamilyPageTest, familyWithoutAnEditor_makesNothing) {
   openAt("CustomNowPlayingView");
   driver->click("create");
   driver->click("gallery");
-  EXPECT_TRUE(driver->isShown("gallerySheet"));
-  EXPECT_FALSE(driver->isShown("setupSheet"));
+  EXPECT_TRUE(driver->isShown("galleryPage"));
+  EXPECT_FALSE(driver->isShown("setupPage"));
 }
 
 TEST_F(FamilyPageTest, gallery_ticksAndLinksAndRefuses) {
@@ -181,7 +181,7 @@ TEST_F(FamilyPageTest, keys_comeBackToWhereTheyWere) {
   openAt("ModernCustomTextView");
   EXPECT_TRUE(driver->find("create")->hasActiveFocus());
   driver->key(Qt::Key_Tab);
-  for (const char* sheet : {"gallerySheet", "gallerySheet"}) {
+  for (const char* sheet : {"familySheet", "familySheet"}) {
     driver->key(Qt::Key_Return);
     waitFor(sheet);
     driver->key(Qt::Key_Escape);
@@ -247,7 +247,7 @@ TEST_F(FamilyPageTest, tab_staysInWhatIsAbove) {
   };
   driver->click("gallery");
   waitFor("tile1");
-  expectWithin("gallerySheet");
+  expectWithin("familySheet");
   driver->click("tile1", Qt::RightButton);
   expectWithin("tileMenu");
   driver->key(Qt::Key_Escape);

@@ -1,6 +1,6 @@
 #include "ui/app/ScreenTable.h"
 
-#include "core/faces/FamilyScreens.h"
+#include "core/families/Families.h"
 #include "ui/lifecycle/FamilyWords.h"
 
 namespace vitrelle::ui {
@@ -13,6 +13,7 @@ struct FamilyPage {
   bool needsEditor;
 };
 constexpr FamilyPage familyPages[] = {{&FamilyDescription::entryScreen, "entry", false},
+                                      {&FamilyDescription::stylesScreen, "kinds", true},
                                       {&FamilyDescription::setupScreen, "setup", true},
                                       {&FamilyDescription::secondScreen, "second", true},
                                       {&FamilyDescription::galleryScreen, "gallery", false},
@@ -22,9 +23,9 @@ constexpr FamilyPage familyPages[] = {{&FamilyDescription::entryScreen, "entry",
 QList<ScreenEntry> familyTableEntries() {
   QList<ScreenEntry> entries;
   for (const FamilyDescription& family : familyTable) {
-    const bool hasEditor = familyScreens(family.name).hasEditor();
+    const bool hasEditor = styleFamily(family.name).hasEditor();
     for (const FamilyPage& page : familyPages) {
-      if (page.needsEditor && !hasEditor) continue;
+      if ((family.*page.typeName).empty() || (page.needsEditor && !hasEditor)) continue;
       entries += {.name = qText(family.*page.typeName),
                   .page = QString::fromLatin1(page.page),
                   .family = qText(family.name)};

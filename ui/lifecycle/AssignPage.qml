@@ -6,20 +6,22 @@ SheetPage {
     id: page
     objectName: "assignPage"
 
-    required property AssignScreen assign
+    required property AssignScreen screen
 
-    title: assign.words.assignTitle
+    signal saved
+
+    title: screen.words.assignTitle
     symbol: SharedWords.assignSymbol
     spacing: 20
-    covered: menu.shown || assign.alertTitle !== ""
-    Component.onCompleted: assign.appear()
+    covered: menu.shown || screen.alertTitle !== ""
+    Component.onCompleted: screen.appear()
 
     WidgetPreview {
         anchors.horizontalCenter: parent.horizontalCenter
-        face: page.assign.face
-        backdrop: page.assign.backdrop
-        previewWidth: page.assign.previewWidth
-        previewHeight: page.assign.previewHeight
+        face: page.screen.face
+        backdrop: page.screen.backdrop
+        previewWidth: page.screen.previewWidth
+        previewHeight: page.screen.previewHeight
     }
     Label {
         x: 30
@@ -36,24 +38,18 @@ SheetPage {
         width: Shell.screenWidth - 60
         title: SharedWords.assignPicker
         mark: "chevron.up.chevron.down"
-        value: page.assign.picked >= 0 ? page.assign.options[page.assign.picked] : ""
-        onPressed: menu.openAt(picker, Qt.point(width - 250, height + 4), options.itemAt(page.assign.picked))
+        value: page.screen.picked >= 0 ? page.screen.options[page.screen.picked] : ""
+        onPressed: menu.openAt(picker, Qt.point(width - 250, height + 4), options.itemAt(page.screen.picked))
         picture: WallpaperThumbnail {
             objectName: "pickedWallpaper"
-            styleNumber: page.assign.picked >= 0 ? page.assign.wallpapers[page.assign.picked] : -1
+            styleNumber: page.screen.picked >= 0 ? page.screen.wallpapers[page.screen.picked] : -1
         }
     }
     ActionButton {
         objectName: "saveAndExit"
         anchors.horizontalCenter: parent.horizontalCenter
         name: SharedWords.saveAndExit
-        onPressed: {
-            if (!page.assign.save())
-                return;
-            if (page.assign.isSaved())
-                Shell.showNotice(qsTrId("app.saved"), Shell.Done);
-            page.closed();
-        }
+        onPressed: page.saved()
     }
     overlay: [
         ContextMenu {
@@ -61,7 +57,7 @@ SheetPage {
 
             Repeater {
                 id: options
-                model: page.assign.options
+                model: page.screen.options
 
                 MenuEntry {
                     required property int index
@@ -70,12 +66,12 @@ SheetPage {
                     objectName: "option" + index
                     width: parent.width
                     name: modelData
-                    symbol: index === page.assign.picked ? "checkmark" : ""
+                    symbol: index === page.screen.picked ? "checkmark" : ""
                     leading: WallpaperThumbnail {
-                        styleNumber: page.assign.wallpapers[index]
+                        styleNumber: page.screen.wallpapers[index]
                     }
                     onPressed: {
-                        page.assign.pick(index);
+                        page.screen.pick(index);
                         menu.close();
                     }
                 }
@@ -83,10 +79,10 @@ SheetPage {
         },
         AlertBox {
             objectName: "assignAlert"
-            title: page.assign.alertTitle
-            message: page.assign.alertMessage
-            shown: page.assign.alertTitle !== ""
-            onDismissed: page.assign.dismissAlert()
+            title: page.screen.alertTitle
+            message: page.screen.alertMessage
+            shown: page.screen.alertTitle !== ""
+            onDismissed: page.screen.dismissAlert()
         }
     ]
 }

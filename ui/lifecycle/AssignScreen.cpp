@@ -1,12 +1,13 @@
 #include "ui/lifecycle/AssignScreen.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vitrelle::ui {
 
-AssignScreen::AssignScreen(const Platform& platform, const FamilyScreens& family,
-                           std::int64_t configNumber)
-    : screen_(family.assign(platform, configNumber)),
+AssignScreen::AssignScreen(const Platform& platform, std::shared_ptr<StyleAssign> screen)
+    : StyleScreen(screen->family(), "assign"),
+      screen_(std::move(screen)),
       previewSize_(mediumPreviewSize(platform)),
       view_(screen_->onChange([this] { Q_EMIT changed(); })) {}
 
@@ -20,20 +21,20 @@ QStringList AssignScreen::options() const {
 QList<int> AssignScreen::wallpapers() const {
   QList<int> numbers;
   for (const AssignOption& option : screen_->options())
-    numbers += option.value == noLinkedConfig ? -1 : static_cast<int>(option.value);
+    numbers += option.style ? static_cast<int>(option.style->value) : -1;
   return numbers;
 }
 
 int AssignScreen::picked() const {
   const std::vector<AssignOption> options = screen_->options();
-  const auto found = std::ranges::find(options, screen_->vitrelleConfig(), &AssignOption::value);
+  const auto found = std::ranges::find(options, screen_->vitrelleConfig(), &AssignOption::style);
   return found == options.end() ? -1 : static_cast<int>(found - options.begin());
 }
 
 void AssignScreen::pick(int option) {
   const std::vector<AssignOption> options = screen_->options();
   if (option >= 0 && static_cast<std::size_t>(option) < options.size())
-    screen_->pick(options[static_cast<std::size_t>(option)].value);
+    screen_->pick(options[static_cast<std::size_t>(option)].style);
 }
 
 } // namespace vitrelle::ui

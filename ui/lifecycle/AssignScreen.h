@@ -1,24 +1,21 @@
 // The assigning of a widget style to a wallpaper style as QML sees it.
 #pragma once
 
-#include "core/faces/FamilyScreens.h"
-#include "ui/lifecycle/FamilyWords.h"
+#include "core/lifecycle/StyleAssign.h"
+#include "ui/lifecycle/StyleScreen.h"
 #include "ui/parts/FaceItem.h"
 
 #include <QList>
-#include <QObject>
-#include <QQmlEngine>
 #include <QStringList>
 
 #include <memory>
 
 namespace vitrelle::ui {
 
-class AssignScreen : public QObject {
+class AssignScreen : public StyleScreen {
   Q_OBJECT
   QML_ELEMENT
-  QML_UNCREATABLE("the gallery makes it")
-  Q_PROPERTY(vitrelle::ui::FamilyWords words READ words CONSTANT)
+  QML_UNCREATABLE("the flow makes it")
   Q_PROPERTY(vitrelle::ui::Face face READ face NOTIFY changed)
   Q_PROPERTY(vitrelle::ui::BackdropName backdrop READ backdrop NOTIFY changed)
   Q_PROPERTY(qreal previewWidth READ previewWidth CONSTANT)
@@ -32,9 +29,8 @@ class AssignScreen : public QObject {
   Q_PROPERTY(QString alertMessage READ alertMessage NOTIFY changed)
 
  public:
-  AssignScreen(const Platform& platform, const FamilyScreens& family, std::int64_t configNumber);
+  AssignScreen(const Platform& platform, std::shared_ptr<StyleAssign> screen);
 
-  FamilyWords words() const { return FamilyWords(screen_->words()); }
   Face face() const { return Face::of(screen_->face(previewSize_)); }
   BackdropName backdrop() const { return BackdropName::of(screen_->img()); }
   qreal previewWidth() const { return previewSize_.width; }
@@ -47,16 +43,13 @@ class AssignScreen : public QObject {
 
   Q_INVOKABLE void appear() { screen_->appear(); }
   Q_INVOKABLE void pick(int option);
-  /// Whether the screen is done.
-  Q_INVOKABLE bool save() { return screen_->save(); }
-  Q_INVOKABLE bool isSaved() const { return screen_->isSaved(); }
   Q_INVOKABLE void dismissAlert() { screen_->dismissAlert(); }
 
  Q_SIGNALS:
   void changed();
 
  private:
-  std::unique_ptr<StyleAssign> screen_;
+  std::shared_ptr<StyleAssign> screen_;
   PointSize previewSize_;
   Subscription view_;
 };

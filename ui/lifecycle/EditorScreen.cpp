@@ -1,27 +1,35 @@
 #include "ui/lifecycle/EditorScreen.h"
 
+#include <string>
+#include <utility>
+
 namespace vitrelle::ui {
 
-EditorScreen::EditorScreen(const Platform& platform, const FamilyScreens& family,
-                           const EditorTask& task)
-    : EditorScreen(platform, family.setup(platform, task), nullptr) {}
-
-EditorScreen::EditorScreen(const Platform& platform, std::unique_ptr<StyleFirstStep> first,
-                           std::unique_ptr<StyleSecondStep> second)
-    : platform_(platform),
-      first_(std::move(first)),
-      second_(std::move(second)),
-      screen_(first_ ? static_cast<StyleEditor&>(*first_) : *second_),
+EditorScreen::EditorScreen(const Platform& platform, std::shared_ptr<StyleEditor> screen)
+    : StyleScreen(screen->family(), "editor"),
+      screen_(std::move(screen)),
+      second_(dynamic_cast<StyleSecond*>(screen_.get())),
       previewSize_(mediumPreviewSize(platform)),
-      form_(screen_),
-      view_(screen_.onChange([this] {
+      form_(*screen_),
+      view_(screen_->onChange([this] {
         form_.refresh();
         Q_EMIT changed();
       })) {}
 
+QString EditorScreen::sheet() const {
+  const auto active = screen_->activeSheet();
+  return active ? controlName(active->row.control) : QString();
+}
+
+QString EditorScreen::sheetValue() const {
+  const auto active = screen_->activeSheet();
+  const auto* words = active ? std::get_if<std::string>(&active->value) : nullptr;
+  return words == nullptr ? QString() : QString::fromStdString(*words);
+}
+
 QList<QColor> EditorScreen::suggestedColours() const {
   QList<QColor> colours;
-  if (!second_) return colours;
+  if (second_ == nullptr) return colours;
   for (const PlatformColour& colour : second_->suggestions().palleteColours()) {
     colours += QColor::fromRgbF(static_cast<float>(colour.red), static_cast<float>(colour.green),
                                 static_cast<float>(colour.blue));
@@ -30,13 +38,14 @@ QList<QColor> EditorScreen::suggestedColours() const {
 }
 
 void EditorScreen::settle() {
-  if (!second_ || settled_) return;
+  if (second_ == nullptr || settled_) return;
   settled_ = true;
   second_->startSuggestions();
 }
 
-EditorScreen* EditorScreen::next() const {
-  return first_ ? new EditorScreen(platform_, nullptr, first_->next()) : nullptr;
+void EditorScreen::pick(const QString& value) {
+  if (const auto active = screen_->activeSheet())
+    screen_->setValue(active->index, value.toStdString());
 }
 
 } // namespace vitrelle::ui

@@ -9,8 +9,17 @@ Page {
     required property FamilyScreen family
 
     title: family.words.entryTitle
-    covered: family.showCreate || family.showGallery || family.showPreview || family.alertTitle !== ""
+    covered: family.flow !== null || family.alertTitle !== ""
     Component.onCompleted: family.appear()
+
+    Connections {
+        target: page.family
+        function onChanged() {
+            if (page.family.flow)
+                sheet.flow = page.family.flow;
+            sheet.shown = page.family.flow !== null;
+        }
+    }
 
     Column {
         anchors.centerIn: parent
@@ -50,27 +59,21 @@ Page {
         }
     }
     overlay: [
-        Repeater {
-            model: ["setup", "gallery", "preview"]
+        Sheet {
+            id: sheet
 
-            Sheet {
-                id: sheet
-                required property string modelData
+            property FlowScreen flow: null // also while it goes away
 
-                objectName: modelData + "Sheet"
-                shown: modelData === "setup" ? page.family.showCreate : modelData === "gallery" ? page.family.showGallery : page.family.showPreview
-                onDismissed: page.family.dismissSheet()
+            objectName: "familySheet"
+            onDismissed: page.family.dismissSheet()
 
-                Loader {
-                    anchors.fill: parent
+            Loader {
+                anchors.fill: parent
+                focus: true
+                active: sheet.present
+                sourceComponent: StyleFlow {
                     focus: true
-                    active: sheet.present
-                    sourceComponent: StyleFlow {
-                        focus: true
-                        family: page.family
-                        start: sheet.modelData
-                        onClosed: page.family.dismissSheet()
-                    }
+                    flow: sheet.flow
                 }
             }
         },

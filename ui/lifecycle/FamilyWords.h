@@ -25,6 +25,8 @@ struct FamilyWords {
   Q_PROPERTY(QString galleryTitle MEMBER galleryTitle CONSTANT)
   Q_PROPERTY(QString assignItem MEMBER assignItem CONSTANT)
   Q_PROPERTY(QString assignTitle MEMBER assignTitle CONSTANT)
+  Q_PROPERTY(QString secondTitle MEMBER secondTitle CONSTANT)
+  Q_PROPERTY(QString secondSymbol MEMBER secondSymbol CONSTANT)
 
  public:
   explicit FamilyWords(const FamilyDescription& words)
@@ -32,7 +34,9 @@ struct FamilyWords {
         entrySymbol(qText(words.entrySymbol)),
         galleryTitle(qText(words.galleryTitle)),
         assignItem(qText(words.assignItem)),
-        assignTitle(qText(words.assignTitle)) {}
+        assignTitle(qText(words.assignTitle)),
+        secondTitle(qText(words.secondTitle)),
+        secondSymbol(qText(words.secondSymbol)) {}
   FamilyWords() = default;
 
   QString entryTitle;
@@ -40,6 +44,8 @@ struct FamilyWords {
   QString galleryTitle;
   QString assignItem;
   QString assignTitle;
+  QString secondTitle;
+  QString secondSymbol;
 };
 
 /// Which stored picture; style number -1 stands for the program's own.
@@ -57,7 +63,7 @@ struct BackdropName {
 
   static BackdropName of(const std::optional<SliceName>& slice) {
     if (!slice) return {};
-    return {QString::fromStdString(slice->stem), static_cast<int>(slice->style),
+    return {QString::fromStdString(slice->stem), static_cast<int>(slice->style.value),
             slice->appearance == darkStyle};
   }
   bool operator==(const BackdropName&) const = default;

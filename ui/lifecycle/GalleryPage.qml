@@ -6,28 +6,37 @@ SheetPage {
     id: page
     objectName: "galleryPage"
 
-    required property GalleryScreen gallery
+    required property GalleryScreen screen
+    property AssignScreen assignScreen: null // of the sheet over it
     property int asked: 0 // the tile whose menu is open
 
-    signal editAsked
+    signal editAsked(int index)
+    signal assignAsked(int index)
+    signal assignLeft
+    signal linkSaved
 
-    title: gallery.words.galleryTitle
+    title: screen.words.galleryTitle
     symbol: SharedWords.gallerySymbol
     spacing: 18
-    covered: menu.shown || gallery.showAssignSheet
-    Component.onCompleted: gallery.appear()
+    covered: menu.shown || assignScreen !== null
+    Component.onCompleted: screen.appear()
+    onAssignScreenChanged: {
+        if (assignScreen)
+            assignSheet.held = assignScreen;
+        assignSheet.shown = assignScreen !== null;
+    }
 
     Connections {
         target: Shell
         function onDarkChanged() {
-            page.gallery.appear();
+            page.screen.appear();
         }
     }
     Row {
         x: 30
         width: parent.width - 60
         spacing: 10
-        visible: page.gallery.placeholder === ""
+        visible: page.screen.placeholder === ""
 
         SymbolItem {
             anchors.verticalCenter: parent.verticalCenter
@@ -45,7 +54,7 @@ SheetPage {
     Item {
         width: parent.width
         height: page.height / 2
-        visible: page.gallery.placeholder !== ""
+        visible: page.screen.placeholder !== ""
 
         Column {
             anchors.centerIn: parent
@@ -54,7 +63,7 @@ SheetPage {
 
             SymbolItem {
                 anchors.horizontalCenter: parent.horizontalCenter
-                name: page.gallery.words.entrySymbol
+                name: page.screen.words.entrySymbol
                 size: 44
                 colour: Theme.accent
             }
@@ -64,16 +73,16 @@ SheetPage {
                 horizontalAlignment: Text.AlignHCenter
                 font.pixelSize: 18
                 font.weight: Font.DemiBold
-                text: page.gallery.placeholder
+                text: page.screen.placeholder
             }
         }
     }
     Grid {
         id: grid
         objectName: "grid"
-        x: (parent.width - columns * page.gallery.tileSide - (columns - 1) * spacing) / 2 // the first column's, also of a single tile
-        columns: page.gallery.columns
-        spacing: page.gallery.spacing
+        x: (parent.width - columns * page.screen.tileSide - (columns - 1) * spacing) / 2 // the first column's, also of a single tile
+        columns: page.screen.columns
+        spacing: page.screen.spacing
 
         function move(from: int, by: int) {
             const next = tiles.itemAt(from + by);
@@ -82,19 +91,19 @@ SheetPage {
         }
         Repeater {
             id: tiles
-            model: page.gallery.tiles
+            model: page.screen.tiles
 
             GalleryTile {
                 id: tile
-                gallery: page.gallery
+                gallery: page.screen
                 onMenuAsked: position => {
                     page.asked = index;
                     menu.openAt(tile, position);
                 }
                 Keys.onLeftPressed: grid.move(index, -1)
                 Keys.onRightPressed: grid.move(index, 1)
-                Keys.onUpPressed: grid.move(index, -page.gallery.columns)
-                Keys.onDownPressed: grid.move(index, page.gallery.columns)
+                Keys.onUpPressed: grid.move(index, -page.screen.columns)
+                Keys.onDownPressed: grid.move(index, page.screen.columns)
             }
         }
     }
@@ -106,31 +115,32 @@ SheetPage {
             MenuEntry {
                 objectName: "editEntry"
                 width: parent.width
-                visible: page.gallery.hasEditor
+                visible: page.screen.hasEditor
                 name: SharedWords.editItem
                 symbol: SharedWords.editSymbol
                 onPressed: {
                     menu.close();
-                    page.gallery.tapEdit(page.asked);
-                    page.editAsked();
+                    page.editAsked(page.asked);
                 }
             }
             MenuEntry {
                 objectName: "assignEntry"
                 width: parent.width
-                name: page.gallery.words.assignItem
+                name: page.screen.words.assignItem
                 symbol: SharedWords.assignSymbol
                 onPressed: {
                     menu.close();
-                    page.gallery.tapAssign(page.asked);
+                    page.assignAsked(page.asked);
                 }
             }
         },
         Sheet {
             id: assignSheet
             objectName: "assignSheet"
-            shown: page.gallery.showAssignSheet
-            onDismissed: page.gallery.dismissAssign()
+
+            property AssignScreen held: null // also while it goes away
+
+            onDismissed: page.assignLeft()
 
             Loader {
                 anchors.fill: parent
@@ -138,8 +148,9 @@ SheetPage {
                 active: assignSheet.present
                 sourceComponent: AssignPage {
                     focus: true
-                    assign: page.gallery.assign()
-                    onClosed: page.gallery.dismissAssign()
+                    screen: assignSheet.held
+                    onSaved: page.linkSaved()
+                    onClosed: page.assignLeft()
                 }
             }
         }

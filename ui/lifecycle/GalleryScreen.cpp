@@ -1,23 +1,16 @@
 #include "ui/lifecycle/GalleryScreen.h"
 
+#include <utility>
+
 namespace vitrelle::ui {
 
-GalleryScreen::GalleryScreen(const Platform& platform, const FamilyScreens& family)
-    : platform_(platform),
-      family_(family),
-      screen_(family.gallery(platform)),
+GalleryScreen::GalleryScreen(std::shared_ptr<StyleGallery> screen)
+    : StyleScreen(screen->family(), "gallery"),
+      screen_(std::move(screen)),
       tiles_(*screen_),
       view_(screen_->onChange([this] {
         tiles_.refresh();
         Q_EMIT changed();
       })) {}
-
-EditorScreen* GalleryScreen::editor() const {
-  return new EditorScreen(platform_, family_, {EditorMode::edit, screen_->needToEdit()});
-}
-
-AssignScreen* GalleryScreen::assign() const {
-  return new AssignScreen(platform_, family_, screen_->needToEdit());
-}
 
 } // namespace vitrelle::ui

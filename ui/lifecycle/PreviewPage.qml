@@ -7,26 +7,26 @@ SheetPage {
     id: page
     objectName: "previewPage"
 
-    required property PreviewScreen preview
+    required property PreviewScreen screen
 
     title: SharedWords.preview
-    symbol: preview.words.entrySymbol
+    symbol: screen.words.entrySymbol
     spacing: 22
     covered: whole.shown
-    Component.onCompleted: preview.appear()
+    Component.onCompleted: screen.appear()
 
     ListView {
         id: pager
         objectName: "previewPager"
         width: page.width
-        height: page.preview.pageHeight
+        height: page.screen.pageHeight
         orientation: ListView.Horizontal
-        model: page.preview.pages
-        spacing: page.preview.pageSpacing
+        model: page.screen.pages
+        spacing: page.screen.pageSpacing
         snapMode: ListView.SnapOneItem
         highlightRangeMode: ListView.StrictlyEnforceRange
-        preferredHighlightBegin: (width - page.preview.pageWidth) / 2
-        preferredHighlightEnd: preferredHighlightBegin + page.preview.pageWidth
+        preferredHighlightBegin: (width - page.screen.pageWidth) / 2
+        preferredHighlightEnd: preferredHighlightBegin + page.screen.pageWidth
         highlightMoveDuration: Theme.longTime
         focus: true
         activeFocusOnTab: true
@@ -36,7 +36,7 @@ SheetPage {
         Accessible.name: qsTrId("app.page").arg(currentIndex + 1).arg(count)
 
         delegate: WallpaperPage {
-            preview: page.preview
+            preview: page.screen
         }
         WheelHandler {
             property real turned: 0
@@ -80,8 +80,8 @@ SheetPage {
             active: whole.shown
             sourceComponent: WallpaperPage {
                 index: pager.currentIndex
-                modelData: page.preview.pages[pager.currentIndex]
-                preview: page.preview
+                modelData: page.screen.pages[pager.currentIndex]
+                preview: page.screen
                 radius: 0
                 enlarged: 1.5
             }

@@ -1,23 +1,21 @@
 // A family's current style on every wallpaper, as QML sees it.
 #pragma once
 
-#include "core/faces/FamilyScreens.h"
-#include "ui/lifecycle/FamilyWords.h"
+#include "core/lifecycle/StylePreview.h"
+#include "ui/lifecycle/StyleScreen.h"
 #include "ui/parts/FaceItem.h"
 
-#include <QObject>
-#include <QQmlEngine>
 #include <QRectF>
 
 #include <memory>
+#include <utility>
 
 namespace vitrelle::ui {
 
-class PreviewScreen : public QObject {
+class PreviewScreen : public StyleScreen {
   Q_OBJECT
   QML_ELEMENT
-  QML_UNCREATABLE("the family makes it")
-  Q_PROPERTY(vitrelle::ui::FamilyWords words READ words CONSTANT)
+  QML_UNCREATABLE("the flow makes it")
   Q_PROPERTY(vitrelle::ui::Face face READ face NOTIFY changed)
   Q_PROPERTY(QList<vitrelle::ui::BackdropName> pages READ pages NOTIFY changed)
   Q_PROPERTY(qreal pageWidth READ pageWidth CONSTANT)
@@ -26,10 +24,11 @@ class PreviewScreen : public QObject {
   Q_PROPERTY(QRectF widgetBox READ widgetBox CONSTANT)
 
  public:
-  PreviewScreen(const Platform& platform, const FamilyScreens& family)
-      : screen_(family.preview(platform)), view_(screen_->onChange([this] { Q_EMIT changed(); })) {}
+  explicit PreviewScreen(std::shared_ptr<StylePreview> screen)
+      : StyleScreen(screen->family(), "preview"),
+        screen_(std::move(screen)),
+        view_(screen_->onChange([this] { Q_EMIT changed(); })) {}
 
-  FamilyWords words() const { return FamilyWords(screen_->words()); }
   Face face() const;
   QList<BackdropName> pages() const;
   qreal pageWidth() const { return screen_->pageSize().width; }
@@ -43,7 +42,7 @@ class PreviewScreen : public QObject {
   void changed();
 
  private:
-  std::unique_ptr<StylePreview> screen_;
+  std::shared_ptr<StylePreview> screen_;
   Subscription view_;
 };
 

@@ -20,12 +20,13 @@ class SharedWords : public QObject {
   Q_PROPERTY(QString gallery READ gallery CONSTANT)
   Q_PROPERTY(QString preview READ preview CONSTANT)
   Q_PROPERTY(QString closeSymbol READ closeSymbol CONSTANT)
+  Q_PROPERTY(QString kindsTitle READ kindsTitle CONSTANT)
+  Q_PROPERTY(QString kindsSymbol READ kindsSymbol CONSTANT)
+  Q_PROPERTY(QString kindsNote READ kindsNote CONSTANT)
   Q_PROPERTY(QString setupTitle READ setupTitle CONSTANT)
   Q_PROPERTY(QString setupSymbol READ setupSymbol CONSTANT)
   Q_PROPERTY(QString previewHeading READ previewHeading CONSTANT)
   Q_PROPERTY(QString saveAndContinue READ saveAndContinue CONSTANT)
-  Q_PROPERTY(QString coloursTitle READ coloursTitle CONSTANT)
-  Q_PROPERTY(QString coloursSymbol READ coloursSymbol CONSTANT)
   Q_PROPERTY(QString saveAndExit READ saveAndExit CONSTANT)
   Q_PROPERTY(QString gallerySymbol READ gallerySymbol CONSTANT)
   Q_PROPERTY(QString galleryHint READ galleryHint CONSTANT)
@@ -49,12 +50,13 @@ class SharedWords : public QObject {
   static QString gallery() { return qText(familyWords::gallery); }
   static QString preview() { return qText(familyWords::preview); }
   static QString closeSymbol() { return qText(familyWords::closeSymbol); }
+  static QString kindsTitle() { return qText(familyWords::kindsTitle); }
+  static QString kindsSymbol() { return qText(familyWords::kindsSymbol); }
+  static QString kindsNote() { return qText(familyWords::kindsNote); }
   static QString setupTitle() { return qText(familyWords::setupTitle); }
   static QString setupSymbol() { return qText(familyWords::setupSymbol); }
   static QString previewHeading() { return qText(familyWords::previewHeading); }
   static QString saveAndContinue() { return qText(familyWords::saveAndContinue); }
-  static QString coloursTitle() { return qText(familyWords::coloursTitle); }
-  static QString coloursSymbol() { return qText(familyWords::coloursSymbol); }
   static QString saveAndExit() { return qText(familyWords::saveAndExit); }
   static QString gallerySymbol() { return qText(familyWords::gallerySymbol); }
   static QString galleryHint() { return qText(familyWords::galleryHint); }

@@ -28,8 +28,9 @@ QVariant TileList::data(const QModelIndex& index, int role) const {
   case currentRole:
     return tile.current;
   case linkedRole:
-    return std::in_range<int>(tile.linked.value_or(-1)) ? static_cast<int>(tile.linked.value_or(-1))
-                                                        : -1;
+    return tile.linked && std::in_range<int>(tile.linked->value)
+               ? static_cast<int>(tile.linked->value)
+               : -1;
   default:
     return {};
   }

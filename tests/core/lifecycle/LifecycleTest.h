@@ -1,7 +1,8 @@
 // Text styles in a platform in memory.
 #pragma once
 
-#include "core/faces/TextFamily.h"
+#include "core/families/Families.h"
+#include "core/lifecycle/StyleEntry.h"
 #include "core/store/GroupStore.h"
 #include "tests/core/app/AppTest.h"
 
@@ -12,7 +13,13 @@ namespace vitrelle::test {
 
 class LifecycleTest : public AppTest {
  protected:
-  LifecycleTest() { FakeDrawing::use(platform); }
+  LifecycleTest() {
+    FakeDrawing::use(platform);
+    time.use(platform);
+    battery.use(platform);
+  }
+  FakeTime time;
+  FakeBattery battery;
 
   std::vector<textWidgetData> stored() const {
     return GroupStore(platform).loadRecords(families::text);

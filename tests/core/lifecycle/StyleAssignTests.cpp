@@ -1,6 +1,7 @@
 #include "core/drawing/Describe.h"
-#include "core/faces/FamilyScreens.h"
 #include "tests/core/lifecycle/LifecycleTest.h"
+
+#include <memory>
 
 namespace vitrelle {
 namespace {
@@ -17,7 +18,7 @@ class StyleAssignTest : public test::LifecycleTest {
     store(records);
   }
   std::unique_ptr<StyleAssign> assign(std::int64_t index) {
-    auto screen = familyScreens("text").assign(platform, index);
+    auto screen = std::make_unique<StyleAssign>(platform, styleFamily("text"), RecordIndex{index});
     screen->appear();
     return screen;
   }
@@ -25,10 +26,13 @@ class StyleAssignTest : public test::LifecycleTest {
 
 TEST_F(StyleAssignTest, picker_offersNoneAndEveryWallpaperStyle) {
   const auto screen = assign(0);
-  EXPECT_EQ(screen->vitrelleConfig(), 0) << "whatever the present link";
-  EXPECT_EQ(screen->options(),
-            (std::vector<AssignOption>{{"None", 13}, {"1", 0}, {"2", 1}, {"3", 2}, {"4", 3}}));
-  EXPECT_EQ(screen->invalidConfigs(), std::vector<std::int64_t>{2});
+  EXPECT_EQ(screen->vitrelleConfig(), StyleNumber{0}) << "whatever the present link";
+  EXPECT_EQ(screen->options(), (std::vector<AssignOption>{{"None", std::nullopt},
+                                                          {"1", StyleNumber{0}},
+                                                          {"2", StyleNumber{1}},
+                                                          {"3", StyleNumber{2}},
+                                                          {"4", StyleNumber{3}}}));
+  EXPECT_EQ(screen->invalidConfigs(), std::vector<StyleNumber>{{2}});
   EXPECT_TRUE(printed("[2]"));
 }
 
@@ -47,8 +51,8 @@ TEST_F(StyleAssignTest, count_isFollowedUnlessItIsDamaged) {
 
 TEST_F(StyleAssignTest, freeStyle_isLinked) {
   const auto screen = assign(1);
-  screen->pick(3);
-  EXPECT_TRUE(screen->save());
+  screen->pick(StyleNumber{3});
+  EXPECT_EQ(screen->save(), Saved::stored);
   EXPECT_EQ(stored()[1].textLinkedConfig, 3);
   EXPECT_EQ(stored()[0].textLinkedConfig, 2);
   EXPECT_EQ(console.reloads, 1);
@@ -58,8 +62,8 @@ TEST_F(StyleAssignTest, freeStyle_isLinked) {
 TEST_F(StyleAssignTest, takenStyle_isRefusedEvenToItsOwner) {
   for (const std::int64_t index : {0, 1}) {
     const auto screen = assign(index);
-    screen->pick(2);
-    EXPECT_FALSE(screen->save());
+    screen->pick(StyleNumber{2});
+    EXPECT_EQ(screen->save(), Saved::refused);
     EXPECT_EQ(screen->alert()->title, "Cannot Assign to Style");
     EXPECT_EQ(screen->alert()->message,
               "This Vitrelle Style already has a Text Style linked to it, please pick another "
@@ -73,8 +77,8 @@ TEST_F(StyleAssignTest, takenStyle_isRefusedEvenToItsOwner) {
 
 TEST_F(StyleAssignTest, none_isAlwaysTaken) {
   const auto screen = assign(0);
-  screen->pick(13);
-  EXPECT_TRUE(screen->save());
+  screen->pick(std::nullopt);
+  EXPECT_EQ(screen->save(), Saved::stored);
   EXPECT_EQ(stored()[0].textLinkedConfig, 13);
 }
 
@@ -86,8 +90,8 @@ TEST_F(StyleAssignTest, preview_staysWhite) {
 TEST_F(StyleAssignTest, brokenStore_losesNothing) {
   defaults.broken = {Suite::group};
   const auto screen = assign(1);
-  screen->pick(0);
-  EXPECT_TRUE(screen->save());
+  screen->pick(StyleNumber{0});
+  EXPECT_EQ(screen->save(), Saved::notStored);
   defaults.broken = {};
   EXPECT_EQ(stored().size(), 3U);
 }
@@ -98,10 +102,10 @@ TEST_F(StyleAssignTest, everyFamily_linksItsRecords) {
     records.clear();
     records.push_back(newRecord(family, records));
     GroupStore(platform).saveRecords(family, records);
-    const auto screen = familyScreens(family.name).assign(platform, 0);
-    screen->appear();
-    screen->pick(1);
-    EXPECT_TRUE(screen->save());
+    StyleAssign screen(platform, styleFamily(family.name), {0});
+    screen.appear();
+    screen.pick(StyleNumber{1});
+    EXPECT_EQ(screen.save(), Saved::stored);
     EXPECT_EQ(GroupStore(platform).loadRecords(family)[0].*family.linked, 1) << family.name;
   });
 }

@@ -15,12 +15,10 @@ class StyleEditorTest : public test::LifecycleTest {
   }
   bool full = false; ///< nothing can be written
 
-  static constexpr EditorTask create{};
-  static EditorTask edit(std::int64_t index) { return {EditorMode::edit, index}; }
-  ModernCustomTextSetupView setup(const EditorTask& task) { return {platform, textFamily(), task}; }
-  ModernCustomTextColourView colours(const EditorTask& task) {
-    return {platform, textFamily(), task};
-  }
+  const EditorTask create{};
+  static EditorTask edit(std::int64_t index) { return {EditorMode::edit, {index}}; }
+  StyleSetup setup(const EditorTask& task) { return {platform, styleFamily("text"), task}; }
+  StyleSecond colours(const EditorTask& task) { return {platform, styleFamily("text"), task}; }
   /// What is drawn for the editor's record.
   static std::string drawn(const StyleEditor& editor) { return describe(editor.face({333, 156})); }
   static void fill(StyleEditor& editor) {
@@ -236,7 +234,7 @@ TEST_F(StyleEditorTest, preview_standsOnTheSliceOfTheStyleInUse) {
   EXPECT_FALSE(editor.img());
   phone.userInterfaceStyle = darkStyle;
   editor.appear();
-  EXPECT_EQ(editor.img(), (SliceName{"topMedium", 3, darkStyle}));
+  EXPECT_EQ(editor.img(), (SliceName{"topMedium", {3}, darkStyle}));
 }
 
 TEST_F(StyleEditorTest, suggestions_comeFromTheWholeScreenshotAMomentLater) {

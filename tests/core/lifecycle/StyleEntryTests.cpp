@@ -1,6 +1,5 @@
 #include "core/lifecycle/StyleEntry.h"
 
-#include "core/faces/FamilyScreens.h"
 #include "tests/core/lifecycle/LifecycleTest.h"
 
 #include <set>
@@ -10,64 +9,63 @@ namespace {
 
 class StyleEntryTest : public test::LifecycleTest {
  protected:
-  std::unique_ptr<StyleEntry> entry = familyScreens("text").entry(platform);
+  StyleEntry entry{platform, styleFamily("text")};
 };
 
 TEST_F(StyleEntryTest, create_opensUpToTwelveStyles) {
   storeStyles(11);
-  entry->appear();
-  entry->tapCreate();
-  EXPECT_TRUE(entry->showCreate());
-  EXPECT_FALSE(entry->alert());
+  entry.appear();
+  entry.tapCreate();
+  EXPECT_TRUE(entry.showCreate());
+  EXPECT_FALSE(entry.alert());
 
   storeStyles(12); // the twelfth was made on the sheet
-  entry->dismissSheet();
-  EXPECT_FALSE(entry->showCreate());
-  entry->tapCreate();
-  EXPECT_FALSE(entry->showCreate());
-  EXPECT_EQ(entry->alert()->title, "Cannot Create Text Widget Style");
-  EXPECT_EQ(entry->alert()->message,
+  entry.dismissSheet();
+  EXPECT_FALSE(entry.showCreate());
+  entry.tapCreate();
+  EXPECT_FALSE(entry.showCreate());
+  EXPECT_EQ(entry.alert()->title, "Cannot Create Text Widget Style");
+  EXPECT_EQ(entry.alert()->message,
             "You've hit the max amount of Text Widget Styles you can make, please edit an "
             "existing one.");
   EXPECT_EQ(surroundings.felt, (std::vector<std::string>{"light impact", "error"}));
-  entry->dismissAlert();
-  EXPECT_FALSE(entry->alert());
+  entry.dismissAlert();
+  EXPECT_FALSE(entry.alert());
 }
 
 TEST_F(StyleEntryTest, withoutAStyle_galleryOpensAndPreviewDoesNot) {
   damage();
-  entry->appear();
-  entry->tapGallery();
-  EXPECT_TRUE(entry->showGallery());
-  entry->dismissSheet();
-  entry->tapPreview();
-  EXPECT_FALSE(entry->showPreview());
-  EXPECT_EQ(entry->alert()->title, "Cannot open Widget Preview");
-  EXPECT_EQ(entry->alert()->message, "Please Create a Text Widget Style.");
+  entry.appear();
+  entry.tapGallery();
+  EXPECT_TRUE(entry.showGallery());
+  entry.dismissSheet();
+  entry.tapPreview();
+  EXPECT_FALSE(entry.showPreview());
+  EXPECT_EQ(entry.alert()->title, "Cannot open Widget Preview");
+  EXPECT_EQ(entry.alert()->message, "Please Create a Text Widget Style.");
   EXPECT_EQ(surroundings.felt, (std::vector<std::string>{"light impact", "error"}));
 }
 
 TEST_F(StyleEntryTest, stylesThatCannotBeRead_areNeitherAddedToNorCalledNone) {
   storeStyles(12);
   defaults.broken = {Suite::group};
-  entry->appear();
-  entry->tapCreate();
-  entry->tapPreview();
-  EXPECT_FALSE(entry->showCreate());
-  EXPECT_FALSE(entry->alert());
+  entry.appear();
+  entry.tapCreate();
+  entry.tapPreview();
+  EXPECT_FALSE(entry.showCreate());
+  EXPECT_FALSE(entry.alert());
   EXPECT_EQ(surroundings.felt, (std::vector<std::string>{"error", "error"}));
   defaults.broken = {};
-  entry->tapCreate();
-  EXPECT_EQ(entry->alert()->title, "Cannot Create Text Widget Style");
+  entry.tapCreate();
+  EXPECT_EQ(entry.alert()->title, "Cannot Create Text Widget Style");
 }
 
 TEST_F(StyleEntryTest, familyWithoutAnEditor_makesNothing) {
   for (const FamilyDescription& family : familyTable) {
-    const FamilyScreens& screens = familyScreens(family.name);
-    const auto any = screens.entry(platform);
-    any->appear();
-    any->tapCreate();
-    EXPECT_EQ(any->showCreate(), screens.hasEditor()) << family.name;
+    StyleEntry any(platform, styleFamily(family.name));
+    any.appear();
+    any.tapCreate();
+    EXPECT_EQ(any.showCreate(), styleFamily(family.name).hasEditor()) << family.name;
   }
 }
 
@@ -93,7 +91,7 @@ TEST(FamilyTable, everyFamily_hasKeysAndScreensOfItsOwn) {
   std::set<std::string_view> screens;
   std::size_t named = 0;
   forEachFamily([&](const auto& family) {
-    const FamilyDescription& words = familyScreens(family.name).words();
+    const FamilyDescription& words = styleFamily(family.name).words();
     EXPECT_EQ(words.name, family.name);
     for (const std::string_view screen :
          {words.entryScreen, words.setupScreen, words.secondScreen, words.galleryScreen,

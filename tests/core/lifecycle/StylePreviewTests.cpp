@@ -1,5 +1,4 @@
 #include "core/drawing/Describe.h"
-#include "core/faces/FamilyScreens.h"
 #include "tests/core/lifecycle/LifecycleTest.h"
 
 namespace vitrelle {
@@ -8,10 +7,10 @@ namespace {
 class StylePreviewTest : public test::LifecycleTest {
  protected:
   std::string drawn() {
-    preview->appear();
-    return describe(preview->face({98, 98}));
+    preview.appear();
+    return describe(preview.face({98, 98}));
   }
-  std::unique_ptr<StylePreview> preview = familyScreens("text").preview(platform);
+  StylePreview preview{platform, styleFamily("text")};
 };
 
 TEST_F(StylePreviewTest, style_isTheLastWithTheCurrentTag) {
@@ -49,16 +48,16 @@ TEST_F(StylePreviewTest, pages_preferTheLightScreenshot) {
   addStyle(0);
   addOriginal(1, darkStyle);
   phone.userInterfaceStyle = darkStyle;
-  const auto pages = preview->pages();
+  const auto pages = preview.pages();
   ASSERT_EQ(pages.size(), 3U);
-  EXPECT_EQ(pages[0], (SliceName{"original", 0, lightStyle}));
-  EXPECT_EQ(pages[1], (SliceName{"original", 1, darkStyle}));
+  EXPECT_EQ(pages[0], (SliceName{"original", {0}, lightStyle}));
+  EXPECT_EQ(pages[1], (SliceName{"original", {1}, darkStyle}));
   EXPECT_FALSE(pages[2]);
 }
 
 TEST_F(StylePreviewTest, widget_liesWhereTheTopLeftOneDoes) {
-  EXPECT_EQ(preview->pageSize(), (PointSize{393 / 1.5, 852 / 1.5}));
-  const PointRect box = preview->widgetBox();
+  EXPECT_EQ(preview.pageSize(), (PointSize{393 / 1.5, 852 / 1.5}));
+  const PointRect box = preview.widgetBox();
   EXPECT_DOUBLE_EQ(box.width, 393 * 0.25);
   EXPECT_DOUBLE_EQ(box.height, box.width);
   EXPECT_DOUBLE_EQ(box.y, 852 / 1.5 * 0.125);

@@ -1,0 +1,91 @@
+#include "core/lifecycle/StyleSecond.h"
+
+#include "core/platform/FatalError.h"
+#include "core/slicing/ImageLoader.h"
+
+#include <utility>
+
+namespace vitrelle {
+
+namespace {
+
+constexpr RecordIndex nowhere{-1};
+
+} // namespace
+
+StyleSecond::StyleSecond(const Platform& platform, const StyleFamily& family, EditorTask task,
+                         std::optional<SavedRecord> saved)
+    : StyleEditor(platform, family, EditorStep::second, std::move(task)),
+      saved_(std::move(saved)),
+      stored_(platform, family.store()),
+      selected_(platform, family.store().selected),
+      index_(nowhere) {}
+
+void StyleSecond::appear() {
+  readImg();
+  stored_.load();
+  index_ = findRecord();
+  const bool isNew = task().mode == EditorMode::create;
+  if (const StyleRecord* record = stored_.at(index_)) {
+    setDraft(family().secondDraft(platform(), *record, isNew));
+  } else if (saved_) {
+    setDraft(family().secondDraft(platform(), saved_->record, isNew));
+  }
+  changed();
+}
+
+Saved StyleSecond::save() {
+  bool isSaved = false;
+  if (StyleRecord* record = stored_.at(index_)) {
+    family().copy(EditorStep::second, draft(), *record);
+    isSaved = stored_.save();
+    if (isStored()) selected_.set(index_.value);
+  }
+  platform().haptics.success();
+  return isSaved ? Saved::stored : Saved::notStored;
+}
+
+/// The index of the record that is worked on. What the store did not take from the step before is
+/// put into this screen's copy once more: no other record may stand in for it.
+RecordIndex StyleSecond::findRecord() {
+  const RecordIndex behindAll{static_cast<std::int64_t>(stored_.count())};
+  const bool editing = task().mode == EditorMode::edit;
+  if (!saved_) return editing ? task().configNumber : RecordIndex{behindAll.value - 1};
+  StyleRecord* there = stored_.at(saved_->index);
+  if (there != nullptr && *there == saved_->record) return saved_->index;
+  const StyleDraft before{.record = saved_->record, .kind = family().kindOf(saved_->record)};
+  if (editing) {
+    if (there != nullptr) family().copy(EditorStep::setup, before, *there);
+    return saved_->index;
+  }
+  // Fewer than the step before saw: writing this copy would lose those that can't be read now.
+  if (behindAll < saved_->index || stored_.count() >= maximumWidgetStyles) return nowhere;
+  family().copy(EditorStep::setup, before, stored_.append());
+  return behindAll;
+}
+
+bool StyleSecond::isStored() const {
+  StyleRecords now(platform(), family().store());
+  now.load();
+  return now.at(index_) != nullptr;
+}
+
+void StyleSecond::startSuggestions() {
+  if (suggesting()) task_ = platform().mainQueue.asyncAfter(0, [this] { suggest(); });
+}
+
+std::optional<SuggestingEditor> StyleSecond::suggesting() const {
+  return suggestingEditor(family().words().name);
+}
+
+void StyleSecond::suggest() {
+  const auto screenshot =
+      ImageLoader(platform())
+          .loadSlice(rawValue(WidgetLocationImageNames::fullImage), currentAppearance(platform()),
+                     styleInUse(platform()).value);
+  if (!screenshot) fatalError("the style in use has no screenshot to suggest colours from");
+  suggestions_.workOut(*screenshot, suggesting()->coloursAsked);
+  changed();
+}
+
+} // namespace vitrelle

@@ -1,0 +1,41 @@
+#include "core/lifecycle/StyleSetup.h"
+
+#include "core/platform/FatalError.h"
+
+#include <utility>
+
+namespace vitrelle {
+
+StyleSetup::StyleSetup(const Platform& platform, const StyleFamily& family, EditorTask task)
+    : StyleEditor(platform, family, EditorStep::setup, std::move(task)),
+      stored_(platform, family.store()) {}
+
+void StyleSetup::appear() {
+  readImg();
+  stored_.load();
+  if (task().mode == EditorMode::edit) {
+    if (const StyleRecord* record = stored_.at(task().configNumber))
+      setDraft(family().draftOf(*record));
+  }
+  changed();
+}
+
+Saved StyleSetup::save() {
+  platform().haptics.lightImpact();
+  const bool isNew = task().mode == EditorMode::create;
+  const RecordIndex index =
+      isNew ? RecordIndex{static_cast<std::int64_t>(stored_.count())} : task().configNumber;
+  if (!isNew && stored_.at(index) == nullptr)
+    fatalError("there is no widget style to edit at this index");
+  if (!family().keep(platform(), draft(), index)) return Saved::refused;
+  StyleRecord& record = isNew ? stored_.append() : *stored_.at(index);
+  family().copy(EditorStep::setup, draft(), record);
+  saved_ = {index, record};
+  return stored_.save() ? Saved::stored : Saved::notStored;
+}
+
+std::unique_ptr<StyleSecond> StyleSetup::next() const {
+  return std::make_unique<StyleSecond>(platform(), family(), task(), saved_);
+}
+
+} // namespace vitrelle
