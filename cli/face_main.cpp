@@ -4,6 +4,7 @@
 #include "cli/Program.h"
 #include "host/desktop/PollLoop.h"
 #include "host/drawing/DrawingProcess.h"
+#include "host/time/DateWords.h"
 
 int main(int argc, char** argv) {
   using namespace vitrelle;
@@ -16,6 +17,7 @@ int main(int argc, char** argv) {
                             if (!made) return made;
                             Platform platform = *std::move(made);
                             drawing.use(platform);
+                            host::useDateWords(platform);
                             return platform;
                           },
                           .runLoop = [&] { loop.run(); },

@@ -6,9 +6,8 @@
 #include "host/imaging/ImageFile.h"
 #include "host/store/SqliteDefaults.h"
 #include "host/symbols/Symbols.h"
+#include "host/time/Clock.h"
 
-#include <chrono>
-#include <cmath>
 #include <cstdio>
 #include <functional>
 #include <memory>
@@ -45,22 +44,6 @@ Drawing noDrawing() {
           .render = [](std::span<const DisplayList>, const PointRect&, double) -> Result<Image> {
             return Failure{"drawing", "this program does not draw"};
           }};
-}
-
-/// Days as UTC has them, without words.
-DateTime makeDateTime() {
-  constexpr double referenceDate = 978307200; // in seconds since 1970
-  constexpr double day = 86400;
-  return {.now =
-              [] {
-                const auto time = std::chrono::system_clock::now().time_since_epoch();
-                return Date{std::chrono::duration<double>(time).count() - referenceDate};
-              },
-          .startOfDay =
-              [](const Date& moment) {
-                return Date{std::floor(moment.secondsSinceReferenceDate / day) * day};
-              },
-          .text = [](const Date&, FormatterStyle, FormatterStyle) { return std::string(); }};
 }
 
 Battery noBattery() {
@@ -100,7 +83,7 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .symbols = makeSymbols(),
       .drawing = noDrawing(),
       .fonts = {.families = [] { return std::vector<FontFamily>(); }},
-      .dateTime = makeDateTime(),
+      .dateTime = makeClock(std::nullopt),
       .battery = noBattery()};
 }
 
