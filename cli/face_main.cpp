@@ -4,6 +4,7 @@
 #include "cli/Program.h"
 #include "host/desktop/PollLoop.h"
 #include "host/drawing/DrawingProcess.h"
+#include "host/power/SystemBattery.h"
 #include "host/time/DateWords.h"
 
 int main(int argc, char** argv) {
@@ -18,6 +19,8 @@ int main(int argc, char** argv) {
                             Platform platform = *std::move(made);
                             drawing.use(platform);
                             host::useDateWords(platform);
+                            host::useBattery(platform, cli::hostOptions(options),
+                                             loop.operations());
                             return platform;
                           },
                           .runLoop = [&] { loop.run(); },

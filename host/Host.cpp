@@ -46,12 +46,13 @@ Drawing noDrawing() {
           }};
 }
 
-Battery noBattery() {
+/// Programs that draw put the machine's in its place, unless a level was told.
+Battery toldBattery(float level) {
   return {.setMonitoringEnabled = [](bool) {},
-          .level = [] { return unknownBatteryLevel; },
+          .level = [level] { return level; },
           .watch =
-              [](const std::function<void(float)>& subscriber) {
-                subscriber(unknownBatteryLevel);
+              [level](const std::function<void(float)>& subscriber) {
+                subscriber(level);
                 return Subscription();
               }};
 }
@@ -84,7 +85,7 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .drawing = noDrawing(),
       .fonts = {.families = [] { return std::vector<FontFamily>(); }},
       .dateTime = makeClock(std::nullopt),
-      .battery = noBattery()};
+      .battery = toldBattery(options.battery.value_or(unknownBatteryLevel))};
 }
 
 } // namespace vitrelle::host

@@ -6,12 +6,16 @@
 #include "host/files/HomeFolder.h"
 #include "host/phone/PhoneSettings.h"
 
+#include <optional>
+
 namespace vitrelle::host {
 
 struct HostOptions {
   HomeFolder home;
   PhoneOverrides phone;
   bool dark = false; ///< the appearance
+  /// What is taken for the battery's level, instead of the real one.
+  std::optional<float> battery = {};
   /// How long another program's lock on a store is waited for, in milliseconds.
   int storePatience = 5000;
   bool verbose = false; ///< the debug console goes to stderr, else nowhere

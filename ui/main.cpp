@@ -10,6 +10,7 @@
 #include "host/desktop/EndSignals.h"
 #include "host/desktop/QtLoop.h"
 #include "host/drawing/DrawingProcess.h"
+#include "host/power/SystemBattery.h"
 #include "host/time/DateWords.h"
 #include "ui/Shell.h"
 #include "ui/Trouble.h"
@@ -176,6 +177,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
   platform.device.userInterfaceStyle = appearanceOf(arguments);
   host::useDrawing(platform);
   host::useDateWords(platform);
+  host::useBattery(platform, options, loop);
 
   AppDelegate(platform).didFinishLaunching();
   const SceneDelegate scene(platform);

@@ -2,12 +2,10 @@
 // the portal.
 #include "ui/pickers/PortalPicker.h"
 
+#include "tests/support/PrivateBus.h"
 #include "tests/ui/FakePortal.h"
 
 #include <QDBusArgument>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -24,42 +22,19 @@ using test::service;
 class PortalPickerTest : public testing::Test {
  protected:
   PortalPickerTest() {
-    QFile settings(folder.filePath(QStringLiteral("bus.conf")));
-    EXPECT_TRUE(settings.open(QIODevice::WriteOnly));
-    // Nothing can be started on it: the machine's own portal is to stay away.
-    settings.write("<busconfig><type>session</type><listen>unix:dir=" + folder.path().toUtf8() +
-                   "</listen><policy context='default'><allow send_destination='*'/>"
-                   "<allow receive_sender='*'/><allow own='*'/></policy></busconfig>");
-    settings.close();
-    daemon.start(QStringLiteral("dbus-daemon"),
-                 {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
-                  QStringLiteral("--config-file"), settings.fileName()});
-    EXPECT_TRUE(daemon.waitForReadyRead()) << "dbus-daemon says nothing";
-    const QString address = QString::fromUtf8(daemon.readLine()).trimmed();
-    portalBus = std::make_unique<QDBusConnection>(
-        QDBusConnection::connectToBus(address, QStringLiteral("portal")));
-    ownBus = std::make_unique<QDBusConnection>(
-        QDBusConnection::connectToBus(address, QStringLiteral("own")));
-    portal = std::make_unique<test::Portal>(*portalBus);
-    picker = std::make_unique<PortalPicker>(*ownBus, std::chrono::milliseconds(150));
+    portal = std::make_unique<test::Portal>(portalBus);
+    picker = std::make_unique<PortalPicker>(ownBus, std::chrono::milliseconds(150));
     QObject::connect(picker.get(), &PortalPicker::accepted, [this](const QUrl& file) {
       told += QStringLiteral("accepted ") + file.toLocalFile();
     });
     QObject::connect(picker.get(), &PortalPicker::rejected, [this] { told += "rejected"; });
     QObject::connect(picker.get(), &PortalPicker::unavailable, [this] { told += "unavailable"; });
   }
-  ~PortalPickerTest() override {
-    picker.reset();
-    QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
-    QDBusConnection::disconnectFromBus(QStringLiteral("own"));
-    daemon.kill();
-    daemon.waitForFinished();
-  }
 
   void offer() {
-    ASSERT_TRUE(portalBus->registerObject(portalPath, portal.get(),
-                                          QDBusConnection::ExportScriptableSlots));
-    ASSERT_TRUE(portalBus->registerService(service));
+    ASSERT_TRUE(
+        portalBus.registerObject(portalPath, portal.get(), QDBusConnection::ExportScriptableSlots));
+    ASSERT_TRUE(portalBus.registerService(service));
   }
   void open() {
     portal->path.clear();
@@ -77,10 +52,9 @@ class PortalPickerTest : public testing::Test {
     return QTest::qWaitFor([&] { return !told.isEmpty(); }) && told == QStringList{what};
   }
 
-  QTemporaryDir folder;
-  QProcess daemon;
-  std::unique_ptr<QDBusConnection> portalBus;
-  std::unique_ptr<QDBusConnection> ownBus;
+  test::PrivateBus bus;
+  QDBusConnection portalBus = bus.connect(QStringLiteral("portal"));
+  QDBusConnection ownBus = bus.connect(QStringLiteral("own"));
   std::unique_ptr<test::Portal> portal;
   std::unique_ptr<PortalPicker> picker;
   QStringList told;
@@ -148,7 +122,7 @@ TEST_F(PortalPickerTest, whatIsNoPortal_isUnavailable) {
   open();
   EXPECT_TRUE(tells(QStringLiteral("unavailable"))) << "nobody has the name";
 
-  ASSERT_TRUE(portalBus->registerService(service));
+  ASSERT_TRUE(portalBus.registerService(service));
   open();
   EXPECT_TRUE(tells(QStringLiteral("unavailable"))) << "it chooses no files";
 
@@ -163,7 +137,7 @@ TEST_F(PortalPickerTest, whatIsNoPortal_isUnavailable) {
 
   portal->manner = Manner::asItShould;
   openAndSee();
-  portalBus->unregisterService(service);
+  portalBus.unregisterService(service);
   EXPECT_TRUE(tells(QStringLiteral("unavailable"))) << "it went";
 }
 
@@ -171,7 +145,7 @@ TEST_F(PortalPickerTest, closing_takesTheDialogAwayWithoutAWord) {
   offer();
   openAndSee();
   test::Request request;
-  portalBus->registerObject(portal->path, &request, QDBusConnection::ExportScriptableSlots);
+  portalBus.registerObject(portal->path, &request, QDBusConnection::ExportScriptableSlots);
   picker->close();
   EXPECT_TRUE(QTest::qWaitFor([&] { return request.closed == 1; }));
   portal->answer(1, {});
