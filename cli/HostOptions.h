@@ -3,14 +3,23 @@
 
 #include "cli/Options.h"
 #include "host/Host.h"
+#include "host/time/Clock.h"
+
+#include <optional>
 
 namespace vitrelle::cli {
+
+inline Date momentOf(const ToldTime& told) {
+  return told.onTheWall ? host::firstMomentAt(told.time) : told.time;
+}
 
 inline host::HostOptions hostOptions(const Options& options) {
   return {
       .home = options.home ? host::HomeFolder(*options.home) : host::HomeFolder::ofUser(),
       .phone = {.identifier = options.phoneIdentifier, .os = options.os, .zoomed = options.zoomed},
       .dark = options.appearance == Appearance::dark,
+      .now = options.now ? std::optional(momentOf(*options.now)) : std::nullopt,
+      .battery = options.battery,
       .verbose = options.verbose};
 }
 

@@ -1,5 +1,6 @@
 #include "cli/Numbers.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 #include <optional>
@@ -13,6 +14,24 @@ std::optional<std::int64_t> wholeNumber(const std::string& text) {
   const auto [behind, error] = std::from_chars(text.data(), end, number);
   // Written otherwise than it is told, such as "01" or "-0", it may be meant otherwise.
   if (error != std::errc() || behind != end || std::to_string(number) != text) return std::nullopt;
+  return number;
+}
+
+std::optional<double> decimalNumber(const std::string& text) {
+  const std::size_t point = text.find('.');
+  const std::string whole = text.substr(0, point);
+  const bool isNegative = whole.starts_with('-');
+  const std::string positive = whole.substr(isNegative ? 1 : 0);
+  const auto units = wholeNumber(positive);
+  if (!units || *units < 0 || (isNegative && *units == 0)) return std::nullopt;
+  if (point != std::string::npos) {
+    const std::string decimals = text.substr(point + 1);
+    const bool areDigits =
+        std::ranges::all_of(decimals, [](char c) { return c >= '0' && c <= '9'; });
+    if (decimals.empty() || !areDigits) return std::nullopt;
+  }
+  double number = 0;
+  std::from_chars(text.data(), text.data() + text.size(), number);
   return number;
 }
 

@@ -1,5 +1,7 @@
 #include "cli/Options.h"
 
+#include "cli/Numbers.h"
+#include "core/platform/Battery.h"
 #include "core/slicing/DeviceNames.h"
 
 #include <algorithm>
@@ -66,6 +68,20 @@ Appearance takeAppearance(const char* name, const std::string& text) {
   throw CLI::ValidationError(name, "'" + text + "' is neither light nor dark");
 }
 
+ToldTime takeTime(const char* name, const std::string& text) {
+  const auto time = parseTime(text);
+  if (!time)
+    throw CLI::ValidationError(name, "'" + text + "' is no time such as 2026-11-21T13:30:00");
+  return *time;
+}
+
+float takeBattery(const char* name, const std::string& text) {
+  const auto level = decimalNumber(text);
+  if (!level || !((*level >= 0 && *level <= 1) || *level == unknownBatteryLevel))
+    throw CLI::ValidationError(name, "'" + text + "' is neither from 0 to 1 nor -1");
+  return static_cast<float>(*level);
+}
+
 } // namespace
 
 void addOptions(CLI::App& program, Options& options) {
@@ -123,6 +139,20 @@ void addOptions(CLI::App& program, Options& options) {
           "light or dark ($VITRELLE_APPEARANCE)")
       ->type_name("NAME")
       ->group(group);
+  program
+      .add_option_function<std::string>(
+          "--now", [&](const std::string& text) { options.now = takeTime("--now", text); },
+          "Let the time stand still, at 2026-11-21T13:30:00 or with a Z or +hh:mm behind it "
+          "($VITRELLE_NOW)")
+      ->type_name("TIME")
+      ->group(group);
+  program
+      .add_option_function<std::string>(
+          "--battery",
+          [&](const std::string& text) { options.battery = takeBattery("--battery", text); },
+          "Take the battery to be so full, from 0 to 1, or -1 for unknown ($VITRELLE_BATTERY)")
+      ->type_name("LEVEL")
+      ->group(group);
   program.add_flag("--verbose", options.verbose, "Show the debug console on stderr")->group(group);
 }
 
@@ -138,6 +168,12 @@ void readEnvironment(Options& options) {
   }
   if (const auto text = environment("VITRELLE_APPEARANCE"); text && !options.appearance) {
     options.appearance = takeAppearance("VITRELLE_APPEARANCE", *text);
+  }
+  if (const auto text = environment("VITRELLE_NOW"); text && !options.now) {
+    options.now = takeTime("VITRELLE_NOW", *text);
+  }
+  if (const auto text = environment("VITRELLE_BATTERY"); text && !options.battery) {
+    options.battery = takeBattery("VITRELLE_BATTERY", *text);
   }
   // The host reads VITRELLE_HOME.
 }

@@ -1,6 +1,7 @@
 // The options that every command takes, each with a twin in the environment.
 #pragma once
 
+#include "cli/ToldTime.h"
 #include "core/platform/Device.h"
 
 #include <CLI/CLI.hpp>
@@ -18,6 +19,8 @@ struct Options {
   std::optional<OsVersion> os;
   std::optional<bool> zoomed;
   std::optional<Appearance> appearance;
+  std::optional<ToldTime> now;  ///< at which the time stands still
+  std::optional<float> battery; ///< as full as it is taken to be, from 0 to 1; or -1
   bool verbose = false;
 
   /// Whether --standard stood on the command line, which `defaults` takes for its own.

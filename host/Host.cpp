@@ -84,7 +84,7 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .symbols = makeSymbols(),
       .drawing = noDrawing(),
       .fonts = {.families = [] { return std::vector<FontFamily>(); }},
-      .dateTime = makeClock(std::nullopt),
+      .dateTime = makeClock(options.now),
       .battery = toldBattery(options.battery.value_or(unknownBatteryLevel))};
 }
 

@@ -14,7 +14,8 @@ struct HostOptions {
   HomeFolder home;
   PhoneOverrides phone;
   bool dark = false; ///< the appearance
-  /// What is taken for the battery's level, instead of the real one.
+  /// What is taken for the present moment and for the battery's level, instead of the real ones.
+  std::optional<Date> now = {};
   std::optional<float> battery = {};
   /// How long another program's lock on a store is waited for, in milliseconds.
   int storePatience = 5000;

@@ -1,0 +1,115 @@
+#include "cli/HostOptions.h"
+#include "cli/Options.h"
+#include "host/desktop/PollLoop.h"
+#include "tests/cli/Program.h"
+#include "tests/support/Environment.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+namespace vitrelle::cli {
+namespace {
+
+TEST(Times, ofTheWallAndOfUtc_areTaken) {
+  const std::pair<const char*, ToldTime> cases[] = {
+      {"2026-11-21T13:30:00", {{816960600}, true}},
+      {"2026-11-21T13:30", {{816960600}, true}},
+      {"2026-11-21T13:30:59", {{816960659}, true}},
+      {"2026-11-21T13:30Z", {{816960600}}},
+      {"2026-11-21T13:30:00+05:45", {{816960600 - 20700}}},
+      {"2026-11-21T13:30-03:30", {{816960600 + 12600}}},
+      {"2000-12-31T23:59:59Z", {{-1}}},
+      {"2024-02-29T00:00Z", {{730857600}}}};
+  for (const auto& [text, time] : cases)
+    EXPECT_EQ(parseTime(text), time) << text;
+}
+
+TEST(Times, otherTexts_areNone) {
+  for (const char* text : {"",
+                           "now",
+                           "2026-11-21",
+                           "2026-11-21 13:30",
+                           "2026-11-21T",
+                           "2026-11-21T13",
+                           "13:30",
+                           "2026-11-21T1:30",
+                           "2026-11-21T13:30:",
+                           "2026-11-21T13:30:5",
+                           "2026-11-21T13:30:60",
+                           "2026-11-21T24:00",
+                           "2026-11-21T13:60",
+                           "2026-02-29T00:00",
+                           "2026-13-01T00:00",
+                           "2026-00-01T00:00",
+                           "2026-11-21T13:30z",
+                           "2026-11-21T13:30Z ",
+                           "2026-11-21T13:30ZZ",
+                           "2026-11-21T13:30+0545",
+                           "2026-11-21T13:30+15:00",
+                           "2026-11-21T13:30+05:45Z",
+                           "2026-11-21T13:30:00.5",
+                           " 2026-11-21T13:30",
+                           "-026-11-21T13:30"}) {
+    EXPECT_FALSE(parseTime(text)) << text;
+  }
+}
+
+class ToldWorldTest : public test::ProgramTest {
+ protected:
+  /// What a program with these words on its command line takes for its world.
+  Platform platformOf(std::vector<std::string> words) {
+    std::reverse(words.begin(), words.end()); // as the parser wants them
+    CLI::App program;
+    Options options;
+    addOptions(program, options);
+    program.parse(words);
+    readEnvironment(options);
+    options.home = home();
+    return hostPlatform(options, loop.operations()).value();
+  }
+
+  host::PollLoop loop;
+  const test::Environment zone{"TZ", "America/New_York"};
+};
+
+TEST_F(ToldWorldTest, time_standsStill) {
+  const test::Environment twin("VITRELLE_NOW", "2026-11-21T13:30Z");
+  EXPECT_EQ(platformOf({}).dateTime.now(), Date{816960600});
+  const Platform platform = platformOf({"--now", "2026-11-21T08:30:07"});
+  EXPECT_EQ(platform.dateTime.now(), Date{816960607});
+  EXPECT_EQ(platform.dateTime.startOfDay(platform.dateTime.now()), Date{816960600 - 8.5 * 3600});
+}
+
+TEST_F(ToldWorldTest, battery_isAsFullWhetherItIsMonitoredOrNot) {
+  const test::Environment twin("VITRELLE_BATTERY", "0.25");
+  EXPECT_EQ(platformOf({}).battery.level(), 0.25F);
+  const std::pair<const char*, float> cases[] = {
+      {"0.73", 0.73F}, {"1", 1}, {"1.0", 1}, {"0", 0}, {"-1", -1}};
+  for (const auto& [text, level] : cases) {
+    const Battery battery = platformOf({"--battery", text}).battery;
+    EXPECT_EQ(battery.level(), level) << text;
+    battery.setMonitoringEnabled(true);
+    float told = 2;
+    const Subscription watch = battery.watch([&](float now) { told = now; });
+    EXPECT_EQ(told, level) << text;
+  }
+}
+
+TEST_F(ToldWorldTest, wrongValues_areWrongUsage) {
+  for (const char* level : {"", "73%", "1.01", "-0.5", "-2", "-0", ".5", "1.", "1e-1", "0x1", "nan",
+                            "0,5", " 1", "00.5", "inf"}) {
+    EXPECT_EQ(run({"phones", "--battery", level}).status, 2) << level;
+  }
+  const test::Outcome outcome = run({"--now", "noon", "phones"});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.complaints, "vitrelle: --now: 'noon' is no time such as 2026-11-21T13:30:00 "
+                                "(see 'vitrelle --help')\n");
+  EXPECT_EQ(run({"phone"}, {{"VITRELLE_NOW", "2026-02-30T00:00"}}).status, 2);
+  EXPECT_EQ(run({"phone"}, {{"VITRELLE_BATTERY", "full"}}).status, 2);
+  EXPECT_EQ(run({"phone"}, {{"VITRELLE_BATTERY", ""}}).status, 0) << "unset";
+}
+
+} // namespace
+} // namespace vitrelle::cli
