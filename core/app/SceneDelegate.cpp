@@ -26,6 +26,7 @@ ActiveSheet supportSheet(std::string_view lastPathComponent) {
 
 bool AppDelegate::didFinishLaunching() const {
   platform_.bannerKit.start();
+  platform_.battery.setMonitoringEnabled(true);
   return true;
 }
 

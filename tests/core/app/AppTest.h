@@ -20,6 +20,8 @@ class AppTest : public testing::Test {
     phone.use(platform);
     console.use(platform);
     surroundings.use(platform);
+    time.use(platform);
+    battery.use(platform);
     platform.bundle.identifier = [] { return std::optional<std::string>("com.example.program"); };
   }
 
@@ -49,6 +51,8 @@ class AppTest : public testing::Test {
   FakePhone phone;
   FakeConsole console;
   FakeSurroundings surroundings;
+  FakeTime time;
+  FakeBattery battery;
   Image screenshot = positionImage(1179, 2556);
 };
 

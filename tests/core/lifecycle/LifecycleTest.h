@@ -13,13 +13,7 @@ namespace vitrelle::test {
 
 class LifecycleTest : public AppTest {
  protected:
-  LifecycleTest() {
-    FakeDrawing::use(platform);
-    time.use(platform);
-    battery.use(platform);
-  }
-  FakeTime time;
-  FakeBattery battery;
+  LifecycleTest() { FakeDrawing::use(platform); }
 
   std::vector<textWidgetData> stored() const {
     return GroupStore(platform).loadRecords(families::text);
