@@ -48,6 +48,14 @@ std::string words(const PlatformColour& colour) {
   return text + (colour.alpha == 1 ? std::string() : " alpha" + numbers(colour.alpha));
 }
 
+std::string words(const LinearGradient& gradient) {
+  std::string result = " gradient from" + numbers(gradient.start.x, gradient.start.y) + " to" +
+                       numbers(gradient.end.x, gradient.end.y);
+  for (const GradientStop& stop : gradient.stops)
+    result += ',' + words(stop.colour) + " at" + numbers(stop.at);
+  return result;
+}
+
 std::string words(const PointRect& box) {
   return " at" + numbers(box.x, box.y) + " size" + numbers(box.width, box.height);
 }
@@ -77,13 +85,14 @@ class Writer final {
 
  private:
   void writeItem(const DrawnPath& item, const std::string&) {
+    const std::string paint = item.gradient ? words(*item.gradient) : words(item.colour);
     if (item.stroke) {
-      text_ += "stroke" + words(item.colour) + " width" + numbers(item.stroke->width) + ' ' +
+      text_ += "stroke" + paint + " width" + numbers(item.stroke->width) + ' ' +
                caps[static_cast<std::size_t>(item.stroke->cap)] + ' ' +
                joins[static_cast<std::size_t>(item.stroke->join)] +
                numbers(item.stroke->miterLimit);
     } else {
-      text_ += "fill" + words(item.colour);
+      text_ += "fill" + paint;
       if (item.rule == FillRule::evenOdd) text_ += " even-odd";
     }
     text_ += words(item.path) + '\n';

@@ -1,5 +1,6 @@
 #include "core/drawing/View.h"
 
+#include "core/drawing/Gradients.h"
 #include "core/drawing/Shapes.h"
 
 #include <algorithm>
@@ -116,6 +117,7 @@ class ShapeNode final : public StretchedNode {
             DisplayList& to) const override {
     DrawnPath path = look_;
     path.path = shape_(box);
+    if (path.gradient) path.gradient = stretched(std::move(*path.gradient), box);
     to.push_back({std::move(path)});
   }
 
@@ -453,6 +455,16 @@ View stroked(std::function<Path(const PointRect&)> shape, const StrokeStyle& sty
              const PlatformColour& colour) {
   return View(
       std::make_shared<ShapeNode>(std::move(shape), DrawnPath{.stroke = style, .colour = colour}));
+}
+
+View filled(std::function<Path(const PointRect&)> shape, const LinearGradient& gradient) {
+  return View(std::make_shared<ShapeNode>(std::move(shape), DrawnPath{.gradient = gradient}));
+}
+
+View stroked(std::function<Path(const PointRect&)> shape, const StrokeStyle& style,
+             const LinearGradient& gradient) {
+  return View(std::make_shared<ShapeNode>(std::move(shape),
+                                          DrawnPath{.stroke = style, .gradient = gradient}));
 }
 
 View picture(const Image& image, double cornerRadius) {

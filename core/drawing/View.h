@@ -72,6 +72,10 @@ View symbol(std::string name, double size, const PlatformColour& colour, int wei
 View filled(std::function<Path(const PointRect&)> shape, const PlatformColour& colour);
 View stroked(std::function<Path(const PointRect&)> shape, const StrokeStyle& style,
              const PlatformColour& colour);
+/// The gradient's ends are in units of the shape's room: its top left is 0, its bottom right is 1.
+View filled(std::function<Path(const PointRect&)> shape, const LinearGradient& gradient);
+View stroked(std::function<Path(const PointRect&)> shape, const StrokeStyle& style,
+             const LinearGradient& gradient);
 /// Stretched to all the room it is offered.
 View picture(const Image& image, double cornerRadius = 0);
 /// Nothing, as long as the stack allows.

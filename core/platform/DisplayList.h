@@ -36,11 +36,26 @@ struct Font {
 
 enum class TextAlignment { leading, centre };
 
+struct GradientStop {
+  double at = 0; ///< of the way from start to end
+  PlatformColour colour = {};
+  bool operator==(const GradientStop&) const = default;
+};
+
+/// Colours along a line; beyond its ends those of the ends go on.
+struct LinearGradient {
+  std::vector<GradientStop> stops; ///< ascending, from 0 to 1; nothing is drawn without any
+  PathPoint start = {0, 0};
+  PathPoint end = {0, 1};
+  bool operator==(const LinearGradient&) const = default;
+};
+
 struct DrawnPath {
   Path path = {};
   FillRule rule = FillRule::nonZero;
   std::optional<StrokeStyle> stroke = std::nullopt; ///< none fills the path
   PlatformColour colour = {};
+  std::optional<LinearGradient> gradient = std::nullopt; ///< instead of the colour
   bool operator==(const DrawnPath&) const = default;
 };
 

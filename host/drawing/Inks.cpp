@@ -4,6 +4,7 @@
 #include "host/drawing/Shadows.h"
 #include "host/drawing/TextLayout.h"
 
+#include <QLinearGradient>
 #include <QPainterPath>
 #include <QRawFont>
 
@@ -44,6 +45,14 @@ QPainterPath qPath(const Path& path, FillRule rule = FillRule::nonZero) {
     }
     next += pointCount(command);
   }
+  return result;
+}
+
+QBrush brushOf(const LinearGradient& gradient) {
+  if (gradient.stops.empty()) return Qt::NoBrush; // Qt would go from black to white
+  QLinearGradient result(gradient.start.x, gradient.start.y, gradient.end.x, gradient.end.y);
+  for (const GradientStop& stop : gradient.stops)
+    result.setColorAt(stop.at, qColour(stop.colour));
   return result;
 }
 
@@ -130,7 +139,8 @@ class Inker final {
 
   static void add(Inks& to, const DrawnPath& item, const QTransform& toPixels) {
     const QPainterPath path = qPath(item.path, item.rule);
-    addFill(to, item.stroke ? outlineOf(path, *item.stroke) : path, qColour(item.colour), toPixels);
+    addFill(to, item.stroke ? outlineOf(path, *item.stroke) : path,
+            item.gradient ? brushOf(*item.gradient) : qColour(item.colour), toPixels);
   }
 
   static void add(Inks& to, const DrawnText& item, const QTransform& toPixels) {

@@ -25,6 +25,9 @@ TEST(Describe, everyItem_isALine) {
                                .room = {40, 20}}}}}},
       {DrawnPath{.path = {{PathCommand::move, PathCommand::line}, {{0, 0}, {1, 1.0 / 3}}},
                  .stroke = StrokeStyle{.width = 2, .cap = LineCap::round}}},
+      {DrawnPath{.path = {{PathCommand::move}, {{0, 0}}},
+                 .gradient = LinearGradient{.stops = {{0, {1, 1, 1, 0.5}}, {0.75, {1, 0, 0, 1}}},
+                                            .end = {0, 20}}}},
       {DrawnSymbol{.name = "link", .weight = 600, .colour = {0, 1, 0, 1}, .box = {0, 0, 8, 8}}},
       {DrawnImage{.image = test::positionImage(4, 3), .box = {0, 0, -0.0001, 6}}}};
   EXPECT_EQ(describe(list),
@@ -34,6 +37,7 @@ TEST(Describe, everyItem_isALine) {
             "size 30 20 "
             "room 40 20\n"
             "stroke 000000 width 2 round miter 10 M 0 0 L 1 0.333\n"
+            "fill gradient from 0 0 to 0 20, FFFFFF alpha 0.5 at 0, FF0000 at 0.75 M 0 0\n"
             "symbol \"link\" weight 600 00FF00 at 0 0 size 8 8\n"
             "image 4 3 at 0 0 size 0 6\n");
 }

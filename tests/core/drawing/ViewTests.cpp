@@ -1,6 +1,7 @@
 #include "core/drawing/View.h"
 
 #include "core/drawing/Describe.h"
+#include "core/drawing/Gradients.h"
 #include "core/drawing/Shapes.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/UnimplementedPlatform.h"
@@ -60,6 +61,22 @@ TEST_F(ViewTest, alone_standsInTheMiddle) {
   EXPECT_EQ(places(letters("abcd")), "abcd@40,25 ");
   EXPECT_EQ(places(padded(letters("abcd"), {.leading = 20})), "abcd@50,25 ");
   EXPECT_EQ(places(framed(letters("ab"), 100, 60, {Place::end, Place::start})), "ab@90,0 ");
+}
+
+TEST_F(ViewTest, gradientOfAShape_goesFromTopToBottomOfItsRoom) {
+  const PlatformColour blue{0, 0, 1, 0.5};
+  const auto strip = [&](const View& shape) {
+    const DisplayList list = layOut(framed(shape, 20, 40), {100, 60}, platform.drawing);
+    return std::get<DrawnPath>(list.front().content).gradient.value();
+  };
+  const LinearGradient gradient = strip(filled(shapes::circle, gradientOf(blue)));
+  EXPECT_EQ(gradient.start, (PathPoint{40, 10}));
+  EXPECT_EQ(gradient.end, (PathPoint{40, 50}));
+  ASSERT_EQ(gradient.stops.size(), 2);
+  EXPECT_GT(gradient.stops.front().colour.red, 0);
+  EXPECT_EQ(gradient.stops.front().colour.alpha, 0.5);
+  EXPECT_EQ(gradient.stops.back().colour, blue);
+  EXPECT_EQ(strip(stroked(shapes::circle, {.width = 2}, gradientOf(blue))), gradient);
 }
 
 TEST_F(ViewTest, stacks_placeTheirPartsOneAfterTheOther) {

@@ -82,6 +82,36 @@ TEST_F(RasteriserTest, strokes_haveTheirWidthCapsAndJoins) {
   EXPECT_NEAR(ink(render(line(LineCap::round), area)), 80 + std::acos(-1) * 4, 0.5);
 }
 
+TEST_F(RasteriserTest, gradients_goFromEndToEndAndOn) {
+  const LinearGradient gradient{
+      .stops = {{0, {1, 0, 0, 1}}, {0.5, {0, 1, 0, 1}}, {1, {0, 0, 1, 0}}},
+      .start = {0, 10},
+      .end = {0, 30}};
+  const DrawnPath filled{.path = shapes::rectangle({0, 0, 4, 40}), .gradient = gradient};
+  const Bitmap bitmap = render({{filled}}, {0, 0, 4, 40}, 2);
+  EXPECT_EQ(at(bitmap, 1, 10), (Pixel{255, 0, 0, 255})) << "before the start";
+  EXPECT_NEAR(at(bitmap, 1, 30)[0], 121, 3) << "the middle of the pixel is what counts";
+  EXPECT_NEAR(at(bitmap, 1, 30)[1], 134, 3);
+  EXPECT_NEAR(at(bitmap, 1, 40)[1], 255, 8);
+  EXPECT_NEAR(at(bitmap, 1, 50)[3], 121, 3);
+  EXPECT_EQ(at(bitmap, 1, 70)[3], 0) << "beyond the end";
+
+  DrawnPath line{.path = {{PathCommand::move, PathCommand::line}, {{2, 0}, {2, 40}}},
+                 .stroke = StrokeStyle{.width = 4},
+                 .gradient = gradient};
+  const Bitmap stroked = render({{line}}, {0, 0, 4, 40}, 2);
+  for (const int y : {10, 30, 50})
+    EXPECT_EQ(at(stroked, 1, y), at(bitmap, 1, y)) << y;
+  // Turned with its group, a quarter clockwise: what was above is at the right.
+  const Bitmap turned = render(
+      {{DrawnGroup{.transform = {0, 1, -1, 0, 40, 0}, .items = {{filled}}}}}, {0, 0, 40, 4}, 2);
+  EXPECT_EQ(at(turned, 69, 1), (Pixel{255, 0, 0, 255}));
+  EXPECT_NEAR(at(turned, 49, 1)[0], 121, 3);
+
+  line.gradient->stops.clear();
+  EXPECT_EQ(ink(render({{line}}, {0, 0, 4, 40})), 0) << "without colours there is nothing";
+}
+
 TEST_F(RasteriserTest, circle_isRound) {
   const DisplayList disc{
       {DrawnPath{.path = shapes::circle({0, 0, 40, 40}), .colour = {1, 1, 1, 1}}}};
