@@ -42,9 +42,10 @@ std::string withBreaks(std::string_view name) {
   return text;
 }
 
-View cell(const Platform& platform, std::string_view name) {
+View cell(const Platform& platform, std::string_view name, bool ownColours) {
   const bool own = platform.symbols.match(std::string(name)) < SymbolMatch::stripped;
-  const View picture = symbol(std::string(name), symbolSize, own ? ink : warning);
+  const auto drawn = ownColours ? symbolInOwnColours : symbol;
+  const View picture = drawn(std::string(name), symbolSize, own ? ink : warning, 400);
   const View words = text(withBreaks(name), {.size = letterSize}, quietInk, TextAlignment::centre);
   return framed(padded(vstack({picture, words}, Place::centre, 3), {.top = 5}), cellWidth,
                 cellHeight, {Place::centre, Place::start});
@@ -53,14 +54,14 @@ View cell(const Platform& platform, std::string_view name) {
 } // namespace
 
 Status drawSymbolSheet(const Platform& platform, const std::vector<std::string_view>& names,
-                       int scale, const std::string& file) {
+                       bool ownColours, int scale, const std::string& file) {
   const auto columns =
       static_cast<std::size_t>(std::ceil(std::sqrt(static_cast<double>(names.size()))));
   std::vector<View> rows;
   for (std::size_t next = 0; next < names.size(); next += columns) {
     std::vector<View> row;
     for (std::size_t i = next; i < std::min(next + columns, names.size()); ++i)
-      row.push_back(cell(platform, names[i]));
+      row.push_back(cell(platform, names[i], ownColours));
     rows.push_back(hstack(std::move(row), Place::start, 0));
   }
   const PointSize frame{static_cast<double>(columns) * cellWidth,

@@ -12,6 +12,6 @@ namespace vitrelle::cli {
 /// About square; symbols that have no picture of their own stand out. `scale` is in pixels per
 /// point.
 Status drawSymbolSheet(const Platform& platform, const std::vector<std::string_view>& names,
-                       int scale, const std::string& file);
+                       bool ownColours, int scale, const std::string& file);
 
 } // namespace vitrelle::cli

@@ -20,6 +20,7 @@ struct SymbolsArguments {
   std::string category; ///< a label, in any case; all of them when it is empty
   std::string sheet;
   int scale = 1;
+  bool ownColours = false;
   bool json = false;
 };
 
@@ -82,7 +83,8 @@ Exit run(const Platform& platform, const SymbolsArguments& arguments) {
   names.reserve(symbols.size());
   for (const Listed& symbol : symbols)
     names.push_back(symbol.name);
-  const Status drawn = drawSymbolSheet(platform, names, arguments.scale, arguments.sheet);
+  const Status drawn =
+      drawSymbolSheet(platform, names, arguments.ownColours, arguments.scale, arguments.sheet);
   if (drawn) return Exit::done;
   complain(drawn.failure());
   return Exit::failed;
@@ -99,6 +101,8 @@ void addSymbolsCommand(CLI::App& program, CommandContext& context) {
   command->add_flag("--json", told->json, "The list as JSON");
   CLI::Option* sheet =
       command->add_option("--sheet", told->sheet, "Draw them all to this PNG file instead");
+  command->add_flag("--own-colours", told->ownColours, "Draw each in the colours it has")
+      ->needs(sheet);
   command->add_option("--scale", told->scale, "The sheet's pixels per point")
       ->check(wholeNumber(1, 3))
       ->needs(sheet)

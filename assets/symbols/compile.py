@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Turns the symbol table and the icons it names into a C++ source of constant data.
 
-Usage: compile.py TABLE CATALOGUE ICONS_FOLDER OUTPUT
+Usage: compile.py TABLE COLOURS CATALOGUE ICONS_FOLDER OUTPUT
 """
 
 import re
@@ -9,6 +9,7 @@ import sys
 from pathlib import Path
 
 from areas import told_apart
+from colours import Colours
 from pictures import Compiler, Picture
 
 ENCLOSURES = (".circle.fill", ".square.fill", ".circle", ".square")
@@ -68,17 +69,24 @@ def quoted(text):
     return [f'    "{text[i:i + 90]}"' for i in range(0, len(text), 90)] + ["    ;"]
 
 
-def compile_table(table, catalogue, icons, output):
+def compile_table(table, colour_table, catalogue, icons, output):
+    pictures, colours = pictures_of(Compiler(table, icons), catalogue), Colours(colour_table)
+    if unknown := colours.boxes.keys() - pictures.keys():
+        raise ValueError(f"{', '.join(sorted(unknown))}: with colours, but without a picture")
     names, commands, points, places, rows = "", "", [], {}, []
-    for name, picture in sorted(pictures_of(Compiler(table, icons), catalogue).items()):
+    things = "-"  # the first letter stands for pictures that have no colours of their own
+    for name, picture in sorted(pictures.items()):
         own_commands, own_points = encoded(picture.outline)
         key = (own_commands, *own_points)
         if key not in places:
             places[key] = f"{len(commands)}, {len(own_commands)}, {len(points)}"
             commands += own_commands
             points += own_points
-        rows.append(f"    {{{len(names)}, {len(name)}, SymbolMatch::{picture.kind}, {places[key]}}},"
-                    f" // {name}")
+        letters = colours.letters(name, picture.outline) if name in colours.boxes else ""
+        first_thing = len(things) if letters else 0
+        things += letters
+        rows.append(f"    {{{len(names)}, {len(name)}, SymbolMatch::{picture.kind}, {places[key]},"
+                    f" {first_thing}}}, // {name}")
         names += name
     numbers = [str(number) for point in points for number in point]
     output.write_text("\n".join([
@@ -88,15 +96,18 @@ def compile_table(table, catalogue, icons, output):
         "constexpr SymbolEntry entries[] = {", *rows, "};", "",
         "constexpr char names[] =", *quoted(names), "",
         "constexpr char commands[] =", *quoted(commands), "",
+        "constexpr char things[] =", *quoted(things), "",
+        "constexpr std::uint32_t colours[] = {",
+        *[f"    0x{colour:06X}, // {thing}" for thing, colour in colours.of.items()], "};", "",
         "constexpr std::int16_t coordinates[] = {",
         *[f"    {line}" for line in lines_of(numbers, ",")],
         "};", "", "} // namespace", "",
-        "const SymbolTable symbolTable = {entries, names, commands, coordinates};", "",
+        "const SymbolTable symbolTable = {entries, names, commands, coordinates, things, colours};", "",
         "} // namespace vitrelle::host", ""]))
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 5:
+    if len(sys.argv) != 6:
         sys.exit(__doc__.strip())
     try:
         compile_table(*map(Path, sys.argv[1:]))

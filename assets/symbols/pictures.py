@@ -243,6 +243,13 @@ class Compiler:
             raise ValueError(f"{word}: {error}") from error
 
 
+def spread(line):
+    """The two lines that one with [brackets] stands for, or the line."""
+    if "[" not in line:
+        return [line]
+    return [re.sub(r"\[[^]]*\]", "", line), re.sub(r"[\[\]]", "", line)]
+
+
 def rows_of(table):
     """(line number, name, expression); a line with [brackets] stands for two."""
     for number, line in enumerate(table.read_text().splitlines(), 1):
@@ -251,10 +258,7 @@ def rows_of(table):
             continue
         if "=" not in line:
             raise ValueError(f"line {number}: no = in {line!r}")
-        wanted = [line]
-        if "[" in line:
-            wanted = [re.sub(r"\[[^]]*\]", "", line), re.sub(r"[\[\]]", "", line)]
-        for text in wanted:
+        for text in spread(line):
             names, expression = (side.strip() for side in text.split("=", 1))
             for name in names.split():
                 yield number, name, expression

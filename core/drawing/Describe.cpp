@@ -111,6 +111,7 @@ class Writer final {
   void writeItem(const DrawnSymbol& item, const std::string&) {
     text_ += "symbol " + quoted(item.name);
     if (item.weight != 400) text_ += " weight " + std::to_string(item.weight);
+    if (item.ownColours) text_ += " own colours else";
     text_ += words(item.colour) + words(item.box) + '\n';
   }
   void writeItem(const DrawnImage& item, const std::string&) {

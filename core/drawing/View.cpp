@@ -447,6 +447,12 @@ View symbol(std::string name, double size, const PlatformColour& colour, int wei
       DrawnSymbol{.name = std::move(name), .weight = weight, .colour = colour}, size));
 }
 
+View symbolInOwnColours(std::string name, double size, const PlatformColour& colour, int weight) {
+  return View(std::make_shared<SymbolNode>(
+      DrawnSymbol{.name = std::move(name), .weight = weight, .colour = colour, .ownColours = true},
+      size));
+}
+
 View filled(std::function<Path(const PointRect&)> shape, const PlatformColour& colour) {
   return View(std::make_shared<ShapeNode>(std::move(shape), DrawnPath{.colour = colour}));
 }

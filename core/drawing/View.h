@@ -68,6 +68,9 @@ View text(std::string words, Font font, const PlatformColour& colour,
           TextAlignment alignment = TextAlignment::leading);
 /// A square of the size.
 View symbol(std::string name, double size, const PlatformColour& colour, int weight = 400);
+/// In the colours of what it shows; whatever has none of its own is in the colour given.
+View symbolInOwnColours(std::string name, double size, const PlatformColour& colour,
+                        int weight = 400);
 /// A shape takes all the room it is offered, 10 points where that is infinite.
 View filled(std::function<Path(const PointRect&)> shape, const PlatformColour& colour);
 View stroked(std::function<Path(const PointRect&)> shape, const StrokeStyle& style,

@@ -76,6 +76,7 @@ struct DrawnSymbol {
   int weight = 400;
   PlatformColour colour = {};
   PointRect box = {};
+  bool ownColours = false; ///< the colour is then for what has none of its own
   bool operator==(const DrawnSymbol&) const = default;
 };
 

@@ -3,10 +3,13 @@
 #pragma once
 
 #include "core/platform/Path.h"
+#include "core/platform/PlatformColour.h"
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace vitrelle {
 
@@ -16,6 +19,12 @@ struct SymbolOutline {
   FillRule rule = FillRule::nonZero;
   double width = 16;
   double height = 16;
+};
+
+/// A thing in a symbol, such as the sun behind a cloud.
+struct SymbolPart {
+  SymbolOutline outline;                               ///< in the box of the whole symbol
+  std::optional<PlatformColour> colour = std::nullopt; ///< its own, if it has one
 };
 
 /// From the nearest to the farthest.
@@ -30,6 +39,8 @@ enum class SymbolMatch : std::uint8_t {
 struct Symbols {
   /// Any name has an outline.
   std::function<SymbolOutline(const std::string& name)> outline;
+  /// That outline taken apart, from back to front; one part where it has no colours of its own.
+  std::function<std::vector<SymbolPart>(const std::string& name)> parts;
   std::function<SymbolMatch(const std::string& name)> match;
 };
 

@@ -188,8 +188,17 @@ class Inker final {
                   }});
   }
 
-  void add(Inks& to, const DrawnSymbol& item, QTransform toPixels) const {
-    const SymbolOutline symbol = symbols_.outline(item.name);
+  void add(Inks& to, const DrawnSymbol& item, const QTransform& toPixels) const {
+    if (!item.ownColours) return addSymbol(to, symbols_.outline(item.name), item, toPixels);
+    DrawnSymbol drawn = item;
+    for (const SymbolPart& part : symbols_.parts(item.name)) {
+      drawn.colour = part.colour.value_or(item.colour);
+      addSymbol(to, part.outline, drawn, toPixels);
+    }
+  }
+
+  static void addSymbol(Inks& to, const SymbolOutline& symbol, const DrawnSymbol& item,
+                        QTransform toPixels) {
     const double fit = std::min(item.box.width / symbol.width, item.box.height / symbol.height);
     toPixels.translate(item.box.x + (item.box.width - symbol.width * fit) / 2,
                        item.box.y + (item.box.height - symbol.height * fit) / 2);

@@ -18,6 +18,7 @@ struct SymbolEntry {
   std::uint32_t firstCommand;
   std::uint16_t commandCount;
   std::uint32_t firstPoint;
+  std::uint16_t firstThing; ///< where it stands in the table's things; 0 for none
 };
 
 struct SymbolTable {
@@ -26,6 +27,9 @@ struct SymbolTable {
   std::string_view commands; ///< M, L, C, Z as in SVG
   /// x and y of each point, in a box of 16 by 16 units of 1024.
   std::span<const std::int16_t> coordinates;
+  /// What each contour shows: a has the first of the colours, - the one that is given.
+  std::string_view things;
+  std::span<const std::uint32_t> colours; ///< RRGGBB
 };
 
 extern const SymbolTable symbolTable;

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -119,6 +121,11 @@ std::optional<Place> stripped(std::string_view name) {
   }
 }
 
+std::optional<Place> placeOf(std::string_view name) {
+  const auto found = known(name);
+  return found ? found : stripped(name);
+}
+
 SymbolOutline outlineOf(const Place& place) {
   if (!place.shape) return {.path = pathOf(*place.entry)};
   return enclosed(place.entry ? pathOf(*place.entry) : spelling(place.letters), *place.shape);
@@ -134,9 +141,54 @@ SymbolOutline fallback(std::string_view name) {
 }
 
 SymbolOutline outline(const std::string& name) {
-  if (const auto found = known(name)) return outlineOf(*found);
-  if (const auto found = stripped(name)) return outlineOf(*found);
-  return fallback(name);
+  const auto found = placeOf(name);
+  return found ? outlineOf(*found) : fallback(name);
+}
+
+PlatformColour colourOf(std::uint32_t hexadecimal) {
+  const auto part = [&](unsigned shift) { return (hexadecimal >> shift & 0xFFU) / 255.0; };
+  return {part(16), part(8), part(0), 1};
+}
+
+/// The contours of the path that show one thing.
+Path contoursOf(const Path& path, std::string_view things, char wanted) {
+  Path result;
+  std::size_t next = 0;
+  std::size_t begun = 0;
+  for (const PathCommand command : path.commands) {
+    const auto points = path.points.begin() + static_cast<std::ptrdiff_t>(next);
+    const std::size_t count = pointCount(command);
+    next += count;
+    if (command == PathCommand::move) ++begun;
+    if (things[begun - 1] != wanted) continue;
+    result.commands.push_back(command);
+    result.points.insert(result.points.end(), points, points + static_cast<std::ptrdiff_t>(count));
+  }
+  return result;
+}
+
+std::vector<SymbolPart> partsOf(const SymbolEntry& entry) {
+  const Path path = pathOf(entry);
+  const auto contours = std::ranges::count(path.commands, PathCommand::move);
+  const std::string_view things =
+      symbolTable.things.substr(entry.firstThing, static_cast<std::size_t>(contours));
+  std::string kinds(things); // the given colour sorts before the letters
+  std::ranges::sort(kinds);
+  kinds.erase(std::ranges::unique(kinds).begin(), kinds.end());
+  std::vector<SymbolPart> parts;
+  for (const char kind : kinds) {
+    SymbolPart& part = parts.emplace_back();
+    part.outline.path = contoursOf(path, things, kind);
+    if (kind != '-')
+      part.colour = colourOf(symbolTable.colours[static_cast<std::size_t>(kind - 'a')]);
+  }
+  return parts;
+}
+
+std::vector<SymbolPart> parts(const std::string& name) {
+  const auto found = placeOf(name);
+  if (found && !found->shape && found->entry->firstThing > 0) return partsOf(*found->entry);
+  return {{.outline = outline(name)}};
 }
 
 SymbolMatch match(const std::string& name) {
@@ -147,7 +199,7 @@ SymbolMatch match(const std::string& name) {
 } // namespace
 
 Symbols makeSymbols() {
-  return {.outline = outline, .match = match};
+  return {.outline = outline, .parts = parts, .match = match};
 }
 
 } // namespace vitrelle::host

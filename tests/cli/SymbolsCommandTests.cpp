@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 
 namespace vitrelle {
@@ -62,10 +63,23 @@ TEST_F(SymbolsCommandTest, sheet_hasACellForEachSymbol) {
             24U);
 }
 
+TEST_F(SymbolsCommandTest, sheet_hasColoursWhereAsked) {
+  const auto isGrey = [&](const test::Outcome& drawn) {
+    EXPECT_EQ(drawn.status, 0) << drawn.complaints;
+    const Bitmap sheet = readPicture(file());
+    const std::uint8_t* sun = sheet.row(19) + 4 * (64 + 32); // the second symbol
+    return std::abs(sun[0] - sun[2]) < 8;
+  };
+  EXPECT_TRUE(isGrey(run({"symbols", "weather", "--sheet", file()})));
+  EXPECT_FALSE(isGrey(run({"symbols", "weather", "--sheet", file(), "--own-colours"})));
+}
+
 TEST_F(SymbolsCommandTest, wrongUsage_isTold) {
   using Arguments = std::vector<std::string>;
-  for (const Arguments& arguments :
-       {Arguments{"symbols", "plants"}, {"symbols", "none"}, {"symbols", "--scale", "2"}}) {
+  for (const Arguments& arguments : {Arguments{"symbols", "plants"},
+                                     {"symbols", "none"},
+                                     {"symbols", "--scale", "2"},
+                                     {"symbols", "--own-colours"}}) {
     const test::Outcome outcome = run(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments.back();
     EXPECT_TRUE(outcome.complaints.starts_with("vitrelle: ")) << outcome.complaints;

@@ -74,6 +74,7 @@ Platform unimplementedPlatform() {
       .bannerKit = {.start = Unimplemented{"bannerKit.start"},
                     .load = Unimplemented{"bannerKit.load"}},
       .symbols = {.outline = Unimplemented{"symbols.outline"},
+                  .parts = Unimplemented{"symbols.parts"},
                   .match = Unimplemented{"symbols.match"}},
       .drawing = {.textSize = Unimplemented{"drawing.textSize"},
                   .lastBaseline = Unimplemented{"drawing.lastBaseline"},

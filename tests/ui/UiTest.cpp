@@ -103,6 +103,7 @@ UiTest::UiTest() {
                             square.path.points = {{0, 0}, {16, 0}, {16, 16}};
                             return square;
                           },
+                      .parts = [](const std::string&) { return std::vector<SymbolPart>(); },
                       .match = [](const std::string&) { return SymbolMatch::alias; }};
   host::useDrawing(platform);
   platform.widgetCenter.watchReloads = [](const std::function<void()>&) { return Subscription(); };

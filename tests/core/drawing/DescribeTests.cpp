@@ -29,6 +29,7 @@ TEST(Describe, everyItem_isALine) {
                  .gradient = LinearGradient{.stops = {{0, {1, 1, 1, 0.5}}, {0.75, {1, 0, 0, 1}}},
                                             .end = {0, 20}}}},
       {DrawnSymbol{.name = "link", .weight = 600, .colour = {0, 1, 0, 1}, .box = {0, 0, 8, 8}}},
+      {DrawnSymbol{.name = "sun.max", .box = {0, 0, 8, 8}, .ownColours = true}},
       {DrawnImage{.image = test::positionImage(4, 3), .box = {0, 0, -0.0001, 6}}}};
   EXPECT_EQ(describe(list),
             "fill FF8000 alpha 0.25 even-odd M 0 0.5 L 2 0.5 L 2 1.5 L 0 1.5 Z\n"
@@ -39,6 +40,7 @@ TEST(Describe, everyItem_isALine) {
             "stroke 000000 width 2 round miter 10 M 0 0 L 1 0.333\n"
             "fill gradient from 0 0 to 0 20, FFFFFF alpha 0.5 at 0, FF0000 at 0.75 M 0 0\n"
             "symbol \"link\" weight 600 00FF00 at 0 0 size 8 8\n"
+            "symbol \"sun.max\" own colours else 000000 at 0 0 size 8 8\n"
             "image 4 3 at 0 0 size 0 6\n");
 }
 

@@ -112,6 +112,21 @@ TEST_F(RasteriserTest, gradients_goFromEndToEndAndOn) {
   EXPECT_EQ(ink(render({{line}}, {0, 0, 4, 40})), 0) << "without colours there is nothing";
 }
 
+TEST_F(RasteriserTest, symbols_areInTheirOwnColoursWhereAsked) {
+  DrawnSymbol symbol{.name = "cloud.rain.fill", .colour = {1, 0, 0, 1}, .box = {0, 0, 16, 16}};
+  const auto pixels = [&](int y) {
+    const Bitmap bitmap = render({{symbol}}, {0, 0, 16, 16}, 3);
+    return std::array{at(bitmap, 24, 15), at(bitmap, 19, y)};
+  };
+  constexpr Pixel red{255, 0, 0, 255};
+  EXPECT_EQ(pixels(42), (std::array{red, red})) << "the cloud and a drop";
+  symbol.ownColours = true;
+  EXPECT_EQ(pixels(42)[0], (Pixel{255, 255, 255, 255}));
+  EXPECT_GT(pixels(42)[1][2], pixels(42)[1][0]) << "a drop is blue";
+  symbol.name = "square.fill";
+  EXPECT_EQ(pixels(42)[0], red) << "a square has no colour of its own";
+}
+
 TEST_F(RasteriserTest, circle_isRound) {
   const DisplayList disc{
       {DrawnPath{.path = shapes::circle({0, 0, 40, 40}), .colour = {1, 1, 1, 1}}}};

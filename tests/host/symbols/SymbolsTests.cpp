@@ -10,6 +10,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vitrelle::host {
 
@@ -278,6 +279,61 @@ TEST(Symbols, name_isFoundByItsNearestPicture) {
   for (const auto& [name, match] : cases) {
     EXPECT_EQ(symbols.match(name), match) << name;
     expectDrawable(symbols.outline(name), name);
+  }
+}
+
+std::size_t contours(const SymbolOutline& symbol) {
+  return static_cast<std::size_t>(std::ranges::count(symbol.path.commands, PathCommand::move));
+}
+
+TEST(Symbols, parts_areTheWholeSymbol) {
+  const Symbols symbols = makeSymbols();
+  int coloured = 0;
+  for (const std::string& name : catalogueNames()) {
+    const SymbolOutline whole = symbols.outline(name);
+    std::size_t count = 0;
+    std::size_t own = 0;
+    const std::vector<SymbolPart> parts = symbols.parts(name);
+    for (const auto& [outline, colour] : parts) {
+      expectDrawable(outline, name);
+      EXPECT_EQ(outline.rule, whole.rule) << name;
+      count += contours(outline);
+      if (colour) ++own;
+    }
+    EXPECT_EQ(count, contours(whole)) << name;
+    EXPECT_GE(own + 1, parts.size()) << name << ": what has no colour is one part";
+    if (own > 0) ++coloured;
+  }
+  EXPECT_GT(coloured, 60);
+}
+
+TEST(Symbols, parts_haveTheColoursOfWhatTheyShow) {
+  const Symbols symbols = makeSymbols();
+  const auto lowest = [](const SymbolPart& part) {
+    return std::ranges::max(part.outline.path.points, {}, &PathPoint::y).y;
+  };
+  const auto parts = symbols.parts("cloud.sun.rain.fill");
+  ASSERT_EQ(parts.size(), 3);
+  const SymbolPart& cloud = parts[0];
+  const SymbolPart& sun = parts[1];
+  const SymbolPart& drops = parts[2];
+  EXPECT_EQ(cloud.colour, (PlatformColour{1, 1, 1, 1}));
+  EXPECT_EQ(contours(cloud.outline), 1);
+  EXPECT_EQ(sun.colour, symbols.parts("sun.max").front().colour);
+  EXPECT_LT(sun.colour->blue, 0.2);
+  EXPECT_LT(lowest(sun), 8);
+  EXPECT_EQ(drops.colour, symbols.parts("drop.fill").front().colour);
+  EXPECT_GT(drops.colour->blue, 0.8);
+  EXPECT_GT(lowest(drops), lowest(cloud));
+
+  EXPECT_FALSE(symbols.parts("thermometer").front().colour) << "the glass lies behind";
+  EXPECT_TRUE(symbols.parts("thermometer").back().colour);
+  EXPECT_EQ(symbols.parts("moon.fill.badge.plus").front().colour,
+            symbols.parts("moon.fill").front().colour);
+  for (const char* name : {"link", "sun.max.circle.fill", "50.square", "q.unheard.of", ""}) {
+    ASSERT_EQ(symbols.parts(name).size(), 1) << name;
+    EXPECT_FALSE(symbols.parts(name).front().colour) << name;
+    EXPECT_EQ(symbols.parts(name).front().outline.path, symbols.outline(name).path) << name;
   }
 }
 
