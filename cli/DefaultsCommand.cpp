@@ -2,6 +2,7 @@
 
 #include "cli/Numbers.h"
 #include "cli/OneLine.h"
+#include "core/store/Decimal.h"
 
 #include <nlohmann/json.hpp>
 
@@ -39,22 +40,13 @@ std::string hexadecimal(const Data& data) {
   return text;
 }
 
-/// The shortest text that reads back as the same number, and never looks like an integer.
-std::string shortest(double number) {
-  std::array<char, 32> buffer{};
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
-  std::string text(buffer.data(), end);
-  if (std::isfinite(number) && text.find_first_of(".e") == std::string::npos) text += ".0";
-  return text;
-}
-
 /// ISO 8601 in UTC to the millisecond; the seconds since the reference date where the year has not
 /// four digits.
 std::string isoDate(Date date) {
   using namespace std::chrono;
   constexpr double fourDigitSeconds = 250e9;
   const double seconds = date.secondsSinceReferenceDate;
-  if (!(seconds > -63e9 && seconds < fourDigitSeconds)) return shortest(seconds);
+  if (!(seconds > -63e9 && seconds < fourDigitSeconds)) return shortestDecimal(seconds);
   const auto moment = referenceDate + round<milliseconds>(duration<double>(seconds));
   const auto day = floor<days>(moment);
   const year_month_day calendar(day);
@@ -78,7 +70,7 @@ struct Kind {
 Kind describe(const StoreValue& value) {
   struct Describer {
     Kind operator()(std::int64_t number) const { return {"Int", std::to_string(number), number}; }
-    Kind operator()(double number) const { return {"Double", shortest(number), number}; }
+    Kind operator()(double number) const { return {"Double", shortestDecimal(number), number}; }
     Kind operator()(bool flag) const { return {"Bool", flag ? "true" : "false", flag}; }
     Kind operator()(const std::string& text) const { return {"String", quotedLine(text), text}; }
     Kind operator()(const Data& data) const {
