@@ -1,5 +1,6 @@
 #include "core/pickers/FontPicker.h"
 
+#include "core/platform/FatalError.h"
 #include "core/store/GroupStore.h"
 
 #include <algorithm>
@@ -27,11 +28,21 @@ std::vector<FontFamily> fontFamilies(const Fonts& fonts, std::string_view words)
   return families;
 }
 
+const StoredFont& storedFont(std::string_view screen) {
+  const auto* found = std::ranges::find(storedFonts, screen, &StoredFont::screen);
+  if (found == storedFonts.end()) fatalError("no font picker " + std::string(screen));
+  return *found;
+}
+
+std::string StoredFontPicker::fontPicked() const {
+  return GroupStore(platform_).valueOrDefault(font_.name);
+}
+
 void StoredFontPicker::didPickFont(const std::optional<FontDescriptor>& selected) const {
   if (!selected) return;
   const GroupStore store(platform_);
-  const std::int64_t size = store.value(size_).value_or(usualSize);
-  store.set(name_, selected->postScriptName);
+  const std::int64_t size = store.value(font_.size).value_or(usualSize);
+  store.set(font_.name, selected->postScriptName);
   platform_.widgetCenter.reloadAllTimelines();
   platform_.debugConsole.print(selected->postScriptName + " " + std::to_string(size) + ".0");
   dismiss_();

@@ -5,6 +5,7 @@
 #include "core/platform/Platform.h"
 #include "core/store/Keys.h"
 
+#include <array>
 #include <functional>
 #include <optional>
 #include <string>
@@ -20,39 +21,34 @@ using FontDescriptor = FontFamily;
 /// The families whose names hold the words, in any case of A to Z; all of them for no words.
 std::vector<FontFamily> fontFamilies(const Fonts& fonts, std::string_view words);
 
+/// Where a fixed picker keeps its choice.
+struct StoredFont {
+  std::string_view screen; ///< its type name
+  Key<std::string> name;
+  Key<std::int64_t> size; ///< only printed; 18 where it is absent
+};
+inline constexpr std::array<StoredFont, 3> storedFonts{
+    {{"FontPicker", keys::fontPicked, keys::fontSize},
+     {"DateFontPicker", keys::dateFontPicked, keys::dateFontSize},
+     {"TimeFontPicker", keys::timeFontPicked, keys::timeFontSize}}};
+/// By the picker's type name; one that none has is a fatal error.
+const StoredFont& storedFont(std::string_view screen);
+
 /// Writes the PostScript name under its key and reloads the widgets. Without a descriptor nothing
 /// happens at all.
-class StoredFontPicker {
+class StoredFontPicker final {
  public:
-  StoredFontPicker(const Platform& platform, const Key<std::string>& name,
-                   const Key<std::int64_t>& size, std::function<void()> dismiss)
-      : platform_(platform), name_(name), size_(size), dismiss_(std::move(dismiss)) {}
+  StoredFontPicker(const Platform& platform, const StoredFont& font, std::function<void()> dismiss)
+      : platform_(platform), font_(font), dismiss_(std::move(dismiss)) {}
 
+  /// The name that is stored; empty where none is.
+  std::string fontPicked() const;
   void didPickFont(const std::optional<FontDescriptor>& selected) const;
 
  private:
   const Platform& platform_;
-  Key<std::string> name_;
-  Key<std::int64_t> size_; ///< only printed; 18 where it is absent
+  StoredFont font_;
   std::function<void()> dismiss_;
-};
-
-class FontPicker final : public StoredFontPicker {
- public:
-  FontPicker(const Platform& platform, std::function<void()> dismiss)
-      : StoredFontPicker(platform, keys::fontPicked, keys::fontSize, std::move(dismiss)) {}
-};
-
-class DateFontPicker final : public StoredFontPicker {
- public:
-  DateFontPicker(const Platform& platform, std::function<void()> dismiss)
-      : StoredFontPicker(platform, keys::dateFontPicked, keys::dateFontSize, std::move(dismiss)) {}
-};
-
-class TimeFontPicker final : public StoredFontPicker {
- public:
-  TimeFontPicker(const Platform& platform, std::function<void()> dismiss)
-      : StoredFontPicker(platform, keys::timeFontPicked, keys::timeFontSize, std::move(dismiss)) {}
 };
 
 /// Writes no store: whoever owns the form saves the name with the rest of it.

@@ -2,6 +2,8 @@
 
 #include "core/platform/FatalError.h"
 
+#include <string>
+
 namespace vitrelle {
 
 const std::vector<std::string_view>& SFSymbolsPicker::names() const {
@@ -13,8 +15,8 @@ const std::vector<std::string_view>& SFSymbolsPicker::names() const {
   return found->second;
 }
 
-void SFSymbolsPicker::select(std::string_view name) {
-  icon_ = name;
+void SFSymbolsPicker::select(std::string_view name) const {
+  picked_(name);
   if (haptic_) platform_.haptics.mediumImpact();
 }
 

@@ -13,9 +13,8 @@ class FontPickerTest : public test::AppTest {
     if (found == values.end()) return std::nullopt;
     return std::get<std::string>(found->second);
   }
-  template <class Picker>
-  void pick(const std::optional<FontDescriptor>& font) {
-    Picker(platform, [this] { ++dismissals; }).didPickFont(font);
+  StoredFontPicker picker(const char* screen) {
+    return {platform, storedFont(screen), [this] { ++dismissals; }};
   }
 
   const FontDescriptor inter{"Inter", "Inter-Regular"};
@@ -24,11 +23,13 @@ class FontPickerTest : public test::AppTest {
 
 TEST_F(FontPickerTest, storedPickers_writeTheNameUnderTheirKeys) {
   setNumber("dateFontSize", 30);
-  pick<FontPicker>(inter);
-  pick<DateFontPicker>(inter);
-  pick<TimeFontPicker>(inter);
+  EXPECT_EQ(picker("DateFontPicker").fontPicked(), "");
+  picker("FontPicker").didPickFont(inter);
+  picker("DateFontPicker").didPickFont(inter);
+  picker("TimeFontPicker").didPickFont(inter);
   for (const char* key : {"fontPicked", "dateFontPicked", "timeFontPicked"})
     EXPECT_EQ(name(key), "Inter-Regular") << key;
+  EXPECT_EQ(picker("DateFontPicker").fontPicked(), "Inter-Regular");
   EXPECT_EQ(console.reloads, 3);
   EXPECT_EQ(dismissals, 3);
   EXPECT_TRUE(printed("Inter-Regular 18.0"));
@@ -36,8 +37,12 @@ TEST_F(FontPickerTest, storedPickers_writeTheNameUnderTheirKeys) {
   EXPECT_EQ(number("fontSize"), std::nullopt) << "only the name is kept";
 }
 
+TEST_F(FontPickerTest, unknownPicker_endsTheProgram) {
+  EXPECT_DEATH(storedFont("SizePicker"), "no font picker SizePicker");
+}
+
 TEST_F(FontPickerTest, withoutAChoice_nothingHappens) {
-  pick<FontPicker>(std::nullopt);
+  picker("FontPicker").didPickFont(std::nullopt);
   EXPECT_FALSE(name("fontPicked"));
   EXPECT_EQ(console.reloads, 0);
   EXPECT_EQ(dismissals, 0);
@@ -50,7 +55,7 @@ TEST_F(FontPickerTest, withoutAChoice_nothingHappens) {
 
 TEST_F(FontPickerTest, brokenStore_stillReloads) {
   defaults.broken = {Suite::group};
-  pick<FontPicker>(inter);
+  picker("FontPicker").didPickFont(inter);
   EXPECT_EQ(console.reloads, 1);
   EXPECT_EQ(dismissals, 1);
 }

@@ -57,25 +57,24 @@ TEST(SymbolCatalogue, lists_haveTheirSizesAndEnds) {
 class SFSymbolsPickerTest : public test::AppTest {
  protected:
   SFSymbolsPicker picker(Category category, bool haptic) {
-    return {platform, isPresented, icon, category, Axis::vertical, haptic, [this] { ++closings; }};
+    return {platform,
+            category,
+            Axis::vertical,
+            haptic,
+            [this](std::string_view name) { picked.emplace_back(name); },
+            [this] { ++closings; }};
   }
-  bool isPresented = true;
-  std::string icon = "unheard.of";
+  std::vector<std::string> picked;
   int closings = 0;
 };
 
-TEST_F(SFSymbolsPickerTest, tap_selectsAndKeepsTheSheetOpen) {
-  SFSymbolsPicker shown = picker(Category::objects, true);
-  EXPECT_EQ(shown.icon(), "unheard.of");
-  for (const std::string_view name : shown.names())
-    EXPECT_FALSE(shown.isSelected(name)) << name;
+TEST_F(SFSymbolsPickerTest, tap_isToldAndKeepsTheSheetOpen) {
+  const SFSymbolsPicker shown = picker(Category::objects, true);
+  EXPECT_EQ(shown.names().size(), 574U);
   shown.select("pencil.circle");
   shown.select("pencil.circle");
-  EXPECT_EQ(icon, "pencil.circle");
+  EXPECT_EQ(picked, (std::vector<std::string>{"pencil.circle", "pencil.circle"}));
   EXPECT_EQ(surroundings.felt, (std::vector<std::string>{"medium impact", "medium impact"}));
-  const auto& names = shown.names();
-  EXPECT_EQ(std::ranges::count_if(names, [&](auto name) { return shown.isSelected(name); }), 1);
-  EXPECT_TRUE(shown.isPresented());
   EXPECT_EQ(closings, 0);
   shown.close();
   EXPECT_EQ(closings, 1);
@@ -83,7 +82,7 @@ TEST_F(SFSymbolsPickerTest, tap_selectsAndKeepsTheSheetOpen) {
 
 TEST_F(SFSymbolsPickerTest, withoutHaptic_aTapIsSilent) {
   picker(Category::edit, false).select("pencil");
-  EXPECT_EQ(icon, "pencil");
+  EXPECT_EQ(picked, (std::vector<std::string>{"pencil"}));
   EXPECT_TRUE(surroundings.felt.empty());
 }
 
