@@ -3,7 +3,7 @@
 namespace vitrelle {
 
 void SolidBackgroundView::appear() {
-  constexpr std::int64_t firstStyle = 0;
+  constexpr StyleNumber firstStyle{};
   img_ = findSlice(platform_, WidgetLocationImageNames::mediumTop, firstStyle,
                    currentAppearance(platform_));
   changed();

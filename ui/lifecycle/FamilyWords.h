@@ -20,6 +20,8 @@ inline QString qText(std::string_view words) {
 struct FamilyWords {
   Q_GADGET
   QML_VALUE_TYPE(familyWords)
+  Q_PROPERTY(QString name MEMBER name CONSTANT)
+  Q_PROPERTY(QString entryScreen MEMBER entryScreen CONSTANT)
   Q_PROPERTY(QString entryTitle MEMBER entryTitle CONSTANT)
   Q_PROPERTY(QString entrySymbol MEMBER entrySymbol CONSTANT)
   Q_PROPERTY(QString galleryTitle MEMBER galleryTitle CONSTANT)
@@ -30,7 +32,9 @@ struct FamilyWords {
 
  public:
   explicit FamilyWords(const FamilyDescription& words)
-      : entryTitle(qText(words.entryTitle)),
+      : name(qText(words.name)),
+        entryScreen(qText(words.entryScreen)),
+        entryTitle(qText(words.entryTitle)),
         entrySymbol(qText(words.entrySymbol)),
         galleryTitle(qText(words.galleryTitle)),
         assignItem(qText(words.assignItem)),
@@ -39,6 +43,8 @@ struct FamilyWords {
         secondSymbol(qText(words.secondSymbol)) {}
   FamilyWords() = default;
 
+  QString name;
+  QString entryScreen;
   QString entryTitle;
   QString entrySymbol;
   QString galleryTitle;

@@ -94,12 +94,12 @@ TEST_F(CustomDateTextViewTest, preview_standsOnTheStyleInUse) {
   folder.images.insert_or_assign("0topMedium.png", screenshot);
   folder.images.insert_or_assign("2topMediumDark.png", screenshot);
   CustomDateTextView screen(platform);
-  EXPECT_EQ(screen.img(), (SliceName{"topMedium", 0, lightStyle}));
+  EXPECT_EQ(screen.img(), (SliceName{"topMedium", {0}, lightStyle}));
   store("selectedConfig", std::int64_t{2});
   EXPECT_EQ(screen.img(), std::nullopt);
   phone.userInterfaceStyle = darkStyle;
   screen.appear();
-  EXPECT_EQ(screen.img(), (SliceName{"topMedium", 2, darkStyle}));
+  EXPECT_EQ(screen.img(), (SliceName{"topMedium", {2}, darkStyle}));
 }
 
 } // namespace

@@ -68,7 +68,7 @@ TEST_F(SolidBackgroundViewTest, preview_standsOnTheFirstStyleWhicheverIsInUse) {
   EXPECT_EQ(screen.img(), std::nullopt);
   folder.images.insert_or_assign("0topMedium.png", screenshot);
   screen.appear();
-  EXPECT_EQ(screen.img(), (SliceName{"topMedium", 0, lightStyle}));
+  EXPECT_EQ(screen.img(), (SliceName{"topMedium", {0}, lightStyle}));
   phone.userInterfaceStyle = darkStyle;
   screen.appear();
   EXPECT_EQ(screen.img(), std::nullopt) << "the other appearance is no stand-in";

@@ -41,7 +41,7 @@ TEST_F(BatteryFamilyTest, newStyle_isWhiteAndItsColoursBeginGreenAndGrey) {
   EXPECT_EQ(second->rows()[0].value, FormValue(Colour::parse("30D158")));
   EXPECT_EQ(second->rows()[1].value, FormValue(colours::batteryGrey));
   EXPECT_EQ(batteries()[0], batteryWidgetData{}) << "left as it is until it is saved";
-  second->setValue(2, Colour{1, 1, 0});
+  second->setValue(3, Colour{1, 1, 0});
   EXPECT_EQ(second->save(), Saved::stored);
   EXPECT_EQ(batteries()[0].batteryRingColour, Colour::parse("30D158"));
   EXPECT_EQ(batteries()[0].batteryIconColour, Colour::parse("2B2B2E"));
