@@ -70,7 +70,7 @@ class PictureNode final : public StretchedNode {
             DisplayList& to) const override {
     DrawnImage drawn{.image = image_, .box = box};
     if (cornerRadius_ > 0) drawn.outline = shapes::continuousRectangle(box, cornerRadius_);
-    to.push_back({std::move(drawn)});
+    to.emplace_back().content = std::move(drawn); // g++ 12 warns of a moved item for no reason
   }
 
  private:

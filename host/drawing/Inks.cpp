@@ -3,6 +3,7 @@
 #include "host/drawing/Blur.h"
 #include "host/drawing/Shadows.h"
 #include "host/drawing/TextLayout.h"
+#include "host/painting/PainterValues.h"
 
 #include <QLinearGradient>
 #include <QPainterPath>
@@ -11,7 +12,6 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <memory>
 #include <utility>
 
 namespace vitrelle::host {
@@ -20,32 +20,6 @@ namespace {
 
 QRectF qRect(const PointRect& rect) {
   return {rect.x, rect.y, rect.width, rect.height};
-}
-
-QPainterPath qPath(const Path& path, FillRule rule = FillRule::nonZero) {
-  QPainterPath result;
-  result.setFillRule(rule == FillRule::evenOdd ? Qt::OddEvenFill : Qt::WindingFill);
-  const auto point = [](PathPoint p) { return QPointF(p.x, p.y); };
-  std::size_t next = 0;
-  for (const PathCommand command : path.commands) {
-    const PathPoint* points = path.points.data() + next;
-    switch (command) {
-    case PathCommand::move:
-      result.moveTo(point(points[0]));
-      break;
-    case PathCommand::line:
-      result.lineTo(point(points[0]));
-      break;
-    case PathCommand::cubic:
-      result.cubicTo(point(points[0]), point(points[1]), point(points[2]));
-      break;
-    case PathCommand::close:
-      result.closeSubpath();
-      break;
-    }
-    next += pointCount(command);
-  }
-  return result;
 }
 
 QBrush brushOf(const LinearGradient& gradient) {
@@ -77,18 +51,6 @@ QPainterPath outlineOf(const QPainterPath& path, const StrokeStyle& style) {
 bool isColoured(const QRawFont& font) {
   return !font.fontTable("CBLC").isEmpty() || !font.fontTable("CPAL").isEmpty() ||
          !font.fontTable("sbix").isEmpty();
-}
-
-/// An image's pixels as Qt takes them, which keeps their owner.
-QImage qImage(const Bitmap& bitmap) {
-  using Owner = decltype(bitmap.owner);
-  auto owner = std::make_unique<Owner>(bitmap.owner);
-  return QImage(
-      bitmap.pixels, bitmap.size.width, bitmap.size.height,
-      static_cast<qsizetype>(bitmap.bytesPerRow),
-      bitmap.opaque ? QImage::Format_RGBX8888 : QImage::Format_RGBA8888,
-      [](void* kept) { const std::unique_ptr<Owner> last(static_cast<Owner*>(kept)); },
-      owner.release());
 }
 
 /// The pixels that something within the bounds may touch.
@@ -205,9 +167,7 @@ class Inker final {
     toPixels.scale(fit, fit);
     const QPainterPath path = qPath(symbol.path, symbol.rule);
     addFill(to, path, qColour(item.colour), toPixels);
-    // A symbol has one weight; a heavier one is the same with its edge drawn.
-    const double more = std::max(item.weight - 400, 0) / 500.0 * 0.9 * symbol.height / 16;
-    if (more > 0) {
+    if (const double more = symbolEdge(item.weight, symbol.height); more > 0) {
       addFill(to, outlineOf(path, {more, LineCap::round, LineJoin::round, 10}),
               qColour(item.colour), toPixels);
     }

@@ -1,6 +1,7 @@
 #include "host/drawing/Shadows.h"
 
 #include "host/drawing/Blur.h"
+#include "host/painting/PainterValues.h"
 
 #include <algorithm>
 #include <array>
@@ -8,12 +9,6 @@
 #include <cstdint>
 
 namespace vitrelle::host {
-
-QColor qColour(const PlatformColour& colour) {
-  const auto part = [](double value) { return static_cast<float>(std::clamp(value, 0.0, 1.0)); };
-  return QColor::fromRgbF(part(colour.red), part(colour.green), part(colour.blue),
-                          part(colour.alpha));
-}
 
 QRect inkOf(const QImage& canvas) {
   int left = canvas.width();

@@ -3,14 +3,11 @@
 
 #include "core/platform/DisplayList.h"
 
-#include <QColor>
 #include <QImage>
 #include <QPainter>
 #include <QRect>
 
 namespace vitrelle::host {
-
-QColor qColour(const PlatformColour& colour);
 
 /// The pixels that are not transparent, as a rectangle around them.
 QRect inkOf(const QImage& canvas);

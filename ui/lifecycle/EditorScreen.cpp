@@ -1,5 +1,7 @@
 #include "ui/lifecycle/EditorScreen.h"
 
+#include "host/painting/PainterValues.h"
+
 #include <string>
 #include <utility>
 
@@ -30,10 +32,8 @@ QString EditorScreen::sheetValue() const {
 QList<QColor> EditorScreen::suggestedColours() const {
   QList<QColor> colours;
   if (second_ == nullptr) return colours;
-  for (const PlatformColour& colour : second_->suggestions().palleteColours()) {
-    colours += QColor::fromRgbF(static_cast<float>(colour.red), static_cast<float>(colour.green),
-                                static_cast<float>(colour.blue));
-  }
+  for (const PlatformColour& colour : second_->suggestions().palleteColours())
+    colours += host::qColour(colour);
   return colours;
 }
 

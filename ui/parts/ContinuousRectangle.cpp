@@ -1,7 +1,7 @@
 #include "ui/parts/ContinuousRectangle.h"
 
 #include "core/drawing/Shapes.h"
-#include "ui/parts/PainterPath.h"
+#include "host/painting/PainterValues.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -10,7 +10,7 @@ namespace vitrelle::ui {
 
 QPainterPath continuousRectangle(const QRectF& rectangle, qreal radius) {
   const PointRect box{rectangle.x(), rectangle.y(), rectangle.width(), rectangle.height()};
-  return painterPath(shapes::continuousRectangle(box, radius), FillRule::nonZero);
+  return host::qPath(shapes::continuousRectangle(box, radius));
 }
 
 ContinuousRectangle::ContinuousRectangle(QQuickItem* parent) : PaintedItem(parent) {

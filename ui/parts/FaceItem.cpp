@@ -1,5 +1,6 @@
 #include "ui/parts/FaceItem.h"
 
+#include "host/painting/PainterValues.h"
 #include "ui/Shell.h"
 
 #include <QQmlEngine>
@@ -25,9 +26,7 @@ QImage FaceItem::picture() {
           .drawing.render({face_.list.get(), 1}, area, pixelsPerPoint() * magnification_);
   const auto bitmap = image ? image->bitmap() : Result<Bitmap>(image.failure());
   if (!bitmap) return {};
-  return QImage(bitmap->pixels, bitmap->size.width, bitmap->size.height,
-                static_cast<qsizetype>(bitmap->bytesPerRow), QImage::Format_RGBA8888)
-      .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  return host::qImage(*bitmap).convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 } // namespace vitrelle::ui

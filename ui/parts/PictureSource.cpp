@@ -1,13 +1,13 @@
 #include "ui/parts/PictureSource.h"
 
 #include "core/slicing/ImageLoader.h"
+#include "host/painting/PainterValues.h"
 
 #include <QColorSpace>
 #include <QImageReader>
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 #include <optional>
 #include <utility>
 
@@ -24,21 +24,6 @@ QColorSpace colourSpace(const ColourProfile& profile) {
   const QByteArray icc(reinterpret_cast<const char*>(profile.icc.data()),
                        static_cast<qsizetype>(profile.icc.size()));
   return QColorSpace::fromIccProfile(icc);
-}
-
-/// The bitmap as Qt's, which does without a copy where its rows lie as Qt's do: in steps of pixels.
-QImage whole(const Bitmap& bitmap) {
-  const QSize size(bitmap.size.width, bitmap.size.height);
-  const auto format = bitmap.opaque ? QImage::Format_RGBX8888 : QImage::Format_RGBA8888;
-  const bool aligned =
-      bitmap.bytesPerRow % 4 == 0 && reinterpret_cast<std::uintptr_t>(bitmap.pixels) % 4 == 0;
-  if (aligned)
-    return {bitmap.pixels, size.width(), size.height(), static_cast<qsizetype>(bitmap.bytesPerRow),
-            format};
-  QImage copy(size, format);
-  for (int y = 0; y < copy.height(); ++y)
-    std::memcpy(copy.scanLine(y), bitmap.row(y), static_cast<std::size_t>(size.width()) * 4);
-  return copy;
 }
 
 } // namespace
@@ -61,8 +46,8 @@ QImage filling(const Image& image, const QSize& pixels) {
 QImage stretched(const Image& image, const QSize& pixels) {
   const Result<Bitmap> bitmap = image.bitmap();
   if (!bitmap || pixels.isEmpty() || bitmap->size.width == 0) return {};
-  QImage scaled = whole(*bitmap).scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-  if (scaled.constBits() == bitmap->pixels) scaled = scaled.copy(); // it outlives the bitmap
+  QImage scaled =
+      host::qImage(*bitmap).scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   const QColorSpace space = colourSpace(image.profile());
   if (space.isValid()) {
     scaled.setColorSpace(space);

@@ -1,7 +1,7 @@
 #include "ui/parts/SymbolItem.h"
 
+#include "host/painting/PainterValues.h"
 #include "ui/Shell.h"
-#include "ui/parts/PainterPath.h"
 
 #include <QPainter>
 #include <QQmlEngine>
@@ -9,15 +9,6 @@
 #include <algorithm>
 
 namespace vitrelle::ui {
-
-namespace {
-
-/// How much thicker all lines are, in units of a symbol 16 high.
-qreal thickening(int weight) {
-  return std::max(weight - 400, 0) / 500.0 * 0.9;
-}
-
-} // namespace
 
 SymbolItem::SymbolItem(QQuickItem* parent) : PaintedItem(parent) {
   connect(this, &SymbolItem::changed, this, &SymbolItem::outline);
@@ -34,7 +25,7 @@ void SymbolItem::outline() {
     outlined_ = name_;
     const SymbolOutline symbol =
         Shell::of(*qmlEngine(this)).platform().symbols.outline(name_.toStdString());
-    path_ = painterPath(symbol.path, symbol.rule);
+    path_ = host::qPath(symbol.path, symbol.rule);
     box_ = QSizeF(symbol.width, symbol.height);
   }
   setImplicitSize(size_ * box_.width() / box_.height(), size_);
@@ -47,7 +38,7 @@ void SymbolItem::paint(QPainter* painter) {
   painter->translate((width() - box_.width() * scale) / 2, (height() - box_.height() * scale) / 2);
   painter->scale(scale, scale);
   painter->fillPath(path_, colour_);
-  if (const qreal more = thickening(weight_); more > 0) {
+  if (const qreal more = host::symbolEdge(weight_, box_.height()); more > 0) {
     painter->strokePath(path_, QPen(colour_, more, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   }
 }

@@ -12,6 +12,8 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <memory>
+#include <vector>
 
 namespace vitrelle::host {
 namespace {
@@ -219,6 +221,23 @@ TEST_F(RasteriserTest, images_fillTheirBoxAndOutline) {
   const Bitmap disc = render({{round}}, {0, 0, 10, 10});
   EXPECT_EQ(at(disc, 0, 0)[3], 0);
   EXPECT_EQ(at(disc, 5, 5)[3], 255);
+}
+
+TEST_F(RasteriserTest, imageWhoseRowsLieAnyhow_isDrawnAsItIs) {
+  const auto bytes = std::make_shared<std::vector<std::uint8_t>>();
+  bytes->push_back(0); // then rows of two pixels, three bytes apart
+  for (int y = 0; y < 2; ++y) {
+    for (int x = 0; x < 2; ++x)
+      bytes->insert(bytes->end(), {static_cast<std::uint8_t>(10 * x), 100, 0, 255});
+    bytes->insert(bytes->end(), 3, std::uint8_t{77});
+  }
+  const Image image(
+      Bitmap{.size = {2, 2}, .bytesPerRow = 11, .pixels = bytes->data() + 1, .owner = bytes});
+  const Bitmap bitmap = render({{DrawnImage{.image = image, .box = {0, 0, 2, 2}}}}, {0, 0, 2, 2});
+  for (const int y : {0, 1}) {
+    EXPECT_EQ(at(bitmap, 0, y), (Pixel{0, 100, 0, 255})) << y;
+    EXPECT_EQ(at(bitmap, 1, y), (Pixel{10, 100, 0, 255})) << y;
+  }
 }
 
 TEST_F(RasteriserTest, text_hasTheSameShapeAtEveryScale) {
