@@ -1,5 +1,7 @@
-// ClockBench: an analog clock and the ring of a battery at 3x, beside Qt's painter doing the same.
+// ClockBench: an analog clock, sixty turned bars and the ring of a battery at 3x, beside Qt's
+// painter doing the same.
 #include "bench/Timing.h"
+#include "core/drawing/Shapes.h"
 #include "core/families/clock/AnalogClockView.h"
 #include "core/families/battery/Meter.h"
 #include "host/drawing/Rasteriser.h"
@@ -14,6 +16,9 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <numbers>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -32,6 +37,20 @@ void draw(const Drawing& drawing, const DisplayList& list) {
 
 View clockFace() {
   return AnalogClockView{.timeInSeconds = 10.5 * 3600, .complexity = 2, .dialShape = 1}.view();
+}
+
+constexpr int barCount = 60;
+
+/// Each turned, and where told faded, by a group of its own.
+View barsFace(double opacity) {
+  std::vector<View> bars;
+  for (int i = 0; i < barCount; ++i) {
+    const View bar = framed(filled(shapes::rectangle, {1, 1, 1, 1}), 2, 15);
+    const View arm = padded(bar, {.bottom = 110});
+    const double radians = 2 * std::numbers::pi * i / barCount;
+    bars.push_back(rotated(opacity < 1 ? faded(arm, opacity) : arm, radians));
+  }
+  return zstack(std::move(bars));
 }
 
 /// The same without shadows, which the painter has none of.
@@ -114,6 +133,18 @@ void drawPlainShadowedClock() {
   scene.render(&painter, image.rect(), image.rect());
 }
 
+void drawPlainBars(double opacity) {
+  QImage image = blank();
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  toMiddle(painter);
+  painter.setOpacity(opacity);
+  for (int i = 0; i < barCount; ++i) {
+    painter.fillRect(QRectF(-1, -62.5, 2, 15), Qt::white);
+    painter.rotate(360.0 / barCount);
+  }
+}
+
 void drawPlainRing() {
   QImage image = blank();
   QPainter painter(&image);
@@ -142,11 +173,16 @@ int main(int argc, char** argv) {
         .view();
   };
   const DisplayList flat = withoutShadows(layOut(clockFace(), frame, drawing));
-  const auto times =
-      bench::medians(101, {[&] { draw(drawing, layOut(clockFace(), frame, drawing)); },
-                           drawPlainShadowedClock, [&] { draw(drawing, flat); }, drawPlainClock,
-                           [&] { draw(drawing, layOut(ring(), frame, drawing)); }, drawPlainRing});
+  const auto times = bench::medians(
+      101,
+      {[&] { draw(drawing, layOut(clockFace(), frame, drawing)); }, drawPlainShadowedClock,
+       [&] { draw(drawing, flat); }, drawPlainClock,
+       [&] { draw(drawing, layOut(ring(), frame, drawing)); }, drawPlainRing,
+       [&] { draw(drawing, layOut(barsFace(1), frame, drawing)); }, [] { drawPlainBars(1); },
+       [&] { draw(drawing, layOut(barsFace(0.5), frame, drawing)); }, [] { drawPlainBars(0.5); }});
   print("analog clock at 3x", times[0], times[1]);
   print("analog clock at 3x without its shadows", times[2], times[3]);
   print("ring at 3x", times[4], times[5]);
+  print("60 turned bars at 3x", times[6], times[7]);
+  print("60 turned and faded bars at 3x", times[8], times[9]);
 }
