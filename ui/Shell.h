@@ -5,9 +5,12 @@
 #include "core/platform/Platform.h"
 #include "ui/app/RootScreen.h"
 #include "ui/app/ScreenTable.h"
+#include "ui/centre/DateTextScreen.h"
+#include "ui/centre/SolidBackgroundScreen.h"
 #include "ui/lifecycle/FamilyScreen.h"
 #include "ui/parts/PictureSource.h"
 #include "ui/pickers/FontScreen.h"
+#include "ui/pickers/SymbolScreen.h"
 #include "ui/slicing/IntakeScreen.h"
 
 #include <QObject>
@@ -100,6 +103,17 @@ class Shell final : public QObject {
   /// What draws the screen of a type name; the page is empty for a name that none has.
   Q_INVOKABLE vitrelle::ui::ScreenEntry screenEntry(const QString& name) const;
   Q_INVOKABLE vitrelle::ui::FontScreen* fonts() const { return new FontScreen(platform_); }
+  /// Over the key of a picker that has one of its own, by the picker's type name.
+  Q_INVOKABLE vitrelle::ui::FontScreen* storedFonts(const QString& picker) const {
+    return new FontScreen(platform_, storedFont(picker.toStdString()));
+  }
+  Q_INVOKABLE vitrelle::ui::DateTextScreen* dateText() const {
+    return new DateTextScreen(platform_);
+  }
+  Q_INVOKABLE vitrelle::ui::SolidBackgroundScreen* solidBackground() const {
+    return new SolidBackgroundScreen(platform_);
+  }
+  Q_INVOKABLE vitrelle::ui::SymbolScreen* symbols() const { return new SymbolScreen(platform_); }
   /// What a form shows for a font's name.
   Q_INVOKABLE static QString fontWords(const QString& name) {
     return qText(vitrelle::fontWords(name.toStdString()));

@@ -187,5 +187,45 @@
         <source></source>
         <translation>Höchstens zwei Bilder werden genommen: ein helles und ein dunkles.</translation>
     </message>
+    <message id="ColourVitrelles">
+        <source></source>
+        <translation>Einfarbiger Hintergrund</translation>
+    </message>
+    <message id="EnableColourVitrelle">
+        <source></source>
+        <translation>Einfarbig</translation>
+    </message>
+    <message id="EnableColourVitrelleD">
+        <source></source>
+        <translation>Alle Widgets stehen auf einer Farbe statt auf dem Hintergrundbild. Die Bilder bleiben erhalten und erscheinen wieder, sobald du es ausschaltest.</translation>
+    </message>
+    <message id="SetSolidColour">
+        <source></source>
+        <translation>Farbe</translation>
+    </message>
+    <message id="WidgetPreview">
+        <source></source>
+        <translation>Vorschau des Widgets</translation>
+    </message>
+    <message id="CustomiseDate">
+        <source></source>
+        <translation>Datums-Widget</translation>
+    </message>
+    <message id="SetTextColour">
+        <source></source>
+        <translation>Textfarbe</translation>
+    </message>
+    <message id="PickFont">
+        <source></source>
+        <translation>Schrift</translation>
+    </message>
+    <message id="app.fontSize">
+        <source></source>
+        <translation>Schriftgröße: </translation>
+    </message>
+    <message id="AllSettingAutoSaves">
+        <source></source>
+        <translation>Jede Einstellung wird sofort gespeichert.</translation>
+    </message>
 </context>
 </TS>

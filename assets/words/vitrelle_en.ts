@@ -187,5 +187,45 @@
         <source></source>
         <translation>Two pictures are taken at most: a light one and a dark one.</translation>
     </message>
+    <message id="ColourVitrelles">
+        <source></source>
+        <translation>Solid Background</translation>
+    </message>
+    <message id="EnableColourVitrelle">
+        <source></source>
+        <translation>Use a Solid Colour</translation>
+    </message>
+    <message id="EnableColourVitrelleD">
+        <source></source>
+        <translation>All widgets stand on one colour instead of the wallpaper. Your wallpapers stay, and come back when you switch it off.</translation>
+    </message>
+    <message id="SetSolidColour">
+        <source></source>
+        <translation>Colour</translation>
+    </message>
+    <message id="WidgetPreview">
+        <source></source>
+        <translation>Widget Preview</translation>
+    </message>
+    <message id="CustomiseDate">
+        <source></source>
+        <translation>Date Widget</translation>
+    </message>
+    <message id="SetTextColour">
+        <source></source>
+        <translation>Text Colour</translation>
+    </message>
+    <message id="PickFont">
+        <source></source>
+        <translation>Font</translation>
+    </message>
+    <message id="app.fontSize">
+        <source></source>
+        <translation>Font Size: </translation>
+    </message>
+    <message id="AllSettingAutoSaves">
+        <source></source>
+        <translation>Every setting is saved at once.</translation>
+    </message>
 </context>
 </TS>

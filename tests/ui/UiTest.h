@@ -48,6 +48,7 @@ class UiTest : public AppTest {
     return driver->accessibleName(objectName);
   }
 
+  FakeTime time;
   std::unique_ptr<ui::Shell> shell;
   std::unique_ptr<Driver> driver;
 };

@@ -43,6 +43,12 @@ QList<ScreenEntry> otherEntries() {
           own("ModernChangeLightDark", "changeStyle"),
           own("PerspectiveZoomDescription", "perspectiveZoom"),
           own("ModernFontPicker", "fontPicker"),
+          own("FontPicker", "storedFont"),
+          own("DateFontPicker", "storedFont"),
+          own("TimeFontPicker", "storedFont"),
+          own("SFSymbolsPicker", "symbolPicker"),
+          own("CustomDateTextView", "dateText"),
+          own("SolidBackgroundView", "solidBackground"),
           // Until the centre has something to show.
           {QStringLiteral("ModernWidgetCentre"), QStringLiteral("entry"), QStringLiteral("text")}};
 }

@@ -15,9 +15,10 @@ struct ScreenEntry {
   Q_PROPERTY(QString family MEMBER family CONSTANT)
 
  public:
-  QString name; ///< type name
-  QString page; ///< "root", "newStyle", "changeStyle", "perspectiveZoom", "fontPicker"; of a family
-                ///< "entry", "setup", "second", "gallery", "assign" or "preview"
+  QString name;   ///< type name
+  QString page;   ///< "root", "newStyle", "changeStyle", "perspectiveZoom", "fontPicker",
+                  ///< "storedFont", "symbolPicker", "dateText", "solidBackground"; of a family
+                  ///< "entry", "setup", "second", "gallery", "assign" or "preview"
   QString family; ///< by its name in the family table; empty for other screens
 };
 

@@ -32,6 +32,18 @@ FocusScope {
         case "fontPicker":
             stack.push(fontPicker);
             break;
+        case "storedFont":
+            stack.push(storedFont, { "fonts": Shell.storedFonts(screen) });
+            break;
+        case "symbolPicker":
+            stack.push(symbolPicker);
+            break;
+        case "dateText":
+            stack.push(dateText);
+            break;
+        case "solidBackground":
+            stack.push(solidBackground);
+            break;
         case "entry":
             stack.push(familyPage, { "family": Shell.family(entry.family) });
             break;
@@ -109,6 +121,34 @@ FocusScope {
         id: fontPicker
         FontPickerPage {
             fontPicked: ""
+            onClosed: stack.pop()
+        }
+    }
+    Component {
+        id: storedFont
+        FontPickerPage {
+            fontPicked: fonts.storedName
+            onClosed: stack.pop()
+        }
+    }
+    Component {
+        id: symbolPicker
+        SymbolPickerPage {
+            id: symbols
+            icon: "pencil"
+            onPicked: name => symbols.icon = name
+            onClosed: stack.pop()
+        }
+    }
+    Component {
+        id: dateText
+        DateTextPage {
+            onClosed: stack.pop()
+        }
+    }
+    Component {
+        id: solidBackground
+        SolidBackgroundPage {
             onClosed: stack.pop()
         }
     }

@@ -7,7 +7,7 @@ FocusScope {
     objectName: "fontPicker"
 
     required property string fontPicked // the name that is set now
-    readonly property FontScreen fonts: Shell.fonts()
+    property FontScreen fonts: Shell.fonts()
 
     signal picked(string postScriptName)
     signal closed

@@ -18,6 +18,14 @@ FontScreen::FontScreen(const Platform& platform)
       nameRoom_(nameRoomOn(platform.device.screenBounds())),
       list_(platform, nameRoom_) {}
 
+FontScreen::FontScreen(const Platform& platform, const StoredFont& font) : FontScreen(platform) {
+  stored_.emplace(platform, font, [this] { Q_EMIT dismissed(); });
+}
+
+QString FontScreen::storedName() const {
+  return stored_ ? QString::fromStdString(stored_->fontPicked()) : QString();
+}
+
 void FontScreen::search(const QString& words) {
   list_.show(fontFamilies(platform_.fonts, words.trimmed().toStdString()));
   Q_EMIT wordsChanged();
@@ -31,10 +39,15 @@ int FontScreen::indexOf(const QString& postScriptName) const {
 
 void FontScreen::pick(int index) {
   if (index < 0 || index >= count()) return;
+  const FontFamily& family = list_.families()[static_cast<std::size_t>(index)];
+  if (stored_) {
+    stored_->didPickFont(family);
+    return;
+  }
   const ModernFontPicker picker(
       [this](const std::string& name) { Q_EMIT fontPicked(QString::fromStdString(name)); },
       [this] { Q_EMIT dismissed(); });
-  picker.didPickFont(list_.families()[static_cast<std::size_t>(index)]);
+  picker.didPickFont(family);
 }
 
 } // namespace vitrelle::ui

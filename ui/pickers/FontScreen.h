@@ -8,6 +8,8 @@
 #include <QQmlEngine>
 #include <QString>
 
+#include <optional>
+
 namespace vitrelle::ui {
 
 class FontScreen : public QObject {
@@ -16,14 +18,20 @@ class FontScreen : public QObject {
   QML_UNCREATABLE("the shell makes it")
   Q_PROPERTY(vitrelle::ui::FontList* list READ list CONSTANT)
   Q_PROPERTY(int count READ count NOTIFY wordsChanged)
+  /// The name that is stored, where the choice is stored under a key.
+  Q_PROPERTY(QString storedName READ storedName CONSTANT)
   Q_PROPERTY(qreal nameWidth READ nameWidth CONSTANT)
   Q_PROPERTY(qreal nameHeight READ nameHeight CONSTANT)
 
  public:
+  /// Whoever shows it takes the choice.
   explicit FontScreen(const Platform& platform);
+  /// The choice is stored.
+  FontScreen(const Platform& platform, const StoredFont& font);
 
   FontList* list() { return &list_; }
   int count() const { return list_.rowCount(); }
+  QString storedName() const;
   qreal nameWidth() const { return nameRoom_.width; }
   qreal nameHeight() const { return nameRoom_.height; }
 
@@ -43,6 +51,7 @@ class FontScreen : public QObject {
   const Platform& platform_;
   const PointSize nameRoom_;
   FontList list_;
+  std::optional<StoredFontPicker> stored_;
 };
 
 } // namespace vitrelle::ui
