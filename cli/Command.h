@@ -44,7 +44,9 @@ HomeLock lockHome(const Platform& platform);
 void complain(const Failure& failure);
 
 // One for each command, in a file of its own. Each adds its subcommand, whose callback runs it.
+void addBackgroundCommand(CLI::App& program, CommandContext& context);
 void addCutCommand(CLI::App& program, CommandContext& context);
+void addDateCommand(CLI::App& program, CommandContext& context);
 void addDefaultsCommand(CLI::App& program, CommandContext& context);
 void addFaceCommand(CLI::App& program, CommandContext& context);
 void addOpenCommand(CLI::App& program, CommandContext& context);

@@ -1,5 +1,5 @@
+#include "cli/ColourArgument.h"
 #include "cli/Command.h"
-
 #include "cli/Numbers.h"
 #include "cli/OneLine.h"
 #include "core/drawing/Describe.h"
@@ -88,10 +88,6 @@ std::string whyNoSlot(const std::string& text) {
   const bool isSlot = slot && *slot != WidgetLocationImageNames::fullImage &&
                       *slot != WidgetLocationImageNames::error;
   return isSlot ? "" : "'" + text + "' is no slot, such as topLeftSmall or topMedium";
-}
-
-std::string whyNoColour(const std::string& text) {
-  return Colour::isWritten(text) ? "" : "'" + text + "' is no colour, such as FF8000";
 }
 
 std::string whyNoBackground(const std::string& text) {

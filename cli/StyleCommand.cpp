@@ -2,6 +2,7 @@
 #include "cli/CutStyle.h"
 #include "cli/Interruption.h"
 #include "cli/Numbers.h"
+#include "cli/StoredWrite.h"
 #include "core/app/ModernContentView.h"
 #include "core/slicing/WallpaperIntake.h"
 #include "core/store/GroupStore.h"
@@ -77,10 +78,7 @@ template <class T>
 bool stored(const Platform& platform, const Key<T>& key, const T& value) {
   const GroupStore store(platform);
   store.set(key, value);
-  const auto present = store.read(key);
-  if (present && *present == value) return true;
-  complain(present ? Failure{key.name, "the store did not take it"} : present.failure());
-  return false;
+  return wasTaken(store, key, value);
 }
 
 /// What the application's first start would write, which else would begin to count at 0 again.

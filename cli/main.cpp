@@ -35,7 +35,8 @@ int main(int argc, char** argv) {
       {.commands = {cli::addCutCommand, cli::addPaletteCommand, cli::addPhonesCommand,
                     cli::addPhoneCommand, cli::addDefaultsCommand, cli::addRecordsCommand,
                     cli::addStyleCommand, cli::addShortcutCommand, cli::addFaceCommand,
-                    cli::addSymbolsCommand, cli::addOpenCommand},
+                    cli::addSymbolsCommand, cli::addDateCommand, cli::addBackgroundCommand,
+                    cli::addOpenCommand},
        .makePlatform =
            [&](const cli::Options& options) {
              return cli::hostPlatform(options, loop.operations());
