@@ -7,10 +7,7 @@
 namespace vitrelle::cli {
 
 std::string whyNoColour(const std::string& text) {
-  const std::string digits = text.substr(text.starts_with('#') ? 1 : 0);
-  const bool isColour = (digits.size() == 6 || digits.size() == 8) &&
-                        digits.find_first_not_of("0123456789abcdefABCDEF") == std::string::npos;
-  return isColour ? "" : "'" + text + "' is no colour, such as FF8000";
+  return Colour::isWritten(text) ? "" : "'" + text + "' is no colour, such as FF8000";
 }
 
 void addColourOption(CLI::App& command, std::optional<std::string>& colour) {

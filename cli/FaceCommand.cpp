@@ -2,6 +2,7 @@
 #include "cli/Command.h"
 #include "cli/Numbers.h"
 #include "cli/OneLine.h"
+#include "core/centre/CustomDateTextView.h"
 #include "core/drawing/Describe.h"
 #include "core/drawing/Shapes.h"
 #include "core/drawing/View.h"
@@ -15,6 +16,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <functional>
 #include <iostream>
 #include <limits>
 #include <memory>
@@ -22,6 +24,7 @@
 #include <sstream>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace vitrelle::cli {
@@ -94,16 +97,15 @@ std::string whyNoBackground(const std::string& text) {
   return text == "slice" ? "" : whyNoColour(text);
 }
 
-/// The layer behind the face; an empty one for a transparent picture.
+/// The layer behind the face, which may be a slice; an empty one for a transparent picture.
 Result<DisplayList> background(const Platform& platform, const Sheet& sheet,
-                               const StyleRecord& record, const PointSize& frame) {
+                               const std::optional<SliceName>& name, const PointSize& frame) {
   const PointRect box{0, 0, frame.width, frame.height};
   if (sheet.background.empty()) return DisplayList{};
   if (sheet.background != "slice") {
     return DisplayList{{DrawnPath{.path = shapes::rectangle(box),
                                   .colour = platformColour(Colour::parse(sheet.background))}}};
   }
-  const auto name = widgetBackdrop(platform, record, *widgetLocation(sheet.slot));
   if (!name) {
     const std::string file =
         sliceFileName(styleInUse(platform).value, sheet.slot, platform.device.userInterfaceStyle());
@@ -123,15 +125,19 @@ void printLines(const std::string& text) {
     std::cout << oneLine(line) << '\n';
 }
 
-Status draw(const Platform& platform, const Sheet& sheet, const StyleFamily& family,
-            const StyleRecord& record) {
+/// What is drawn in a frame of the size, and the slice that it may stand on.
+struct Drawn {
+  std::function<DisplayList(const PointSize& frame)> face;
+  std::optional<SliceName> slice;
+};
+
+Status draw(const Platform& platform, const Sheet& sheet, const Drawn& drawn) {
   const PointSize frame = sheet.frame.empty() ? slotSize(platform, *widgetLocation(sheet.slot))
                                               : *parseFrame(sheet.frame);
-  const Subscription alive = family.live(platform, [] {});
-  const DisplayList face = widgetFace(platform, family, record, frame);
+  const DisplayList face = drawn.face(frame);
   if (sheet.list) printLines(describe(face));
   if (sheet.file.empty()) return success();
-  const auto behind = background(platform, sheet, record, frame);
+  const auto behind = background(platform, sheet, drawn.slice, frame);
   if (!behind) return behind.failure();
   const std::array layers{*behind, face};
   const double scale = sheet.scale ? *sheet.scale : phoneScale(platform);
@@ -194,6 +200,25 @@ std::string fieldsHelp(const FamilyStore& store) {
   return help;
 }
 
+/// Draws what `drawn` makes of the platform, in the program that can.
+void addDrawing(CLI::App& command, const std::shared_ptr<Sheet>& sheet, CommandContext& context,
+                std::function<Result<Drawn>(const Platform&)> drawn) {
+  command.callback([sheet, &context, drawn = std::move(drawn)] {
+    if (sheet->file.empty() && !sheet->list) throw CLI::RequiredError("FILE or --list");
+    if (context.handOver) {
+      context.handOver();
+      context.exit = Exit::failed;
+      return;
+    }
+    const Platform& platform = context.platform();
+    const auto ready = drawn(platform);
+    const Status done = ready ? draw(platform, *sheet, *ready) : Status(ready.failure());
+    if (done) return;
+    complain(done.failure());
+    context.exit = Exit::failed;
+  });
+}
+
 void addFamilyFace(CLI::App& face, const StyleFamily& family, CommandContext& context) {
   const auto sheet = std::make_shared<Sheet>();
   const auto chosen = std::make_shared<Chosen>(Chosen{.family = &family});
@@ -209,20 +234,30 @@ void addFamilyFace(CLI::App& face, const StyleFamily& family, CommandContext& co
       ->check(CLI::Validator(whyNoField, "FIELD=VALUE"))
       ->take_all()
       ->allow_extra_args(false);
-  command->callback([sheet, chosen, &context] {
-    if (sheet->file.empty() && !sheet->list) throw CLI::RequiredError("FILE or --list");
-    if (context.handOver) {
-      context.handOver();
-      context.exit = Exit::failed;
-      return;
-    }
-    const Platform& platform = context.platform();
-    const auto record = chosenRecord(platform, *chosen);
-    const Status drawn =
-        record ? draw(platform, *sheet, *chosen->family, *record) : Status(record.failure());
-    if (drawn) return;
-    complain(drawn.failure());
-    context.exit = Exit::failed;
+  addDrawing(*command, sheet, context,
+             [sheet, chosen, &family](const Platform& platform) -> Result<Drawn> {
+               const auto record = chosenRecord(platform, *chosen);
+               if (!record) return record.failure();
+               const auto alive = std::make_shared<Subscription>(family.live(platform, [] {}));
+               return Drawn{
+                   .face =
+                       [&platform, &family, record = *record, alive](const PointSize& frame) {
+                         return widgetFace(platform, family, record, frame);
+                       },
+                   .slice = widgetBackdrop(platform, *record, *widgetLocation(sheet->slot))};
+             });
+}
+
+void addDateFace(CLI::App& face, CommandContext& context) {
+  const auto sheet = std::make_shared<Sheet>();
+  CLI::App* command = face.add_subcommand("date", "The plain date, as 'vitrelle date' sets it");
+  addSheetOptions(*command, *sheet);
+  addDrawing(*command, sheet, context, [sheet](const Platform& platform) -> Result<Drawn> {
+    return Drawn{.face =
+                     [&platform](const PointSize& frame) {
+                       return CustomDateTextView(platform).face(frame);
+                     },
+                 .slice = currentSlice(platform, *widgetLocation(sheet->slot))};
   });
 }
 
@@ -235,6 +270,7 @@ void addFaceCommand(CLI::App& program, CommandContext& context) {
     const StyleFamily& family = styleFamily(words.name);
     if (family.hasEditor()) addFamilyFace(*command, family, context);
   }
+  addDateFace(*command, context);
 }
 
 } // namespace vitrelle::cli

@@ -101,7 +101,7 @@ void prepareQt(const Arguments& arguments) {
 
 /// Draws until nothing is being loaded, then writes the file.
 int takeScreenshot(ui::Shell& shell, const std::string& file) {
-  for (int quiet = 0; quiet < 3; quiet = shell.pictures().isIdle() ? quiet + 1 : 0) {
+  for (int quiet = 0; quiet < 3; quiet = shell.surroundings().pictures().isIdle() ? quiet + 1 : 0) {
     QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
     shell.window()->grabWindow();
   }
@@ -155,10 +155,10 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
         const QString pattern = trouble == ui::Trouble::reading ? qtTrId("app.store.unreadable")
                                                                 : qtTrId("app.store.readOnly");
         told = pattern.arg(QString::fromStdString(failure.what + ": " + failure.why));
-        if (shell != nullptr) shell->showNotice(told, ui::Shell::Trouble);
+        if (shell != nullptr) shell->notices().show(told, ui::Notices::Trouble);
       },
       [&] {
-        if (shell != nullptr && shell->notice() == told) shell->dismissNotice();
+        if (shell != nullptr && shell->notices().text() == told) shell->notices().dismiss();
         told.clear();
       });
   platform.application.rootViewController = []() -> std::optional<ViewController> {
@@ -193,7 +193,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
                                 .animated = interactive,
                                 .launches = !interactive || arguments.screen.empty()});
   shell = &theShell;
-  if (!told.isEmpty()) shell->showNotice(told, ui::Shell::Trouble);
+  if (!told.isEmpty()) shell->notices().show(told, ui::Notices::Trouble);
   if (!theShell.open()) return 1;
   if (!interactive) return takeScreenshot(theShell, arguments.screenshot);
 

@@ -40,6 +40,12 @@ QColor qColour(const PlatformColour& colour) {
                           part(colour.alpha));
 }
 
+PlatformColour platformColour(const QColor& colour) {
+  const QRgba64 parts = colour.rgba64();
+  constexpr double full = 0xFFFF;
+  return {parts.red() / full, parts.green() / full, parts.blue() / full, parts.alpha() / full};
+}
+
 QImage qImage(const Bitmap& bitmap) {
   const auto format = bitmap.opaque ? QImage::Format_RGBX8888 : QImage::Format_RGBA8888;
   const bool aligned =

@@ -14,6 +14,8 @@ namespace vitrelle::host {
 QPainterPath qPath(const Path& path, FillRule rule = FillRule::nonZero);
 
 QColor qColour(const PlatformColour& colour);
+/// From the 16 bits of each component: floating-point numbers of Qt's would not be the shortest.
+PlatformColour platformColour(const QColor& colour);
 
 /// The bitmap's own pixels, which are kept; a copy where they do not lie as Qt's do, in steps of
 /// pixels.

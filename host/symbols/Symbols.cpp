@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -172,9 +173,8 @@ std::vector<SymbolPart> partsOf(const SymbolEntry& entry) {
   const auto contours = std::ranges::count(path.commands, PathCommand::move);
   const std::string_view things =
       symbolTable.things.substr(entry.firstThing, static_cast<std::size_t>(contours));
-  std::string kinds(things); // the given colour sorts before the letters
-  std::ranges::sort(kinds);
-  kinds.erase(std::ranges::unique(kinds).begin(), kinds.end());
+  // The given colour comes before the letters.
+  const std::set<char> kinds(things.begin(), things.end());
   std::vector<SymbolPart> parts;
   for (const char kind : kinds) {
     SymbolPart& part = parts.emplace_back();

@@ -50,6 +50,7 @@ TEST_F(FamilyPageTest, style_isMadeFromTheRootFoundAndEdited) {
   addStyle(0);
   open();
   driver->click("widgetCentreButton");
+  driver->click("family text");
   driver->click("create");
   waitFor("setupPage");
   driver->click("textField");
@@ -152,7 +153,7 @@ TEST_F(FamilyPageTest, gallery_ticksAndLinksAndRefuses) {
   driver->click("saveAndExit");
   waitForEndOf("assignSheet");
   EXPECT_EQ(records()[2].textLinkedConfig, 1);
-  EXPECT_EQ(shell->notice(), "Saved");
+  EXPECT_EQ(shell->notices().text(), "Saved");
   EXPECT_TRUE(driver->isShown("tileLink2"));
   EXPECT_FALSE(driver->isShown("tileLink0"));
   EXPECT_EQ(accessibleName("tile2"), "Widget Style 3, linked to Vitrelle Style 2");
@@ -305,6 +306,88 @@ TEST_F(FamilyPageTest, preview_showsEveryWallpaperAndTheWholeScreen) {
   driver->key(Qt::Key_Escape);
   EXPECT_FALSE(driver->isShown("wholePreview"));
   EXPECT_TRUE(driver->isShown("previewPage"));
+}
+
+TEST_F(FamilyPageTest, clock_isMadeFromItsKindToItsPreview) {
+  setNumber("amountOfConfigs", 1);
+  addStyle(0);
+  openAt("ModernTimeView");
+  driver->click("create");
+  waitFor("kindsPage");
+  EXPECT_EQ(accessibleName("kind0"), "Analog Time");
+  driver->click("kind0");
+  waitFor("setupPage");
+  EXPECT_FALSE(driver->isShown("Hour Shape 0"));
+  driver->click("Analog Style 2");
+  driver->click("Hour Shape 1");
+  driver->click("Dial Shape 1");
+  driver->find("toggle");
+  driver->click("toggle");
+  driver->click("Date Length 1");
+  driver->click("sheetBack");
+  waitFor("kindsPage");
+  waitForEndOf("setupPage");
+  driver->click("kind2");
+  waitFor("setupPage");
+  EXPECT_FALSE(driver->isShown("toggle"));
+  driver->click("Date Length 1");
+  driver->click("stepUp");
+  driver->click("saveAndContinue");
+  waitFor("colourPage");
+  EXPECT_TRUE(driver->isShown("suggestionsHint"));
+  suggest();
+  driver->click("saveAndExit");
+  waitForEndOf("familySheet");
+  const auto clocks = GroupStore(platform).loadRecords(families::clock);
+  ASSERT_EQ(clocks.size(), 1U);
+  EXPECT_EQ(clocks[0],
+            (clockWidgetData{.id = 2, .clockWidgetDateLength = 1, .clockWidgetDateSize = 17}));
+  driver->click("preview");
+  waitFor("wallpaper0");
+}
+
+TEST_F(FamilyPageTest, segments_goByKeysAndTheFormKeepsThem) {
+  openAt("ModernTimeCreateView");
+  waitFor("setupPage");
+  driver->click("Analog Style 1");
+  QQuickItem* chosen = driver->find("Analog Style 1");
+  while (chosen != nullptr && !chosen->property("chosen").isValid())
+    chosen = chosen->parentItem();
+  ASSERT_NE(chosen, nullptr);
+  chosen->forceActiveFocus();
+  driver->key(Qt::Key_Right);
+  EXPECT_EQ(chosen->property("chosen"), 2);
+  EXPECT_TRUE(driver->isShown("Dial Shape 0"));
+  EXPECT_TRUE(chosen->hasActiveFocus()) << "rows that stay are not made anew";
+  driver->key(Qt::Key_Right);
+  driver->key(Qt::Key_Left);
+  driver->key(Qt::Key_Left);
+  EXPECT_EQ(chosen->property("chosen"), 0);
+  EXPECT_FALSE(driver->isShown("Hour Shape 0"));
+}
+
+TEST_F(FamilyPageTest, batterySymbol_isPickedOnASheetThatStaysOpen) {
+  battery.set(0.4F);
+  openAt("ModernBatteryStylesEditorView");
+  EXPECT_EQ(accessibleName("symbolRow"), "Symbol iphone");
+  driver->click("symbolRow");
+  waitFor("symbolPicker");
+  driver->key(Qt::Key_Home);
+  driver->key(Qt::Key_Return);
+  EXPECT_TRUE(driver->isShown("symbolPicker"));
+  driver->key(Qt::Key_Escape);
+  waitForEndOf("symbolSheet");
+  EXPECT_EQ(accessibleName("symbolRow"), "Symbol pencil");
+  driver->click("Shape 2");
+  EXPECT_FALSE(driver->isShown("symbolRow"));
+  EXPECT_FALSE(driver->isShown("fontRow"));
+  driver->click("Shape 1");
+  EXPECT_EQ(accessibleName("symbolRow"), "Symbol pencil");
+  driver->click("saveAndContinue");
+  const auto styles = GroupStore(platform).loadRecords(families::battery);
+  ASSERT_EQ(styles.size(), 1U);
+  EXPECT_EQ(styles[0].batterySymbol, "pencil");
+  EXPECT_EQ(styles[0].batteryType, 1);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "tests/ui/UiTest.h"
+#include "ui/slicing/IntakeScreen.h"
 
 #include "host/imaging/ImageFile.h"
 
@@ -252,7 +253,7 @@ TEST_F(IntakePageTest, pasteThatCannotBeStored_isTold) {
   ASSERT_TRUE(others);
   driver->key(Qt::Key_V, Qt::ControlModifier);
   ASSERT_TRUE(driver->isShown("intakePage"));
-  EXPECT_NE(shell->notice(), "");
+  EXPECT_NE(shell->notices().text(), "");
   EXPECT_TRUE(folder.written.empty());
 }
 
@@ -295,11 +296,11 @@ TEST_F(IntakePageTest, files_goToTheHalvesThatTheirNamesTell) {
   EXPECT_EQ(written({dark, light}), (Names{"0originalDark.png", "0original.png"}));
   EXPECT_EQ(written({light, light}), (Names{"0original.png", "0originalDark.png"}));
   EXPECT_EQ(written({light, dark, light}), Names{});
-  EXPECT_NE(shell->notice(), "") << "none is chosen by chance";
+  EXPECT_NE(shell->notices().text(), "") << "none is chosen by chance";
   EXPECT_EQ(written({QUrl(QStringLiteral("file:///bad")), light}), Names{});
-  EXPECT_NE(shell->notice(), "") << "the refusal stays to be read";
+  EXPECT_NE(shell->notices().text(), "") << "the refusal stays to be read";
   EXPECT_EQ(written({light}), Names{"0original.png"});
-  EXPECT_EQ(shell->notice(), "") << "a good picture takes it back";
+  EXPECT_EQ(shell->notices().text(), "") << "a good picture takes it back";
 }
 
 TEST_F(IntakePageTest, rightClick_opensAMenu) {

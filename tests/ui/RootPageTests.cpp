@@ -92,9 +92,9 @@ TEST_F(RootPageTest, widgetCentre_needsAStyle) {
 
   ASSERT_TRUE(platform.defaults.set(Suite::group, "amountOfConfigs", std::int64_t{1}));
   driver->click("widgetCentreButton");
-  EXPECT_TRUE(driver->isShown("familyPage"));
+  EXPECT_TRUE(driver->isShown("widgetCentrePage"));
   driver->key(Qt::Key_Escape);
-  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("familyPage"); }));
+  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("widgetCentrePage"); }));
 }
 
 TEST_F(RootPageTest, twelveStyles_haveNoCreateCard) {
@@ -172,11 +172,11 @@ TEST_F(RootPageTest, notice_takesOneStepBackAndGivesTheKeysBack) {
   driver->click("edit0");
   ASSERT_TRUE(driver->isShown("intakePage"));
   for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
-    shell->showNotice(QStringLiteral("read this"), ui::Shell::Trouble);
+    shell->notices().show(QStringLiteral("read this"), ui::Notices::Trouble);
     driver->find("darkCell")->forceActiveFocus();
     driver->find("notice")->forceActiveFocus();
     driver->key(key);
-    EXPECT_EQ(shell->notice(), "");
+    EXPECT_EQ(shell->notices().text(), "");
     EXPECT_TRUE(driver->isShown("intakePage"));
     EXPECT_TRUE(driver->find("darkCell")->hasActiveFocus());
   }
@@ -207,15 +207,15 @@ TEST_F(RootPageTest, notices_leaveByThemselvesUnlessTheirTroubleLasts) {
     const QQuickItem* notice = driver->find("notice");
     return notice->mapToScene({}).y() > driver->find("shownPage")->height();
   };
-  shell->showNotice(QStringLiteral("saved"), ui::Shell::Done);
+  shell->notices().show(QStringLiteral("saved"), ui::Notices::Done);
   EXPECT_TRUE(driver->isShown("notice"));
   EXPECT_TRUE(isBelow()) << "out of the way of titles";
   EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("notice"); }));
-  shell->showNotice(QStringLiteral("locked"), ui::Shell::Trouble);
-  shell->showNotice(QStringLiteral("saved"), ui::Shell::Done);
-  EXPECT_EQ(shell->notice(), "locked");
+  shell->notices().show(QStringLiteral("locked"), ui::Notices::Trouble);
+  shell->notices().show(QStringLiteral("saved"), ui::Notices::Done);
+  EXPECT_EQ(shell->notices().text(), "locked");
   driver->click("notice");
-  EXPECT_EQ(shell->notice(), "");
+  EXPECT_EQ(shell->notices().text(), "");
 }
 
 TEST_F(RootPageTest, window_comesBackAsItWasLeft) {

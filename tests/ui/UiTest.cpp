@@ -106,7 +106,6 @@ UiTest::UiTest() {
                       .parts = [](const std::string&) { return std::vector<SymbolPart>(); },
                       .match = [](const std::string&) { return SymbolMatch::alias; }};
   host::useDrawing(platform);
-  time.use(platform);
   platform.widgetCenter.watchReloads = [](const std::function<void()>&) { return Subscription(); };
   defaults.values(Suite::standard)["last_used_app_version"] = std::string("2.2");
 }

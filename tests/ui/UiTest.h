@@ -48,7 +48,6 @@ class UiTest : public AppTest {
     return driver->accessibleName(objectName);
   }
 
-  FakeTime time;
   std::unique_ptr<ui::Shell> shell;
   std::unique_ptr<Driver> driver;
 };

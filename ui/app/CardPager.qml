@@ -7,7 +7,7 @@ FocusScope {
 
     readonly property RootScreen root: Shell.root
     readonly property real step: root.pageWidth + root.pageSpacing
-    readonly property real cardHeight: Shell.screenHeight / 1.5 + Shell.screenHeight / 12
+    readonly property real cardHeight: Surroundings.screenHeight / 1.5 + Surroundings.screenHeight / 12
 
     signal created
     signal edited(int styleNumber)
@@ -57,7 +57,7 @@ FocusScope {
         height: pager.cardHeight
 
         Behavior on x {
-            enabled: !pager.root.dragging && Shell.animated
+            enabled: !pager.root.dragging && Surroundings.animated
             NumberAnimation { duration: Theme.longTime; easing.type: Easing.OutCubic }
         }
         Item { // the page in the middle, before the controls on it
@@ -76,13 +76,13 @@ FocusScope {
             }
 
             function pressByKey() {
-                if (!Shell.isKeyHeld())
+                if (!Surroundings.isKeyHeld())
                     press();
             }
 
             x: pager.root.page * pager.step
             width: pager.root.pageWidth
-            height: Shell.screenHeight / 1.5
+            height: Surroundings.screenHeight / 1.5
             focus: true
             activeFocusOnTab: true
             Accessible.role: Accessible.PageTab

@@ -8,8 +8,8 @@ Pressable {
 
     name: Shell.root.createTitle
     role: Accessible.Link
-    width: Shell.screenWidth / 1.5
-    height: Shell.screenHeight / 1.5
+    width: Surroundings.screenWidth / 1.5
+    height: Surroundings.screenHeight / 1.5
     focusRadius: 42
 
     ContinuousRectangle {

@@ -5,10 +5,10 @@ import Vitrelle
 Window {
     id: window
 
-    readonly property real rim: Shell.framed ? 14 : 0
-    readonly property real phoneWidth: Shell.screenWidth + 2 * rim
-    readonly property real phoneHeight: Shell.screenHeight + 2 * rim
-    readonly property real fit: Shell.framed ? Math.min(1, (Screen.desktopAvailableHeight - 60) / phoneHeight) : 1
+    readonly property real rim: Surroundings.framed ? 14 : 0
+    readonly property real phoneWidth: Surroundings.screenWidth + 2 * rim
+    readonly property real phoneHeight: Surroundings.screenHeight + 2 * rim
+    readonly property real fit: Surroundings.framed ? Math.min(1, (Screen.desktopAvailableHeight - 60) / phoneHeight) : 1
 
     /// One step back from where the keys go: a menu, a sheet's page, a page.
     function goBack(from: var) {
@@ -36,15 +36,15 @@ Window {
             id: screens
             x: window.rim
             y: window.rim
-            width: Shell.screenWidth
-            height: Shell.screenHeight
+            width: Surroundings.screenWidth
+            height: Surroundings.screenHeight
             clip: true
             focus: true
         }
         ContinuousRectangle { // the corners of the screen
             anchors.fill: screens
             anchors.margins: -1 // the screen's last row may end within a pixel
-            visible: Shell.framed
+            visible: Surroundings.framed
             inverted: true
             colour: "black"
             borderColour: "black"

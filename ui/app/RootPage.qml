@@ -1,5 +1,6 @@
 // The root screen.
 import QtQuick
+import QtQuick.Controls
 import Vitrelle
 
 FocusScope {
@@ -9,11 +10,10 @@ FocusScope {
     readonly property RootScreen root: Shell.root
 
     signal opened(string screen)
-    signal created
-    signal edited(int styleNumber)
-    /// A new style is to begin with these pictures, or with the one in the clipboard.
-    signal dropped(var files)
-    signal pasted
+    function makeStyle(): IntakePage {
+        opened("ModernNewLightDark");
+        return StackView.view.currentItem as IntakePage;
+    }
 
     readonly property bool canCreate: root.showsCreateCard && root.canBeChanged && !root.showingAlert
 
@@ -22,10 +22,12 @@ FocusScope {
         if (!event.matches(StandardKey.Paste))
             return;
         event.accepted = true;
-        if (canCreate && Shell.canPaste)
-            pasted();
-        else if (canCreate)
-            Shell.showNotice(qsTrId("app.clipboardEmpty"));
+        if (canCreate && Shell.canPaste) {
+            const style = makeStyle();
+            style.intake.pasteAll();
+            style.focusNext();
+        } else if (canCreate)
+            Notices.show(qsTrId("app.clipboardEmpty"));
     }
 
     Rectangle {
@@ -55,8 +57,8 @@ FocusScope {
         anchors.top: heading.bottom
         anchors.bottom: buttons.top
         width: parent.width
-        onCreated: page.created()
-        onEdited: styleNumber => page.edited(styleNumber)
+        onCreated: page.makeStyle()
+        onEdited: styleNumber => Shell.navigator.openStyle(styleNumber)
         Component.onCompleted: page.root.contentAppear()
     }
     Row {
@@ -97,10 +99,13 @@ FocusScope {
             if (!event.hasUrls)
                 return;
             event.acceptProposedAction();
-            if (event.urls.length > 2)
-                Shell.showNotice(qsTrId("app.intake.tooMany"));
-            else
-                page.dropped(event.urls);
+            if (event.urls.length > 2) {
+                Notices.show(qsTrId("app.intake.tooMany"));
+                return;
+            }
+            const style = page.makeStyle();
+            style.intake.takeFiles(event.urls);
+            style.focusNext();
         }
 
         Rectangle {

@@ -1,62 +1,128 @@
 #include "ui/app/ScreenTable.h"
 
 #include "core/families/Families.h"
-#include "ui/lifecycle/FamilyWords.h"
+#include "ui/app/Navigator.h"
+#include "ui/centre/DateTextScreen.h"
+#include "ui/centre/SolidBackgroundScreen.h"
+#include "ui/lifecycle/FamilyScreen.h"
+#include "ui/pickers/FontScreen.h"
+#include "ui/slicing/IntakeScreen.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <utility>
 
 namespace vitrelle::ui {
 
 namespace {
 
-struct FamilyPage {
-  std::string_view FamilyDescription::*typeName;
-  const char* page;
-  bool needsEditor;
-};
-constexpr FamilyPage familyPages[] = {{&FamilyDescription::entryScreen, "entry", false},
-                                      {&FamilyDescription::stylesScreen, "kinds", true},
-                                      {&FamilyDescription::setupScreen, "setup", true},
-                                      {&FamilyDescription::secondScreen, "second", true},
-                                      {&FamilyDescription::galleryScreen, "gallery", false},
-                                      {&FamilyDescription::assignScreen, "assign", false},
-                                      {&FamilyDescription::previewScreen, "preview", false}};
-
-QList<ScreenEntry> familyTableEntries() {
-  QList<ScreenEntry> entries;
-  for (const FamilyDescription& family : familyTable) {
-    const bool hasEditor = styleFamily(family.name).hasEditor();
-    for (const FamilyPage& page : familyPages) {
-      if ((family.*page.typeName).empty() || (page.needsEditor && !hasEditor)) continue;
-      entries += {.name = qText(family.*page.typeName),
-                  .page = QString::fromLatin1(page.page),
-                  .family = qText(family.name)};
-    }
-  }
-  return entries;
+/// Hands an object over to the page.
+template <class Object>
+QVariant handedOver(Object* object) {
+  leaveToQml(object);
+  return QVariant::fromValue(object);
 }
 
-QList<ScreenEntry> otherEntries() {
-  const auto own = [](const char* name, const char* page) {
-    return ScreenEntry{QString::fromLatin1(name), QString::fromLatin1(page), {}};
+QVariantMap nothing(Navigator&, const OpenScreen&) {
+  return {};
+}
+
+template <class Screen>
+QVariantMap screenOver(Navigator& navigator, const OpenScreen&) {
+  return {{QStringLiteral("screen"), handedOver(new Screen(navigator.platform()))}};
+}
+
+QVariantMap newStyle(Navigator& navigator, const OpenScreen&) {
+  return {{QStringLiteral("intake"),
+           handedOver(new IntakeScreen(
+               navigator, std::make_unique<ModernNewLightDark>(navigator.platform())))}};
+}
+
+QVariantMap changeStyle(Navigator& navigator, const OpenScreen& place) {
+  const std::int64_t number = place.style.value_or(StyleNumber{}).value;
+  return {{QStringLiteral("intake"),
+           handedOver(new IntakeScreen(
+               navigator, std::make_unique<ModernChangeLightDark>(navigator.platform(), number)))}};
+}
+
+QVariantMap anyFont(Navigator&, const OpenScreen&) {
+  return {{QStringLiteral("fontPicked"), QString()}};
+}
+
+QVariantMap storedFontOf(Navigator& navigator, const OpenScreen& place) {
+  auto* fonts = new FontScreen(navigator.platform(), storedFont(place.name));
+  return {{QStringLiteral("fontPicked"), fonts->storedName()},
+          {QStringLiteral("fonts"), handedOver(fonts)}};
+}
+
+struct FamilyPage {
+  std::string_view FamilyDescription::*typeName;
+  std::optional<FlowStart> start; ///< none for the entry, which leads to the others
+  bool needsEditor;
+};
+constexpr FamilyPage familyPages[] = {
+    {&FamilyDescription::entryScreen, std::nullopt, false},
+    {&FamilyDescription::stylesScreen, FlowStart::create, true},
+    {&FamilyDescription::setupScreen, FlowStart::setup, true},
+    {&FamilyDescription::secondScreen, FlowStart::second, true},
+    {&FamilyDescription::galleryScreen, FlowStart::gallery, false},
+    {&FamilyDescription::assignScreen, FlowStart::assign, false},
+    {&FamilyDescription::previewScreen, FlowStart::preview, false}};
+
+ScreenEntry familyEntry(const StyleFamily& family, const FamilyPage& page) {
+  const std::string name(family.words().*page.typeName);
+  if (!page.start) {
+    return {name, "FamilyPage", [&family](Navigator& navigator, const OpenScreen&) -> QVariantMap {
+              return {{QStringLiteral("family"),
+                       handedOver(new FamilyScreen(navigator.platform(), family))}};
+            }};
+  }
+  return {name, "StyleFlow",
+          [&family, start = *page.start](Navigator& navigator, const OpenScreen&) -> QVariantMap {
+            auto flow = std::make_shared<StyleFlow>(navigator.platform(), family, start,
+                                                    [&navigator] { navigator.back(); });
+            return {{QStringLiteral("flow"),
+                     handedOver(new FlowScreen(navigator.platform(), std::move(flow)))}};
+          }};
+}
+
+std::vector<ScreenEntry> makeTable() {
+  std::vector<ScreenEntry> table{
+      {"ModernContentView", "RootPage", nothing},
+      {"ModernNewLightDark", "IntakePage", newStyle},
+      {"ModernChangeLightDark", "IntakePage", changeStyle},
+      {"PerspectiveZoomDescription", "PerspectiveZoomDescription", nothing},
+      {"ModernWidgetCentre", "WidgetCentrePage", nothing},
+      {"ModernFontPicker", "FontPickerPage", anyFont},
+      {"FontPicker", "FontPickerPage", storedFontOf},
+      {"DateFontPicker", "FontPickerPage", storedFontOf},
+      {"TimeFontPicker", "FontPickerPage", storedFontOf},
+      {"SFSymbolsPicker", "SymbolTrialPage", nothing},
+      {"CustomDateTextView", "DateTextPage", screenOver<DateTextScreen>},
+      {"SolidBackgroundView", "SolidBackgroundPage", screenOver<SolidBackgroundScreen>},
   };
-  return {own("ModernContentView", "root"),
-          own("ModernNewLightDark", "newStyle"),
-          own("ModernChangeLightDark", "changeStyle"),
-          own("PerspectiveZoomDescription", "perspectiveZoom"),
-          own("ModernFontPicker", "fontPicker"),
-          own("FontPicker", "storedFont"),
-          own("DateFontPicker", "storedFont"),
-          own("TimeFontPicker", "storedFont"),
-          own("SFSymbolsPicker", "symbolPicker"),
-          own("CustomDateTextView", "dateText"),
-          own("SolidBackgroundView", "solidBackground"),
-          // Until the centre has something to show.
-          {QStringLiteral("ModernWidgetCentre"), QStringLiteral("entry"), QStringLiteral("text")}};
+  for (const FamilyDescription& words : familyTable) {
+    const StyleFamily& family = styleFamily(words.name);
+    for (const FamilyPage& page : familyPages) {
+      const bool isThere = !(words.*page.typeName).empty();
+      if (isThere && (family.hasEditor() || !page.needsEditor))
+        table.push_back(familyEntry(family, page));
+    }
+  }
+  return table;
 }
 
 } // namespace
 
-QList<ScreenEntry> screenTable() {
-  return familyTableEntries() + otherEntries();
+const std::vector<ScreenEntry>& screenTable() {
+  static const std::vector<ScreenEntry> table = makeTable();
+  return table;
+}
+
+const ScreenEntry* findScreen(std::string_view name) {
+  const auto found = std::ranges::find(screenTable(), name, &ScreenEntry::name);
+  return found == screenTable().end() ? nullptr : &*found;
 }
 
 } // namespace vitrelle::ui

@@ -1,27 +1,30 @@
-// Every screen that can be opened by its type name, and what draws it: the one list of them.
+// Every screen that can be opened by its type name: the one list of them.
 #pragma once
 
-#include <QList>
-#include <QObject>
-#include <QString>
-#include <QtQmlIntegration>
+#include "core/app/Navigation.h"
+#include "core/platform/Platform.h"
+
+#include <QVariantMap>
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace vitrelle::ui {
 
-struct ScreenEntry {
-  Q_GADGET
-  QML_VALUE_TYPE(screenEntry)
-  Q_PROPERTY(QString page MEMBER page CONSTANT)
-  Q_PROPERTY(QString family MEMBER family CONSTANT)
+class Navigator;
 
- public:
-  QString name;   ///< type name
-  QString page;   ///< "root", "newStyle", "changeStyle", "perspectiveZoom", "fontPicker",
-                  ///< "storedFont", "symbolPicker", "dateText", "solidBackground"; of a family
-                  ///< "entry", "setup", "second", "gallery", "assign" or "preview"
-  QString family; ///< by its name in the family table; empty for other screens
+struct ScreenEntry {
+  std::string name; ///< type name
+  const char* page; ///< the QML file that draws it, without its ending
+  /// The properties that the page begins with. Objects among them are left to QML.
+  std::function<QVariantMap(Navigator&, const OpenScreen&)> make;
 };
 
-QList<ScreenEntry> screenTable();
+const std::vector<ScreenEntry>& screenTable();
+
+/// Null for a name that no screen has.
+const ScreenEntry* findScreen(std::string_view name);
 
 } // namespace vitrelle::ui

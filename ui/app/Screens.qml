@@ -1,57 +1,29 @@
-// The navigation stack over the root screen, and what lies above it.
+// The screens that are open, on one another, and what lies above them.
 import QtQuick
-import QtQuick.Controls
 import Vitrelle
 
 FocusScope {
     id: screens
 
     function back() {
-        if (stack.depth < 2)
-            return;
         const page = stack.currentItem as Page;
-        if (page)
+        if (stack.depth > 1 && page)
             page.closed();
     }
-    function makeStyle(): IntakePage {
-        return stack.push(intakePage, { "intake": Shell.newStyle() }) as IntakePage;
+    function open(name: string) {
+        const takesPictures = name === "ModernNewLightDark" || name === "ModernChangeLightDark";
+        if (!takesPictures || Shell.root.canBeChanged)
+            Shell.navigator.open(name);
+        else if (Shell.root.launchWaits)
+            Notices.show(qsTrId("app.launchFirst"));
     }
-    function open(screen: string) {
-        const entry = Shell.screenEntry(screen);
-        switch (entry.page) {
-        case "newStyle":
-        case "changeStyle":
-            if (Shell.root.canBeChanged)
-                stack.push(intakePage, { "intake": entry.page === "newStyle" ? Shell.newStyle() : Shell.changeStyle(0) });
-            else if (Shell.root.launchWaits)
-                Shell.showNotice(qsTrId("app.launchFirst"));
-            break;
-        case "perspectiveZoom":
-            stack.push(perspectiveZoom);
-            break;
-        case "fontPicker":
-            stack.push(fontPicker);
-            break;
-        case "storedFont":
-            stack.push(storedFont, { "fonts": Shell.storedFonts(screen) });
-            break;
-        case "symbolPicker":
-            stack.push(symbolPicker);
-            break;
-        case "dateText":
-            stack.push(dateText);
-            break;
-        case "solidBackground":
-            stack.push(solidBackground);
-            break;
-        case "entry":
-            stack.push(familyPage, { "family": Shell.family(entry.family) });
-            break;
-        case "root":
-            break;
-        default:
-            stack.push(familyFlow, { "family": Shell.family(entry.family), "start": entry.page });
-        }
+    function leave(page: Item) {
+        const intake = page as IntakePage;
+        Shell.navigator.back();
+        if (!intake)
+            return;
+        Shell.root.contentAppear();
+        Shell.root.showStyle(intake.intake.styleNumber);
     }
 
     Keys.onEscapePressed: back()
@@ -67,95 +39,19 @@ FocusScope {
         overlay: alert
         covered: Shell.root.showingAlert
     }
-    StackView {
+    ScreenStack {
         id: stack
         objectName: "stack"
         enabled: keys.open
         anchors.fill: parent
-        focus: true
-        onCurrentItemChanged: if (currentItem) currentItem.forceActiveFocus()
-        initialItem: RootPage {
-            onOpened: screen => screens.open(screen)
-            onCreated: screens.makeStyle()
-            onDropped: files => {
-                const page = screens.makeStyle();
-                page.intake.takeFiles(files);
-                page.focusNext();
-            }
-            onPasted: {
-                const page = screens.makeStyle();
-                page.intake.pasteAll();
-                page.focusNext();
-            }
-            onEdited: styleNumber => stack.push(intakePage, { "intake": Shell.changeStyle(styleNumber) })
-        }
-        pushEnter: Transition { NumberAnimation { property: "x"; from: stack.width; to: 0; duration: Theme.longTime; easing.type: Easing.OutCubic } }
-        pushExit: Transition { NumberAnimation { property: "x"; from: 0; to: -stack.width / 3; duration: Theme.longTime; easing.type: Easing.OutCubic } }
-        popEnter: Transition { NumberAnimation { property: "x"; from: -stack.width / 3; to: 0; duration: Theme.longTime; easing.type: Easing.OutCubic } }
-        popExit: Transition { NumberAnimation { property: "x"; from: 0; to: stack.width; duration: Theme.longTime; easing.type: Easing.OutCubic } }
-    }
-    Component {
-        id: intakePage
-        IntakePage {
-            id: intake
-            onClosed: {
-                stack.pop();
-                Shell.root.contentAppear();
-                Shell.root.showStyle(intake.intake.styleNumber);
-            }
-        }
-    }
-    Component {
-        id: familyPage
-        FamilyPage {
-            onClosed: stack.pop()
-        }
-    }
-    Component {
-        id: familyFlow
-        StyleFlow {
-            onClosed: stack.pop()
-        }
-    }
-    Component {
-        id: fontPicker
-        FontPickerPage {
-            fontPicked: ""
-            onClosed: stack.pop()
-        }
-    }
-    Component {
-        id: storedFont
-        FontPickerPage {
-            fontPicked: fonts.storedName
-            onClosed: stack.pop()
-        }
-    }
-    Component {
-        id: symbolPicker
-        SymbolPickerPage {
-            id: symbols
-            icon: "pencil"
-            onPicked: name => symbols.icon = name
-            onClosed: stack.pop()
-        }
-    }
-    Component {
-        id: dateText
-        DateTextPage {
-            onClosed: stack.pop()
-        }
-    }
-    Component {
-        id: solidBackground
-        SolidBackgroundPage {
-            onClosed: stack.pop()
-        }
-    }
-    Component {
-        id: perspectiveZoom
-        PerspectiveZoomDescription {
-            onClosed: stack.pop()
+        screens: Shell.navigator.places
+        componentOf: place => Qt.resolvedUrl(place.page + ".qml")
+        propertiesOf: place => place.properties()
+        onPushed: page => {
+            if (page.closed)
+                page.closed.connect(() => screens.leave(page));
+            if (page.opened)
+                page.opened.connect(screens.open);
         }
     }
     AlertBox {

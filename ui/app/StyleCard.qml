@@ -17,22 +17,22 @@ Item {
     signal asked
     signal keysLeft // they were on a card that is not shown any more
 
-    width: Shell.screenWidth / 1.5
-    height: Shell.screenHeight / 1.5 + Shell.screenHeight / 12
+    width: Surroundings.screenWidth / 1.5
+    height: Surroundings.screenHeight / 1.5 + Surroundings.screenHeight / 12
     onShownChanged: if (!shown && (tick.activeFocus || edit.activeFocus)) keysLeft()
 
     Loader {
         active: card.near
         sourceComponent: WallpaperImageView {
             styleNumber: card.styleNumber
-            dark: Shell.dark
+            dark: Surroundings.dark
             revision: card.revision
         }
     }
     Item {
         anchors.bottom: parent.bottom
         width: parent.width
-        height: Shell.screenHeight / 12
+        height: Surroundings.screenHeight / 12
 
         Pressable {
             id: tick

@@ -6,7 +6,8 @@ SheetPage {
     id: page
     objectName: "dateTextPage"
 
-    readonly property DateTextScreen date: Shell.dateText()
+    required property DateTextScreen screen
+    readonly property DateTextScreen date: screen
 
     title: qsTrId("CustomiseDate")
     symbol: "calendar"
@@ -14,7 +15,7 @@ SheetPage {
     covered: chooser.shown || date.showingFontPicker
 
     Connections {
-        target: Shell
+        target: Surroundings
         function onDarkChanged() {
             page.date.appear();
         }

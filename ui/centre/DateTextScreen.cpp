@@ -1,7 +1,7 @@
 #include "ui/centre/DateTextScreen.h"
 
 #include "core/centre/SettingPreview.h"
-#include "ui/colour/QtColour.h"
+#include "host/painting/PainterValues.h"
 
 #include <algorithm>
 #include <limits>
@@ -15,11 +15,11 @@ DateTextScreen::DateTextScreen(const Platform& platform)
       view_(screen_.onChange([this] { Q_EMIT changed(); })) {}
 
 QColor DateTextScreen::colour() const {
-  return qColour(screen_.dateColour());
+  return host::qColour(screen_.dateColour());
 }
 
 void DateTextScreen::setColour(const QColor& colour) {
-  screen_.setDateColour(platformColour(colour));
+  screen_.setDateColour(host::platformColour(colour));
 }
 
 int DateTextScreen::size() const {
@@ -29,7 +29,7 @@ int DateTextScreen::size() const {
 
 QColor DateTextScreen::cover() const {
   const SolidBackground& solid = screen_.background();
-  return solid.isOn() ? qColour(solid.colour()) : QColor(Qt::transparent);
+  return solid.isOn() ? host::qColour(solid.colour()) : QColor(Qt::transparent);
 }
 
 } // namespace vitrelle::ui

@@ -6,7 +6,8 @@ SheetPage {
     id: page
     objectName: "solidBackgroundPage"
 
-    readonly property SolidBackgroundScreen solid: Shell.solidBackground()
+    required property SolidBackgroundScreen screen
+    readonly property SolidBackgroundScreen solid: screen
 
     title: qsTrId("ColourVitrelles")
     symbol: "app.fill"
@@ -14,7 +15,7 @@ SheetPage {
     covered: chooser.shown
 
     Connections {
-        target: Shell
+        target: Surroundings
         function onDarkChanged() {
             page.solid.appear();
         }

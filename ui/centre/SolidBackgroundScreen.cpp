@@ -1,7 +1,7 @@
 #include "ui/centre/SolidBackgroundScreen.h"
 
 #include "core/centre/SettingPreview.h"
-#include "ui/colour/QtColour.h"
+#include "host/painting/PainterValues.h"
 
 namespace vitrelle::ui {
 
@@ -12,11 +12,11 @@ SolidBackgroundScreen::SolidBackgroundScreen(const Platform& platform)
       view_(screen_.onChange([this] { Q_EMIT changed(); })) {}
 
 QColor SolidBackgroundScreen::colour() const {
-  return qColour(screen_.solidBackgroundColour());
+  return host::qColour(screen_.solidBackgroundColour());
 }
 
 void SolidBackgroundScreen::setColour(const QColor& colour) {
-  screen_.setSolidBackgroundColour(platformColour(colour));
+  screen_.setSolidBackgroundColour(host::platformColour(colour));
 }
 
 } // namespace vitrelle::ui

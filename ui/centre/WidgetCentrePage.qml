@@ -25,7 +25,7 @@ Page {
                 required property familyWords modelData
 
                 objectName: "family " + modelData.name
-                width: Shell.screenWidth - 60
+                width: Surroundings.screenWidth - 60
                 height: 60
                 focus: index === 0
                 focusRadius: 22

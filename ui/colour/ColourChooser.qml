@@ -126,7 +126,7 @@ FocusScope {
                 id: field
                 objectName: "colourField"
                 width: parent.width
-                height: Shell.screenHeight < 700 ? 120 : 170
+                height: Surroundings.screenHeight < 700 ? 120 : 170
                 hue: chooser.hue
                 saturation: chooser.saturation
                 brightness: chooser.brightness

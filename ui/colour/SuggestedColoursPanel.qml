@@ -8,7 +8,7 @@ Panel {
     required property bool loaded
     required property list<color> colours
 
-    implicitHeight: loaded ? Shell.screenWidth / 3.5 : Shell.screenWidth / 4.5
+    implicitHeight: loaded ? Surroundings.screenWidth / 3.5 : Surroundings.screenWidth / 4.5
     radius: 20
     colour: Theme.card
 
@@ -49,7 +49,7 @@ Panel {
         Row {
             objectName: "swatches"
             anchors.horizontalCenter: parent.horizontalCenter
-            spacing: Math.min(Shell.screenWidth * 0.0625, (panel.width - 40 * panel.colours.length - 8) / Math.max(1, panel.colours.length - 1))
+            spacing: Math.min(Surroundings.screenWidth * 0.0625, (panel.width - 40 * panel.colours.length - 8) / Math.max(1, panel.colours.length - 1))
 
             Repeater {
                 model: panel.colours

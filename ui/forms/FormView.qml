@@ -42,7 +42,7 @@ Column {
                 color: Theme.grey
             }
             Loader {
-                width: Shell.screenWidth - 60
+                width: Surroundings.screenWidth - 60
                 sourceComponent: ({
                     "text": textRow,
                     "font": fontRow,
@@ -78,7 +78,6 @@ Column {
                     name: row.title + " " + row.value
                     value: ""
                     picture: SymbolItem {
-                        anchors.verticalCenter: parent.verticalCenter
                         name: row.value
                         size: 16
                         colour: Theme.quietText

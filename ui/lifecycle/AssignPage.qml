@@ -35,7 +35,7 @@ SheetPage {
         id: picker
         objectName: "assignPicker"
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Shell.screenWidth - 60
+        width: Surroundings.screenWidth - 60
         title: SharedWords.assignPicker
         mark: "chevron.up.chevron.down"
         value: page.screen.picked >= 0 ? page.screen.options[page.screen.picked] : ""

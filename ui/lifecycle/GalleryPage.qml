@@ -27,7 +27,7 @@ SheetPage {
     }
 
     Connections {
-        target: Shell
+        target: Surroundings
         function onDarkChanged() {
             page.screen.appear();
         }

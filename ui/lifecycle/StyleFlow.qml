@@ -45,7 +45,7 @@ FocusScope {
                 if (!screen.isSecond)
                     sheetFlow.flow.saveSetup();
                 else if (sheetFlow.flow.saveSecond())
-                    Shell.showNotice(qsTrId("app.saved"), Shell.Done);
+                    Notices.show(qsTrId("app.saved"), Notices.Done);
             }
         }
     }
@@ -75,6 +75,6 @@ FocusScope {
     }
     function saveLink() {
         if (sheetFlow.flow.saveLink())
-            Shell.showNotice(qsTrId("app.saved"), Shell.Done);
+            Notices.show(qsTrId("app.saved"), Notices.Done);
     }
 }

@@ -9,7 +9,7 @@ Item {
 
     visible: styleNumber >= 0
     implicitWidth: visible ? 28 : 0
-    implicitHeight: visible ? Math.round(28 * Shell.screenHeight / Shell.screenWidth) : 0
+    implicitHeight: visible ? Math.round(28 * Surroundings.screenHeight / Surroundings.screenWidth) : 0
 
     ContinuousRectangle {
         anchors.fill: parent
@@ -29,7 +29,7 @@ Item {
         objectName: "thumbnail"
         anchors.fill: parent
         styleNumber: thumbnail.styleNumber
-        dark: Shell.dark
+        dark: Surroundings.dark
         radius: 5
     }
 }

@@ -8,7 +8,7 @@ Pressable {
     property string symbol
     property bool strong: true // the one thing to do here
 
-    implicitWidth: Shell.screenWidth - 60
+    implicitWidth: Surroundings.screenWidth - 60
     implicitHeight: 50
     focusRadius: 21
     rest: enabled ? 1 : 0.4

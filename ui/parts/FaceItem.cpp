@@ -1,7 +1,7 @@
 #include "ui/parts/FaceItem.h"
 
 #include "host/painting/PainterValues.h"
-#include "ui/Shell.h"
+#include "ui/parts/Surroundings.h"
 
 #include <QQmlEngine>
 
@@ -21,7 +21,7 @@ QImage FaceItem::picture() {
   if (face_.list == nullptr) return {};
   const PointRect area{-bleed_, -bleed_, width() / magnification_, height() / magnification_};
   const auto image =
-      Shell::of(*qmlEngine(this))
+      Surroundings::of(*qmlEngine(this))
           .platform()
           .drawing.render({face_.list.get(), 1}, area, pixelsPerPoint() * magnification_);
   const auto bitmap = image ? image->bitmap() : Result<Bitmap>(image.failure());

@@ -9,7 +9,7 @@ ContinuousRectangle {
     anchors.fill: parent
     anchors.margins: -5
     z: 1
-    visible: shown && (always || Shell.keysInUse)
+    visible: shown && (always || Surroundings.keysInUse)
     borderColour: Theme.accent
     borderWidth: 2
 }

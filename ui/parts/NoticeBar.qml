@@ -8,22 +8,22 @@ Pressable {
     id: bar
     objectName: "notice"
 
-    readonly property bool shown: Shell.notice !== ""
-    readonly property bool good: Shell.noticeKind === Shell.Done
+    readonly property bool shown: Notices.text !== ""
+    readonly property bool good: Notices.kind === Notices.Done
     property Item before // had the keys before the notice did
 
     function goBack() {
-        Shell.dismissNotice();
+        Notices.dismiss();
     }
 
-    name: Shell.notice
+    name: Notices.text
     role: Accessible.AlertMessage
     x: 12
     y: parent.height + (shown ? -height - Theme.bottomInset - 8 : 10)
     width: parent.width - 24
     height: Math.max(44, words.height + 24)
     visible: y < parent.height
-    onPressed: Shell.dismissNotice()
+    onPressed: Notices.dismiss()
     onNameChanged: if (shown) words.text = name
     onShownChanged: if (!shown && activeFocus && before) before.forceActiveFocus()
     Keys.onEscapePressed: goBack()
@@ -40,17 +40,17 @@ Pressable {
         }
     }
     Connections {
-        target: Shell
-        function onNoticeChanged() { // another has its own time
+        target: Notices
+        function onChanged() { // another has its own time
             if (leave.running)
                 leave.restart();
         }
     }
     Timer {
         id: leave
-        running: bar.shown && Shell.noticeKind !== Shell.Trouble && !bar.hovered && !bar.activeFocus
+        running: bar.shown && Notices.kind !== Notices.Trouble && !bar.hovered && !bar.activeFocus
         interval: bar.good ? 2500 : 8000
-        onTriggered: Shell.dismissNotice()
+        onTriggered: Notices.dismiss()
     }
     ContinuousRectangle {
         anchors.fill: parent

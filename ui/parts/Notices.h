@@ -25,7 +25,8 @@ class Notices final : public QObject {
   // NOLINTEND(readability-identifier-naming)
   Q_ENUM(Kind)
 
-  Notices() = default;
+  /// Not without an argument: the engine would make one of its own.
+  explicit Notices(QObject* owner) : QObject(owner) {}
 
   /// Those of all that the engine makes.
   void give(QQmlEngine& engine);

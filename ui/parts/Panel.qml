@@ -3,8 +3,8 @@ import QtQuick
 import Vitrelle
 
 ContinuousRectangle {
-    implicitWidth: Shell.screenWidth - 60
+    implicitWidth: Surroundings.screenWidth - 60
     implicitHeight: 45
     radius: 16
-    colour: Qt.rgba(0.17, 0.17, 0.18, Shell.dark ? 1 : 0.55)
+    colour: Qt.rgba(0.17, 0.17, 0.18, Surroundings.dark ? 1 : 0.55)
 }

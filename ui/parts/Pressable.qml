@@ -22,7 +22,7 @@ Item {
 
     /// A key that is held presses once: what it led to must not be pressed as well.
     function pressByKey() {
-        if (!Shell.isKeyHeld())
+        if (!Surroundings.isKeyHeld())
             pressed();
     }
 

@@ -7,8 +7,11 @@ StackView {
     id: stack
 
     required property var screens // objects, from the bottom
-    required property var componentOf // of a page with a `screen`, for one of them
+    required property var componentOf // what draws one of them: a component or a file
+    property var propertiesOf: screen => ({ "screen": screen }) // what its page begins with
     property var shownScreens: []
+
+    signal pushed(Item page)
 
     function follow() {
         let same = 0;
@@ -22,7 +25,7 @@ StackView {
             pop(get(same - 1));
         shownScreens = screens.slice();
         for (let i = same; i < screens.length; ++i)
-            push(componentOf(screens[i]), { "screen": screens[i] }, i === 0 ? StackView.Immediate : StackView.PushTransition);
+            pushed(push(componentOf(screens[i]), propertiesOf(screens[i]), i === 0 ? StackView.Immediate : StackView.PushTransition));
     }
 
     focus: true

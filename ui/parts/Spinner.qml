@@ -32,7 +32,7 @@ Item {
     Timer {
         interval: 90
         repeat: true
-        running: spinner.visible && Shell.animated
+        running: spinner.visible && Surroundings.animated
         onTriggered: spinner.turn = (spinner.turn + 1) % 8
     }
 }

@@ -1,7 +1,7 @@
 #include "ui/parts/StoredPicture.h"
 
-#include "ui/Shell.h"
 #include "ui/parts/ContinuousRectangle.h"
+#include "ui/parts/Surroundings.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -55,7 +55,7 @@ void StoredPicture::load() {
   asking_ = nullptr;
   if (!file_.isEmpty()) {
     asking_ = std::make_shared<const int>();
-    Shell::of(*qmlEngine(this))
+    Surroundings::of(*qmlEngine(this))
         .pictures()
         .loadFile(file_.toStdString(), revision_, pixels, asking_,
                   receiver(&StoredPicture::takeStored));
@@ -65,7 +65,7 @@ void StoredPicture::load() {
     takeStored(request_, {});
     return;
   }
-  Shell::of(*qmlEngine(this))
+  Surroundings::of(*qmlEngine(this))
       .pictures()
       .load(wish_.name, pixels, sameSize ? shown_ : std::nullopt,
             receiver(&StoredPicture::takeStored));
@@ -86,7 +86,7 @@ void StoredPicture::takeStored(int request, const LoadedPicture& picture) {
   if (request != request_) return;
   missing_ = picture.pixels.isNull();
   if (missing_ && !standIn_.isEmpty()) {
-    Shell::of(*qmlEngine(this))
+    Surroundings::of(*qmlEngine(this))
         .pictures()
         .loadAsset(standIn_, wish_.pixels, receiver(&StoredPicture::takeStandIn));
   } else {

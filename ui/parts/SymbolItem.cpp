@@ -1,7 +1,7 @@
 #include "ui/parts/SymbolItem.h"
 
 #include "host/painting/PainterValues.h"
-#include "ui/Shell.h"
+#include "ui/parts/Surroundings.h"
 
 #include <QPainter>
 #include <QQmlEngine>
@@ -24,7 +24,7 @@ void SymbolItem::outline() {
   if (name_ != outlined_) {
     outlined_ = name_;
     const SymbolOutline symbol =
-        Shell::of(*qmlEngine(this)).platform().symbols.outline(name_.toStdString());
+        Surroundings::of(*qmlEngine(this)).platform().symbols.outline(name_.toStdString());
     path_ = host::qPath(symbol.path, symbol.rule);
     box_ = QSizeF(symbol.width, symbol.height);
   }

@@ -53,7 +53,7 @@ FocusScope {
     function takeKey(event: var) {
         const alone = (event.modifiers & ~(Qt.ShiftModifier | Qt.KeypadModifier)) === 0;
         const chooses = [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key);
-        if (chooses && Shell.isKeyHeld()) {
+        if (chooses && Surroundings.isKeyHeld()) {
             // Held since before this page was there.
         } else if (event.key === Qt.Key_Backspace || event.key === Qt.Key_Up && event.modifiers & Qt.AltModifier)
             goUp();

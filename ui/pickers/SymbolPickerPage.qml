@@ -24,7 +24,7 @@ FocusScope {
             grid.currentIndex = places[event.key];
         else if (![Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key))
             return;
-        else if (!Shell.isKeyHeld()) // else it has opened this page
+        else if (!Surroundings.isKeyHeld()) // else it has opened this page
             page.symbols.select(now);
         event.accepted = true;
     }

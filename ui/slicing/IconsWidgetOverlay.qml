@@ -7,7 +7,7 @@ Item {
     id: overlay
 
     // Of the screen, whose picture this lies over at a fraction of its size.
-    readonly property real side: Shell.screenWidth / 11
+    readonly property real side: Surroundings.screenWidth / 11
     readonly property real gap: (width - 4 * side) / 5
     property int rows: 6
     property int clearRows: 4

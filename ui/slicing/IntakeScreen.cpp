@@ -1,9 +1,10 @@
 #include "ui/slicing/IntakeScreen.h"
 
-#include "ui/Shell.h"
+#include "ui/app/Navigator.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QImage>
 #include <QMimeData>
 
 #include <utility>
@@ -24,11 +25,12 @@ Image imageOf(const QImage& picture) {
 
 } // namespace
 
-IntakeScreen::IntakeScreen(Shell& shell, std::unique_ptr<WallpaperIntake> screen)
-    : shell_(shell),
+IntakeScreen::IntakeScreen(Navigator& navigator, std::unique_ptr<WallpaperIntake> screen)
+    : platform_(navigator.platform()),
+      notices_(navigator.notices()),
       screen_(std::move(screen)),
       view_(screen_->onChange([this] { Q_EMIT changed(); })) {
-  connect(&shell, &Shell::closing, this, &IntakeScreen::disappear);
+  connect(&navigator, &Navigator::closing, this, &IntakeScreen::disappear);
 }
 
 void IntakeScreen::appear() {
@@ -53,7 +55,7 @@ bool IntakeScreen::choose(bool dark) {
 bool IntakeScreen::tellObstacle() const {
   if (!screen_->obstacle()) return false;
   const auto& [what, why] = *screen_->obstacle();
-  shell_.showNotice(qtTrId("app.store.readOnly").arg(QString::fromStdString(what + ": " + why)));
+  notices_.show(qtTrId("app.store.readOnly").arg(QString::fromStdString(what + ": " + why)));
   return true;
 }
 
@@ -61,7 +63,7 @@ bool IntakeScreen::pick(const QUrl& file) {
   const std::string path = file.toLocalFile().toStdString();
   const Result<Image> image = path.empty()
                                   ? Failure{file.toString().toStdString(), "it is no local file"}
-                                  : shell_.platform().images.load(path);
+                                  : platform_.images.load(path);
   if (!image) return refuse(image.failure());
   if (const auto bitmap = image->bitmap(); !bitmap) return refuse(bitmap.failure());
   take(*image);
@@ -95,7 +97,7 @@ void IntakeScreen::takeFiles(const QList<QUrl>& files) {
     return files[index].fileName().contains(u"dark", Qt::CaseInsensitive);
   };
   const qsizetype count = files.size();
-  if (count > 2) return shell_.showNotice(qtTrId("app.intake.tooMany"));
+  if (count > 2) return notices_.show(qtTrId("app.intake.tooMany"));
   bool firstIsDark = count > 0 && isDark(0);
   if (count == 2 && firstIsDark && isDark(1)) firstIsDark = false;
   for (qsizetype i = 0; i < count; ++i) {
@@ -105,7 +107,7 @@ void IntakeScreen::takeFiles(const QList<QUrl>& files) {
 }
 
 void IntakeScreen::take(const std::optional<Image>& picture) {
-  if (picture && shell_.noticeKind() == Shell::Refusal) shell_.dismissNotice();
+  if (picture && notices_.kind() == Notices::Refusal) notices_.dismiss();
   ++revision_;
   screen_->pick(picture);
 }
@@ -114,7 +116,7 @@ bool IntakeScreen::refuse(const Failure& failure) {
   take({});
   const auto words = [](const std::string& text) { return QString::fromStdString(text); };
 
-  shell_.showNotice(qtTrId("app.unreadable").arg(words(failure.what + ": " + failure.why)));
+  notices_.show(qtTrId("app.unreadable").arg(words(failure.what + ": " + failure.why)));
   return false;
 }
 

@@ -13,7 +13,8 @@
 
 namespace vitrelle::ui {
 
-class Shell;
+class Navigator;
+class Notices;
 
 class IntakeScreen final : public QObject {
   Q_OBJECT
@@ -37,7 +38,8 @@ class IntakeScreen final : public QObject {
   Q_PROPERTY(QString sheet READ sheet NOTIFY changed)
 
  public:
-  IntakeScreen(Shell& shell, std::unique_ptr<WallpaperIntake> screen);
+  /// Tells what goes wrong, and is left with the program.
+  IntakeScreen(Navigator& navigator, std::unique_ptr<WallpaperIntake> screen);
 
   QString title() const { return text(WallpaperIntake::title); }
   QString back() const { return text(WallpaperIntake::back); }
@@ -90,7 +92,8 @@ class IntakeScreen final : public QObject {
   bool refuse(const Failure& failure); ///< false
   bool tellObstacle() const;
 
-  Shell& shell_;
+  const Platform& platform_;
+  Notices& notices_;
   std::unique_ptr<WallpaperIntake> screen_;
   int revision_ = 0;
   bool appeared_ = false;

@@ -12,8 +12,8 @@ Item {
     property string noImage: "No Image Set"
     property bool hasIcons: true
 
-    width: Shell.screenWidth / 1.5
-    height: Shell.screenHeight / 1.5
+    width: Surroundings.screenWidth / 1.5
+    height: Surroundings.screenHeight / 1.5
 
     NoImageView {
         anchors.fill: parent
