@@ -2,8 +2,8 @@
 // painter doing the same.
 #include "bench/Timing.h"
 #include "core/drawing/Shapes.h"
-#include "core/families/clock/AnalogClockView.h"
 #include "core/families/battery/Meter.h"
+#include "core/families/clock/AnalogClockView.h"
 #include "host/drawing/Rasteriser.h"
 #include "host/symbols/Symbols.h"
 

@@ -111,8 +111,7 @@ Result<DisplayList> background(const Platform& platform, const Sheet& sheet,
         sliceFileName(styleInUse(platform).value, sheet.slot, platform.device.userInterfaceStyle());
     return Failure{file, "there is no such slice"};
   }
-  const auto slice =
-      ImageLoader(platform).loadSlice(name->stem, name->appearance, name->style.value);
+  const auto slice = ImageLoader(platform).loadSlice(name->stem, name->appearance, name->style);
   if (!slice) return Failure{sheet.slot, "the slice can't be read"};
   if (const auto bitmap = slice->bitmap(); !bitmap) return bitmap.failure();
   return DisplayList{{DrawnImage{.image = *slice, .box = box}}};

@@ -1,7 +1,6 @@
 #include "ui/Shell.h"
 
 #include "core/families/Families.h"
-#include "core/lifecycle/Form.h"
 #include "core/store/Keys.h"
 #include "core/store/StoredValue.h"
 #include "ui/app/ScreenTable.h"
@@ -92,10 +91,6 @@ bool Shell::canPaste() const {
 bool Shell::eventFilter(QObject* watched, QEvent* event) {
   if (watched == window_ && event->type() == QEvent::Close) keepPlace(platform_, *window_);
   return QObject::eventFilter(watched, event);
-}
-
-QString Shell::fontWords(const QString& name) {
-  return qText(vitrelle::fontWords(name.toStdString()));
 }
 
 QString Shell::pictureFolder() const {

@@ -72,8 +72,6 @@ class Shell final : public QObject {
     return new FontScreen(platform_, storedFont(picker.toStdString()));
   }
   Q_INVOKABLE vitrelle::ui::SymbolScreen* symbols() const { return new SymbolScreen(platform_); }
-  /// What a form shows for a font's name.
-  Q_INVOKABLE static QString fontWords(const QString& name);
   /// Where the choosing of a picture begins.
   Q_INVOKABLE QString pictureFolder() const;
   /// Lets the next choosing begin where this file lies.

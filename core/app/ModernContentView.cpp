@@ -144,8 +144,8 @@ void ModernContentView::reloadConfigs() {
   const ImageLoader loader(platform_);
   const std::int64_t amount = listed(stored->value_or(0));
   for (std::int64_t number = 0; number < amount; ++number) {
-    const auto light = loader.loadSlice("original", lightStyle, number);
-    const auto dark = loader.loadSlice("original", darkStyle, number);
+    const auto light = loader.loadSlice("original", lightStyle, StyleNumber{number});
+    const auto dark = loader.loadSlice("original", darkStyle, StyleNumber{number});
     if (light && dark) vitrelleConfigs_.push_back({number, *light, *dark});
   }
   changed();

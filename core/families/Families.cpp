@@ -33,7 +33,7 @@ const StyleFamily& styleFamily(std::string_view name) {
   static const FacelessFamily weather("weather");
   static const ClockFamily clock;
   static const std::array<const StyleFamily*, 6> all{&text,    &music,   &image,
-                                                      &battery, &weather, &clock};
+                                                     &battery, &weather, &clock};
   for (const StyleFamily* family : all) {
     if (family->words().name == name) return *family;
   }

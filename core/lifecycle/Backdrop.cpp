@@ -17,7 +17,7 @@ StyleNumber styleInUse(const Platform& platform) {
 std::optional<SliceName> findSlice(const Platform& platform, WidgetLocationImageNames slot,
                                    StyleNumber number, InterfaceStyle style) {
   const std::string_view stem = rawValue(slot);
-  if (!ImageLoader(platform).loadSlice(stem, style, number.value)) return std::nullopt;
+  if (!ImageLoader(platform).loadSlice(stem, style, number)) return std::nullopt;
   return SliceName{std::string(stem), number, style};
 }
 

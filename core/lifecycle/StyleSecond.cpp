@@ -79,10 +79,9 @@ std::optional<SuggestingEditor> StyleSecond::suggesting() const {
 }
 
 void StyleSecond::suggest() {
-  const auto screenshot =
-      ImageLoader(platform())
-          .loadSlice(rawValue(WidgetLocationImageNames::fullImage), currentAppearance(platform()),
-                     styleInUse(platform()).value);
+  const auto screenshot = ImageLoader(platform())
+                              .loadSlice(rawValue(WidgetLocationImageNames::fullImage),
+                                         currentAppearance(platform()), styleInUse(platform()));
   if (!screenshot) fatalError("the style in use has no screenshot to suggest colours from");
   suggestions_.workOut(*screenshot, suggesting()->coloursAsked);
   changed();

@@ -5,12 +5,12 @@
 namespace vitrelle {
 
 std::optional<Image> ImageLoader::loadSlice(std::string_view name, InterfaceStyle style,
-                                            std::int64_t configNumber) const {
-  return load(path(sliceFileName(configNumber, name, style)));
+                                            StyleNumber number) const {
+  return load(path(sliceFileName(number.value, name, style)));
 }
 
-std::optional<Image> ImageLoader::loadOverlay(std::int64_t configNumber) const {
-  const auto file = path("overlayImage" + std::to_string(configNumber) + ".png");
+std::optional<Image> ImageLoader::loadOverlay(RecordIndex index) const {
+  const auto file = path("overlayImage" + std::to_string(index.value) + ".png");
   if (file) platform_.debugConsole.print("Trying to load from " + *file);
   return load(file);
 }

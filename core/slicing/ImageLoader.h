@@ -3,6 +3,7 @@
 
 #include "core/platform/Platform.h"
 #include "core/slicing/WidgetLocation.h"
+#include "core/store/Numbers.h"
 
 #include <optional>
 #include <string_view>
@@ -17,10 +18,10 @@ class ImageLoader final {
 
   /// A slice or a full screenshot of a style. No other appearance or style stands in for it.
   std::optional<Image> loadSlice(std::string_view name, InterfaceStyle style,
-                                 std::int64_t configNumber) const;
+                                 StyleNumber number) const;
 
   /// The cut-out picture of an Image widget style, "overlayImage3.png".
-  std::optional<Image> loadOverlay(std::int64_t configNumber) const;
+  std::optional<Image> loadOverlay(RecordIndex index) const;
 
   /// A file of the first generation, which had one style and no numbers: "originalDark.png".
   std::optional<Image> loadLegacy(std::string_view name, InterfaceStyle style) const;

@@ -23,7 +23,7 @@ std::int64_t required(const std::optional<std::int64_t>& amount) {
 
 bool isStored(const Platform& platform, InterfaceStyle style, std::int64_t number) {
   return ImageLoader(platform)
-      .loadSlice(rawValue(WidgetLocationImageNames::fullImage), style, number)
+      .loadSlice(rawValue(WidgetLocationImageNames::fullImage), style, StyleNumber{number})
       .has_value();
 }
 

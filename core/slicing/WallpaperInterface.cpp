@@ -23,7 +23,7 @@ std::optional<Image> WallpaperInterface::image(WidgetLocationImageNames location
 
 std::optional<Image> WallpaperInterface::image(WidgetLocationImageNames location,
                                                InterfaceStyle style, std::int64_t config) const {
-  return ImageLoader(platform_).loadSlice(rawValue(location), style, config);
+  return ImageLoader(platform_).loadSlice(rawValue(location), style, StyleNumber{config});
 }
 
 std::vector<StoredSlice> WallpaperInterface::setImage(const Image& image, InterfaceStyle style,

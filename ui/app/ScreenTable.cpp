@@ -33,17 +33,20 @@ QVariantMap screenOver(Navigator& navigator, const OpenScreen&) {
   return {{QStringLiteral("screen"), handedOver(new Screen(navigator.platform()))}};
 }
 
+/// A page that is still open when the program ends is left.
+QVariantMap intake(Navigator& navigator, std::unique_ptr<WallpaperIntake> screen) {
+  auto* shown = new IntakeScreen(navigator.platform(), navigator.notices(), std::move(screen));
+  QObject::connect(&navigator, &Navigator::closing, shown, &IntakeScreen::disappear);
+  return {{QStringLiteral("intake"), handedOver(shown)}};
+}
+
 QVariantMap newStyle(Navigator& navigator, const OpenScreen&) {
-  return {{QStringLiteral("intake"),
-           handedOver(new IntakeScreen(
-               navigator, std::make_unique<ModernNewLightDark>(navigator.platform())))}};
+  return intake(navigator, std::make_unique<ModernNewLightDark>(navigator.platform()));
 }
 
 QVariantMap changeStyle(Navigator& navigator, const OpenScreen& place) {
   const std::int64_t number = place.style.value_or(StyleNumber{}).value;
-  return {{QStringLiteral("intake"),
-           handedOver(new IntakeScreen(
-               navigator, std::make_unique<ModernChangeLightDark>(navigator.platform(), number)))}};
+  return intake(navigator, std::make_unique<ModernChangeLightDark>(navigator.platform(), number));
 }
 
 QVariantMap anyFont(Navigator&, const OpenScreen&) {

@@ -42,7 +42,7 @@ SheetPage {
         anchors.horizontalCenter: parent.horizontalCenter
         width: page.date.previewWidth
         title: qsTrId("PickFont")
-        value: Shell.fontWords(page.date.font)
+        value: SharedWords.fontWords(page.date.font)
         onPressed: page.date.pickFont()
     }
     StepperRow {

@@ -1,6 +1,6 @@
 #include "ui/forms/FormModel.h"
 
-#include "ui/lifecycle/FamilyWords.h"
+#include "ui/parts/QtText.h"
 
 #include <QColor>
 

@@ -66,7 +66,7 @@ Column {
                 ButtonRow {
                     objectName: "fontRow"
                     title: row.title
-                    value: Shell.fontWords(row.value)
+                    value: SharedWords.fontWords(row.value)
                     onPressed: form.rows.openSheet(row.index)
                 }
             }

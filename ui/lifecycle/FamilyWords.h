@@ -3,19 +3,15 @@
 
 #include "core/lifecycle/Backdrop.h"
 #include "core/lifecycle/FamilyTable.h"
+#include "ui/parts/QtText.h"
 
 #include <QObject>
 #include <QString>
 #include <QtQmlIntegration>
 
 #include <optional>
-#include <string_view>
 
 namespace vitrelle::ui {
-
-inline QString qText(std::string_view words) {
-  return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
-}
 
 struct FamilyWords {
   Q_GADGET

@@ -3,6 +3,7 @@
 
 #include "core/colour/SuggestedColours.h"
 #include "core/lifecycle/FamilyTable.h"
+#include "core/lifecycle/Form.h"
 #include "core/pickers/FontPicker.h"
 #include "ui/lifecycle/FamilyWords.h"
 
@@ -71,6 +72,10 @@ class SharedWords : public QObject {
   static QString suggestedColours() { return qText(SuggestedColours::heading); }
   static QString suggestionsHint() { return qText(SuggestedColours::hint); }
   static QString suggestionsHintSymbol() { return qText(SuggestedColours::hintSymbol); }
+  /// What a row shows for a font's name.
+  Q_INVOKABLE static QString fontWords(const QString& name) {
+    return qText(vitrelle::fontWords(name.toStdString()));
+  }
   static QString currentFont() { return qText(ModernFontPicker::heading); }
 };
 

@@ -1,6 +1,6 @@
 #include "ui/pickers/SymbolScreen.h"
 
-#include "ui/lifecycle/FamilyWords.h"
+#include "ui/parts/QtText.h"
 
 namespace vitrelle::ui {
 

@@ -1,6 +1,6 @@
 #include "ui/slicing/IntakeScreen.h"
 
-#include "ui/app/Navigator.h"
+#include "ui/parts/Notices.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -25,13 +25,12 @@ Image imageOf(const QImage& picture) {
 
 } // namespace
 
-IntakeScreen::IntakeScreen(Navigator& navigator, std::unique_ptr<WallpaperIntake> screen)
-    : platform_(navigator.platform()),
-      notices_(navigator.notices()),
+IntakeScreen::IntakeScreen(const Platform& platform, Notices& notices,
+                           std::unique_ptr<WallpaperIntake> screen)
+    : platform_(platform),
+      notices_(notices),
       screen_(std::move(screen)),
-      view_(screen_->onChange([this] { Q_EMIT changed(); })) {
-  connect(&navigator, &Navigator::closing, this, &IntakeScreen::disappear);
-}
+      view_(screen_->onChange([this] { Q_EMIT changed(); })) {}
 
 void IntakeScreen::appear() {
   appeared_ = true;

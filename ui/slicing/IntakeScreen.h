@@ -13,7 +13,6 @@
 
 namespace vitrelle::ui {
 
-class Navigator;
 class Notices;
 
 class IntakeScreen final : public QObject {
@@ -38,8 +37,8 @@ class IntakeScreen final : public QObject {
   Q_PROPERTY(QString sheet READ sheet NOTIFY changed)
 
  public:
-  /// Tells what goes wrong, and is left with the program.
-  IntakeScreen(Navigator& navigator, std::unique_ptr<WallpaperIntake> screen);
+  /// What goes wrong is told by the notices.
+  IntakeScreen(const Platform& platform, Notices& notices, std::unique_ptr<WallpaperIntake> screen);
 
   QString title() const { return text(WallpaperIntake::title); }
   QString back() const { return text(WallpaperIntake::back); }

@@ -28,16 +28,16 @@ class ImageLoaderTest : public testing::Test {
 };
 
 TEST_F(ImageLoaderTest, loads_findTheirFilesByName) {
-  EXPECT_EQ(loader.loadSlice("original", lightStyle, 2), folder.images.at("2original.png"));
-  EXPECT_EQ(loader.loadSlice("original", 0, 2), folder.images.at("2original.png"));
-  EXPECT_EQ(loader.loadSlice("original", darkStyle, 2), folder.images.at("2originalDark.png"));
+  EXPECT_EQ(loader.loadSlice("original", lightStyle, {2}), folder.images.at("2original.png"));
+  EXPECT_EQ(loader.loadSlice("original", 0, {2}), folder.images.at("2original.png"));
+  EXPECT_EQ(loader.loadSlice("original", darkStyle, {2}), folder.images.at("2originalDark.png"));
   EXPECT_EQ(loader.loadLegacy("original", lightStyle), folder.images.at("original.png"));
   EXPECT_EQ(loader.loadLegacy("original", darkStyle), folder.images.at("originalDark.png"));
   EXPECT_TRUE(console.lines.empty());
-  EXPECT_EQ(loader.loadOverlay(2), folder.images.at("overlayImage2.png"));
+  EXPECT_EQ(loader.loadOverlay({2}), folder.images.at("overlayImage2.png"));
   EXPECT_EQ(console.lines,
             std::vector<std::string>{"Trying to load from /group/overlayImage2.png"});
-  EXPECT_FALSE(loader.loadSlice("original", lightStyle, 3));
+  EXPECT_FALSE(loader.loadSlice("original", lightStyle, {3}));
 }
 
 TEST_F(ImageLoaderTest, noFolderOrShortBundleIdentifier_givesNothing) {
@@ -45,14 +45,14 @@ TEST_F(ImageLoaderTest, noFolderOrShortBundleIdentifier_givesNothing) {
        {std::optional<std::string>(), std::optional<std::string>("com.example"),
         std::optional<std::string>("program")}) {
     identifier = name;
-    EXPECT_FALSE(loader.loadSlice("original", lightStyle, 2)) << name.value_or("none");
-    EXPECT_FALSE(loader.loadOverlay(2));
+    EXPECT_FALSE(loader.loadSlice("original", lightStyle, {2})) << name.value_or("none");
+    EXPECT_FALSE(loader.loadOverlay({2}));
     EXPECT_FALSE(loader.loadLegacy("original", lightStyle));
   }
   identifier = "a.b.c.d";
-  EXPECT_TRUE(loader.loadSlice("original", lightStyle, 2));
+  EXPECT_TRUE(loader.loadSlice("original", lightStyle, {2}));
   folder.exists = false;
-  EXPECT_FALSE(loader.loadSlice("original", lightStyle, 2));
+  EXPECT_FALSE(loader.loadSlice("original", lightStyle, {2}));
 }
 
 } // namespace

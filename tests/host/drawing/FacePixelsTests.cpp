@@ -1,7 +1,7 @@
 // Where the ink of clocks and meters ends, at three pixels per point.
+#include "core/families/battery/Meter.h"
 #include "core/families/clock/AnalogClockView.h"
 #include "core/families/clock/DigitalClockView.h"
-#include "core/families/battery/Meter.h"
 #include "host/drawing/Rasteriser.h"
 #include "host/symbols/Symbols.h"
 
