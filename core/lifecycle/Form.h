@@ -75,6 +75,16 @@ FormRow rowOver(std::string_view title, FormControl control, Field Record::*fiel
               }};
 }
 
+/// A choice among values of one field.
+template <class Record>
+FormRow choiceOver(std::string_view title, std::string_view label, std::int64_t Record::*field,
+                   std::vector<FormOption> options) {
+  FormRow row = rowOver(title, FormControl::segments, field);
+  row.label = label;
+  row.options = std::move(options);
+  return row;
+}
+
 /// The same row, where the condition holds.
 inline FormRow shownWhen(std::function<bool(const StyleDraft&)> condition, FormRow row) {
   row.shown = std::move(condition);

@@ -118,12 +118,10 @@ std::vector<FormRow> BatteryFamily::rows(EditorStep step) const {
             shownWhen(hasSymbol, well("Set Symbol Colour", &Record::batteryIconColour)),
             shownWhen(hasPercentage, well("Set Text Colour", &Record::batteryTextColour))};
   }
-  FormRow shape = rowOver("Shape", FormControl::segments, &Record::batteryType);
-  shape.label = "Select an appearance";
-  shape.options = {
-      {ring, "circle", "Ring"}, {square, "square", "Square"}, {capsule, "capsule", "Line"}};
   return {
-      shape,
+      choiceOver(
+          "Shape", "Select an appearance", &Record::batteryType,
+          {{ring, "circle", "Ring"}, {square, "square", "Square"}, {capsule, "capsule", "Line"}}),
       shownWhen(hasMiddle, rowOver("Show Symbol", FormControl::toggle, &Record::batteryShowSymbol)),
       shownWhen(hasSymbol, rowOver("Symbol", FormControl::symbol, &Record::batterySymbol)),
       shownWhen(hasMiddle,

@@ -14,6 +14,11 @@ const Record& style(const StyleDraft& draft) {
   return std::get<Record>(draft.record);
 }
 
+// What the segments of a choice stand for, from the left.
+constexpr std::int64_t first = 0;
+constexpr std::int64_t second = 1;
+constexpr std::int64_t third = 2;
+
 // When a row is shown.
 
 bool isAnalog(const StyleDraft& draft) {
@@ -39,37 +44,33 @@ bool hasHours(const StyleDraft& draft) {
 }
 
 FormRow choice(std::string_view title, std::int64_t Record::*field,
-               std::vector<std::pair<std::string_view, std::string_view>> symbols) {
-  FormRow row = rowOver(title, FormControl::segments, field);
-  row.label = "Select a Style";
-  for (std::size_t i = 0; i < symbols.size(); ++i)
-    row.options.push_back({static_cast<std::int64_t>(i), symbols[i].first, symbols[i].second});
-  return row;
+               std::vector<FormOption> options) {
+  return choiceOver(title, "Select a Style", field, std::move(options));
 }
 
 } // namespace
 
 std::vector<FormRow> clockSetupRows() {
   return {shownWhen(isAnalog, choice("Analog Style", &Record::clockWidgetAnalogComplexity,
-                                     {{"line.diagonal", "Hands"},
-                                      {"circle.dotted", "Hands and hours"},
-                                      {"circle", "Hands, hours and dial"}})),
+                                     {{first, "line.diagonal", "Hands"},
+                                      {second, "circle.dotted", "Hands and hours"},
+                                      {third, "circle", "Hands, hours and dial"}})),
           shownWhen([](const StyleDraft& draft) { return isAnalog(draft) && hasDial(draft); },
                     choice("Dial Shape", &Record::clockWidgetAnalogDialShape,
-                           {{"circle", "Circle"}, {"square", "Square"}})),
+                           {{first, "circle", "Circle"}, {second, "square", "Square"}})),
           shownWhen([](const StyleDraft& draft) { return isAnalog(draft) && hasHours(draft); },
                     choice("Hour Shape", &Record::clockWidgetAnalogHoursShape,
-                           {{"rectangle.portrait.fill", "Bars"},
-                            {"smallcircle.filled.circle", "Small dots"},
-                            {"circle.inset.filled", "Large dots"}})),
+                           {{first, "rectangle.portrait.fill", "Bars"},
+                            {second, "smallcircle.filled.circle", "Small dots"},
+                            {third, "circle.inset.filled", "Large dots"}})),
           shownWhen(isDigital,
                     rowOver("Size: ", FormControl::stepper, &Record::clockWidgetDigitalSize)),
           shownWhen(isDigital, rowOver("Font", FormControl::font, &Record::clockWidgetDigitalFont)),
           shownWhen(isNotDateOnly,
                     rowOver("Show Date", FormControl::toggle, &Record::clockWidgetDateEnabled)),
           shownWhen(hasDate, choice("Date Length", &Record::clockWidgetDateLength,
-                                    {{"arrow.down.right.and.arrow.up.left", "Short"},
-                                     {"arrow.up.left.and.arrow.down.right", "Full"}})),
+                                    {{first, "arrow.down.right.and.arrow.up.left", "Short"},
+                                     {second, "arrow.up.left.and.arrow.down.right", "Full"}})),
           shownWhen(hasDate, rowOver("Size: ", FormControl::stepper, &Record::clockWidgetDateSize)),
           shownWhen(hasDate, rowOver("Font", FormControl::font, &Record::clockWidgetDateFont))};
 }
