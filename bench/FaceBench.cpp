@@ -2,7 +2,6 @@
 // over styles made of the given screenshots, if any: the gallery of twelve from its opening to its
 // last picture, beside the same grid in plain QML, and a keystroke to the redrawn preview.
 #include "bench/Timing.h"
-#include "core/drawing/Shapes.h"
 #include "core/families/text/CustomTextPreviewView.h"
 #include "core/slicing/ImageCropper.h"
 #include "core/store/GroupStore.h"
@@ -12,6 +11,7 @@
 #include "host/drawing/DrawingProcess.h"
 #include "ui/Shell.h"
 #include "ui/Words.h"
+#include "ui/lifecycle/EditorScreen.h"
 #include "ui/lifecycle/FamilyScreen.h"
 #include "ui/parts/StoredPicture.h"
 
@@ -31,7 +31,6 @@
 #include <QTextOption>
 
 #include <cstdio>
-#include <numbers>
 #include <vector>
 
 namespace {
@@ -98,33 +97,6 @@ void drawPlainShadowed(const PointSize& frame, double scale) {
   scene.render(&painter, image.rect(), image.rect());
 }
 
-constexpr int bars = 60;
-constexpr double turn = 2 * std::numbers::pi / bars;
-
-/// The minutes of a clock: each a bar that is turned about the middle.
-DisplayList turnedBars(const Platform& platform, const PointSize& frame) {
-  std::vector<View> minutes;
-  for (int i = 0; i < bars; ++i) {
-    const View bar = framed(filled(shapes::rectangle, {1, 1, 1, 1}), 2, 8);
-    minutes.push_back(rotated(vstack({bar, spacer()}, Place::centre, 0), i * turn));
-  }
-  return layOut(zstack(minutes), frame, platform.drawing);
-}
-
-void drawPlainBars(const PointSize& frame, double scale) {
-  QImage image(QSizeF(frame.width * scale, frame.height * scale).toSize(),
-               QImage::Format_ARGB32_Premultiplied);
-  image.fill(Qt::transparent);
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.scale(scale, scale);
-  painter.translate(frame.width / 2, frame.height / 2);
-  for (int i = 0; i < bars; ++i) {
-    painter.fillRect(QRectF(-1, -frame.height / 2, 2, 8), Qt::white);
-    painter.rotate(360.0 / bars);
-  }
-}
-
 Platform platformOver(const QString& home) {
   Platform platform = host::makePlatform(
       {.home = host::HomeFolder(home.toStdString()), .phone = {}, .dark = false, .verbose = false},
@@ -145,16 +117,21 @@ void makeStyles(const Platform& platform, const QStringList& screenshots) {
   store.set(keys::lastUsedAppVersion, *platform.bundle.shortVersion());
 }
 
-/// So many text styles, linked to the wallpapers as far as those go.
-void storeRecords(const Platform& platform, int count, std::int64_t wallpapers) {
-  std::vector<textWidgetData> records;
+/// So many styles of a family, linked to the wallpapers as far as those go.
+template <class Record>
+void storeRecords(const Platform& platform, const Family<Record>& family, const Record& like,
+                  int count, std::int64_t wallpapers) {
+  std::vector<Record> records(static_cast<std::size_t>(count), like);
   for (int i = 0; i < count; ++i) {
-    textWidgetData record = newRecord(families::text, records);
-    record.textWidgetText = words;
-    record.textLinkedConfig = i < wallpapers ? i : noLinkedConfig;
-    records.push_back(record);
+    records[static_cast<std::size_t>(i)].*family.tag = i;
+    records[static_cast<std::size_t>(i)].*family.linked = i < wallpapers ? i : noLinkedConfig;
   }
-  GroupStore(platform).saveRecords(families::text, records);
+  GroupStore(platform).saveRecords(family, records);
+}
+
+void storeTexts(const Platform& platform, int count, std::int64_t wallpapers) {
+  storeRecords(platform, families::text, textWidgetData{.textWidgetText = words}, count,
+               wallpapers);
 }
 
 QQuickItem* find(QQuickItem* item, const QString& objectName) {
@@ -191,31 +168,48 @@ double untilFrame(QQuickWindow* window, IsSo isSo) {
   return took;
 }
 
-struct Pages {
-  double gallery;
-  double keystroke;
-};
-
-Pages measurePages(const Platform& platform, int wallpapers) {
-  storeRecords(platform, styles, wallpapers);
-  ui::Shell shell(
-      platform,
-      {.screen = QStringLiteral("ModernCustomTextView"), .framed = false, .animated = false});
-  if (!shell.open()) std::exit(1);
+/// Opens an entry screen and its gallery, until that is drawn with its pictures.
+double openGallery(ui::Shell& shell) {
   QQuickItem* content = shell.window()->contentItem();
   untilFrame(shell.window(), [] { return true; });
   auto* family =
       find(content, QStringLiteral("familyPage"))->property("family").value<ui::FamilyScreen*>();
   const int before = readyPictures(content);
   family->tapGallery();
-  const double gallery =
-      untilFrame(shell.window(), [&] { return readyPictures(content) >= before + styles; });
-  storeRecords(platform, 1, wallpapers); // twelve leave no room for the new one
+  return untilFrame(shell.window(), [&] { return readyPictures(content) >= before + styles; });
+}
+
+double measureClockGallery(const Platform& platform, int wallpapers) {
+  storeRecords(platform, families::clock,
+               clockWidgetData{.clockWidgetDateEnabled = true, .clockWidgetAnalogComplexity = 2},
+               styles, wallpapers);
+  ui::Shell shell(platform,
+                  {.screen = QStringLiteral("ModernTimeView"), .framed = false, .animated = false});
+  if (!shell.open()) std::exit(1);
+  return openGallery(shell);
+}
+
+struct Pages {
+  double gallery;
+  double keystroke;
+};
+
+Pages measurePages(const Platform& platform, int wallpapers) {
+  storeTexts(platform, styles, wallpapers);
+  ui::Shell shell(
+      platform,
+      {.screen = QStringLiteral("ModernCustomTextView"), .framed = false, .animated = false});
+  if (!shell.open()) std::exit(1);
+  const double gallery = openGallery(shell);
+  QQuickItem* content = shell.window()->contentItem();
+  auto* family =
+      find(content, QStringLiteral("familyPage"))->property("family").value<ui::FamilyScreen*>();
+  storeTexts(platform, 1, wallpapers); // twelve leave no room for the new one
   family->dismissSheet();
   family->tapCreate();
   untilFrame(shell.window(), [&] { return find(content, QStringLiteral("textField")) != nullptr; });
   auto* editor =
-      find(content, QStringLiteral("setupPage"))->property("editor").value<ui::EditorScreen*>();
+      find(content, QStringLiteral("setupPage"))->property("screen").value<ui::EditorScreen*>();
   std::vector<double> times;
   for (int i = 1; i < 20; ++i) {
     editor->form()->setValue(0, QString::fromLatin1(words).left(i));
@@ -225,8 +219,49 @@ Pages measurePages(const Platform& platform, int wallpapers) {
   return {gallery, times[times.size() / 2]};
 }
 
+/// A tile's words, and a clock with its dial and hours, in plain QML.
+constexpr const char* plainWords = R"(
+                    Text {
+                        anchors.centerIn: parent
+                        width: 141
+                        wrapMode: Text.Wrap
+                        color: "white"
+                        font.family: "Inter"
+                        font.pixelSize: 18
+                        text: "Good morning, sunshine"
+                    })";
+constexpr const char* plainClock = R"(
+                    Rectangle {
+                        anchors.centerIn: parent
+                        width: 110; height: 110; radius: 55
+                        color: "transparent"
+                        border { width: 4; color: "white" }
+                        Repeater {
+                            model: 14
+                            Item {
+                                required property int index
+                                anchors.centerIn: parent
+                                width: 100; height: 100
+                                rotation: index * 30
+                                Rectangle {
+                                    anchors.horizontalCenter: parent.horizontalCenter
+                                    y: parent.index < 12 ? 0 : 20
+                                    width: 2; height: parent.index < 12 ? 15 : 30
+                                    antialiasing: true
+                                }
+                            }
+                        }
+                    }
+                    Text {
+                        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
+                        color: "white"
+                        font.family: "Inter"
+                        font.pixelSize: 16
+                        text: "11/21/26"
+                    })";
+
 /// The same grid in plain QML, whose pictures come from the same files.
-double measurePlainGallery(const QString& folder, int screenshots) {
+double measurePlainGallery(const QString& folder, int screenshots, const char* tile) {
   QQmlApplicationEngine engine;
   engine.loadData(QStringLiteral(R"(
 import QtQuick
@@ -250,15 +285,7 @@ Window {
                     cache: false
                     source: "file://%2/" + (index < %3 ? index : 0) + "topLeftSmall.png"
                     onStatusChanged: if (status === Image.Ready) ++window.ready
-                    Text {
-                        anchors.centerIn: parent
-                        width: 141
-                        wrapMode: Text.Wrap
-                        color: "white"
-                        font.family: "Inter"
-                        font.pixelSize: 18
-                        text: "%4"
-                    }
+                    %4
                 }
             }
         }
@@ -268,7 +295,7 @@ Window {
                       .arg(styles)
                       .arg(folder)
                       .arg(screenshots)
-                      .arg(QString::fromLatin1(words))
+                      .arg(QString::fromLatin1(tile))
                       .toUtf8());
   auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
   untilFrame(window, [] { return true; });
@@ -303,30 +330,27 @@ int main(int argc, char** argv) {
   std::printf("face at 3x without %.2f ms, plain Qt %.2f ms, %.2f times as fast\n", faces[2],
               faces[3], faces[3] / faces[2]);
 
-  const DisplayList minutes = turnedBars(platform, frame);
-  const DisplayList faded{{DrawnGroup{.opacity = 0.5, .items = minutes}}};
-  const auto drawn = [&](const DisplayList& list) {
-    if (!platform.drawing.render({&list, 1}, {0, 0, frame.width, frame.height}, 3)) std::exit(1);
-  };
-  const auto turned = bench::medians(
-      41, {[&] { drawn(minutes); }, [&] { drawn(faded); }, [&] { drawPlainBars(frame, 3); }});
-  std::printf("%d turned bars at 3x %.2f ms, all faded %.2f ms, plain Qt %.2f ms, ratio %.2f\n",
-              bars, turned[0], turned[1], turned[2], turned[0] / turned[2]);
-
   const QStringList screenshots = QCoreApplication::arguments().mid(1);
   if (screenshots.isEmpty()) return 0;
   makeStyles(platform, screenshots);
   const QString folder = QString::fromStdString(*platform.files.groupContainer());
+  const auto wallpapers = static_cast<int>(screenshots.size());
   std::vector<double> galleries;
   std::vector<double> plain;
+  std::vector<double> clocks;
+  std::vector<double> plainClocks;
   std::vector<double> keystrokes;
   for (int round = 0; round < rounds; ++round) {
-    const Pages pages = measurePages(platform, static_cast<int>(screenshots.size()));
+    const Pages pages = measurePages(platform, wallpapers);
     galleries.push_back(pages.gallery);
     keystrokes.push_back(pages.keystroke);
-    plain.push_back(measurePlainGallery(folder, static_cast<int>(screenshots.size())));
+    plain.push_back(measurePlainGallery(folder, wallpapers, plainWords));
+    clocks.push_back(measureClockGallery(platform, wallpapers));
+    plainClocks.push_back(measurePlainGallery(folder, wallpapers, plainClock));
   }
   std::printf("gallery of %d tiles %.1f ms, plain QML %.1f ms, ratio %.2f\n", styles,
               median(galleries), median(plain), median(galleries) / median(plain));
+  std::printf("gallery of %d clocks %.1f ms, plain QML %.1f ms, ratio %.2f\n", styles,
+              median(clocks), median(plainClocks), median(clocks) / median(plainClocks));
   std::printf("keystroke to the redrawn preview %.1f ms\n", median(keystrokes));
 }
