@@ -17,6 +17,9 @@ namespace {
 /// Beyond all that is drawn, and still far from where the layout's fixed-point numbers end.
 constexpr double unboundedUnits = 1 << 20;
 
+constexpr QChar narrowNoBreakSpace(0x202F);
+constexpr QChar thinSpace(0x2009); ///< of the same width, and lines may end with it
+
 /// More than a screen full of the smallest letters; what is behind it is not shown.
 constexpr qsizetype longestText = 8192;
 
@@ -153,7 +156,10 @@ TextLayout layOutText(const QString& text, const Font& font, const PointSize& ro
   const double height = inUnits(room.height);
   TextLayout result;
   double bottom = 0;
-  const QStringList paragraphs = paragraphsOf(text);
+  QString shown = text;
+  // A clock that is too wide is better broken before "PM" than between its digits.
+  if (font.evenDigits) shown.replace(narrowNoBreakSpace, thinSpace);
+  const QStringList paragraphs = paragraphsOf(shown);
   for (qsizetype i = 0; i < paragraphs.size(); ++i) {
     const QString& words = paragraphs[i];
     const bool rightToLeft = words.isRightToLeft();

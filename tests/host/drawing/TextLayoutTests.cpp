@@ -113,6 +113,15 @@ TEST(TextLayout, evenDigits_standStillWhateverTheTime) {
   EXPECT_TRUE(clock("١:٣٠ م", "", true).lines[0].rightToLeft);
 }
 
+TEST(TextLayout, clockThatIsTooWide_isBrokenBeforeItsWords) {
+  const Font font{.size = 40, .evenDigits = true};
+  const double time = layOutText(QStringLiteral("1:30"), font, {endless, endless}).size.width;
+  const QString words = QStringLiteral("1:30\u202FPM"); // as many locales have it
+  const TextLayout broken = layOutText(words, font, {time + 20, endless});
+  ASSERT_EQ(broken.lines.size(), 2U);
+  EXPECT_GE(broken.lines[0].width, time - 1); // without what is added for rounding
+}
+
 TEST(TextLayout, cutLine_keepsTheDirectionOfItsParagraph) {
   const char* text = "שלום this is English for a few lines";
   const TextLayout whole = layOut(text, 100, endless);
