@@ -14,6 +14,11 @@ StyleEditor::StyleEditor(const Platform& platform, const StyleFamily& family, Ed
       draft_(family.newDraft(task_.kind)),
       live_(family.live(platform, [this] { changed(); })) {}
 
+void StyleEditor::takeSlice() {
+  readImg();
+  changed();
+}
+
 void StyleEditor::setValue(std::size_t row, const FormValue& value) {
   form_.setValue(draft_, row, value);
   changed();

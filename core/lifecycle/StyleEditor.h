@@ -30,6 +30,8 @@ class StyleEditor : public Screen {
 
   /// Reads the slice and the records anew. A record that is not there leaves the form as it is.
   virtual void appear() = 0;
+  /// Reads the slice alone, when the appearance has changed.
+  void takeSlice();
   virtual Saved save() = 0;
 
   std::vector<ShownRow> rows() const { return form_.shownRows(draft_); }

@@ -25,8 +25,10 @@ Saved StyleSetup::save() {
   const bool isNew = task().mode == EditorMode::create;
   const RecordIndex index =
       isNew ? RecordIndex{static_cast<std::int64_t>(stored_.count())} : task().configNumber;
-  if (!isNew && stored_.at(index) == nullptr)
-    fatalError("there is no widget style to edit at this index");
+  if (!isNew && stored_.at(index) == nullptr) {
+    if (stored_.loaded()) fatalError("there is no widget style to edit at this index");
+    return stored_.save() ? Saved::stored : Saved::notStored; // what can't be read is not written
+  }
   if (!family().keep(platform(), draft(), index)) return Saved::refused;
   StyleRecord& record = isNew ? stored_.append() : *stored_.at(index);
   family().copy(EditorStep::setup, draft(), record);

@@ -303,9 +303,43 @@ TEST_F(FamilyPageTest, preview_showsEveryWallpaperAndTheWholeScreen) {
   EXPECT_EQ(driver->find("previewPager")->property("currentIndex"), 2);
   driver->click("previewButton");
   waitFor("wholePreview");
+  QTest::mouseMove(shell->window(), {100, 100});
+  EXPECT_EQ(driver->find("wholePreview")->opacity(), 1) << "nothing shines through";
+  driver->key(Qt::Key_Left, Qt::AltModifier);
+  EXPECT_FALSE(driver->isShown("wholePreview"));
+  EXPECT_TRUE(driver->isShown("previewPage")) << "the way back is one step";
+  driver->click("previewButton");
   driver->key(Qt::Key_Escape);
   EXPECT_FALSE(driver->isShown("wholePreview"));
   EXPECT_TRUE(driver->isShown("previewPage"));
+}
+
+TEST_F(FamilyPageTest, sheetThatGoesAway_letsNoPressThrough) {
+  open({.screen = QStringLiteral("ModernBatteryStylesEditorView"),
+        .framed = false,
+        .animated = true});
+  waitFor("setupPage");
+  driver->click("fontRow");
+  waitFor("fontPicker");
+  const QQuickItem* close = driver->find("fontPickerClose");
+  const QPoint at = close->mapToScene(QPointF(close->width() / 2, close->height() / 2)).toPoint();
+  EXPECT_TRUE(driver->eventually([&] { return close->mapToScene(QPointF()).y() < 100; }));
+  QTest::mouseClick(shell->window(), Qt::LeftButton, {}, at);
+  QTest::mouseClick(shell->window(), Qt::LeftButton, {}, at);
+  waitForEndOf("fontSheet");
+  EXPECT_TRUE(driver->isShown("setupPage")) << "its own close sign lies beneath";
+}
+
+TEST_F(FamilyPageTest, heldEscape_goesOneStep) {
+  openAt("ModernTimeView");
+  driver->click("create");
+  waitFor("kindsPage");
+  driver->click("kind1");
+  waitFor("setupPage");
+  driver->key(Qt::Key_Escape);
+  for (int i = 0; i < 5; ++i)
+    driver->repeat(Qt::Key_Escape);
+  EXPECT_TRUE(driver->isShown("kindsPage"));
 }
 
 TEST_F(FamilyPageTest, clock_isMadeFromItsKindToItsPreview) {

@@ -7,7 +7,7 @@ FocusScope {
 
     function back() {
         const page = stack.currentItem as Page;
-        if (stack.depth > 1 && page)
+        if (stack.depth > 1 && page && !Surroundings.isKeyHeld()) // one press, one step
             page.closed();
     }
     function open(name: string) {

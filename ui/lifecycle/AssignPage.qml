@@ -16,6 +16,13 @@ SheetPage {
     covered: menu.shown || screen.alertTitle !== ""
     Component.onCompleted: screen.appear()
 
+    Connections {
+        target: Surroundings
+        function onDarkChanged() {
+            page.screen.appear();
+        }
+    }
+
     WidgetPreview {
         anchors.horizontalCenter: parent.horizontalCenter
         face: page.screen.face

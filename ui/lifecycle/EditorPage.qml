@@ -21,6 +21,12 @@ SheetPage {
     StackView.onActivated: screen.settle()
 
     Connections {
+        target: Surroundings
+        function onDarkChanged() {
+            page.screen.takeSlice();
+        }
+    }
+    Connections {
         target: page.screen
         function onChanged() {
             if (page.screen.sheet !== "")

@@ -49,6 +49,8 @@ class EditorScreen : public StyleScreen {
   QList<QColor> suggestedColours() const;
 
   Q_INVOKABLE void appear() { screen_->appear(); }
+  /// When the appearance has changed.
+  Q_INVOKABLE void takeSlice() { screen_->takeSlice(); }
   /// When the screen has come to rest.
   Q_INVOKABLE void settle();
   Q_INVOKABLE void dismissSheet() { screen_->dismissSheet(); }

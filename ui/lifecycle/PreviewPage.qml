@@ -15,6 +15,13 @@ SheetPage {
     covered: whole.shown
     Component.onCompleted: screen.appear()
 
+    Connections {
+        target: Surroundings
+        function onDarkChanged() {
+            page.screen.appear();
+        }
+    }
+
     ListView {
         id: pager
         objectName: "previewPager"
@@ -67,12 +74,18 @@ SheetPage {
 
         property bool shown: false
 
+        function goBack() {
+            shown = false;
+        }
+
         objectName: "wholePreview"
+        opacity: 1 // also under the pointer: nothing is to shine through
         anchors.fill: parent
         visible: shown
         activeFocusOnTab: shown
         name: qsTrId("app.close")
-        Keys.onEscapePressed: shown = false
+        Keys.onEscapePressed: goBack()
+        Keys.onBackPressed: goBack()
         onShownChanged: shown ? forceActiveFocus() : pager.forceActiveFocus()
         onPressed: shown = false
 

@@ -17,7 +17,7 @@ FocusScope {
     height: parent.height
     y: shown ? 0 : height
     visible: present
-    enabled: shown
+    enabled: present
     onShownChanged: {
         if (!shown) {
             if (opener)
@@ -29,16 +29,19 @@ FocusScope {
         forceActiveFocus();
     }
     onYChanged: if (!shown && y >= height) present = false
-    Keys.onEscapePressed: dismissed()
-    Keys.onBackPressed: dismissed()
+    Keys.onEscapePressed: if (!Surroundings.isKeyHeld()) dismissed()
+    Keys.onBackPressed: if (!Surroundings.isKeyHeld()) dismissed()
 
     Behavior on y { NumberAnimation { duration: Theme.longTime; easing.type: Easing.OutCubic } }
 
-    MouseArea { // nothing behind it can be pressed
-        anchors.fill: parent
+    MouseArea { // nothing behind it can be pressed, nor while it goes away: a press may have come twice
+        y: -sheet.y
+        width: parent.width
+        height: parent.height
     }
     FocusScope {
         id: body
+        enabled: sheet.shown
         focus: true
         anchors.fill: parent
     }

@@ -26,8 +26,8 @@ FocusScope {
             closed();
     }
 
-    Keys.onEscapePressed: goBack()
-    Keys.onBackPressed: goBack()
+    Keys.onEscapePressed: if (!Surroundings.isKeyHeld()) goBack()
+    Keys.onBackPressed: if (!Surroundings.isKeyHeld()) goBack()
 
     KeysKeeper {
         id: keys

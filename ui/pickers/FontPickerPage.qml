@@ -16,8 +16,8 @@ FocusScope {
         closed();
     }
 
-    Keys.onEscapePressed: closed()
-    Keys.onBackPressed: closed()
+    Keys.onEscapePressed: if (!Surroundings.isKeyHeld()) closed()
+    Keys.onBackPressed: if (!Surroundings.isKeyHeld()) closed()
     Component.onCompleted: {
         page.fonts.search("");
         const now = page.fonts.indexOf(page.fontPicked);

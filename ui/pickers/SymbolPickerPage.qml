@@ -29,8 +29,8 @@ FocusScope {
         event.accepted = true;
     }
 
-    Keys.onEscapePressed: goBack()
-    Keys.onBackPressed: goBack()
+    Keys.onEscapePressed: if (!Surroundings.isKeyHeld()) goBack()
+    Keys.onBackPressed: if (!Surroundings.isKeyHeld()) goBack()
     Component.onCompleted: {
         grid.currentIndex = Math.max(0, page.symbols.indexOf(page.icon));
         grid.positionViewAtIndex(grid.currentIndex, GridView.Center);

@@ -130,6 +130,15 @@ TEST_F(StyleEditorTest, brokenStore_letsTheFlowEndAsIfItHadWritten) {
   EXPECT_EQ(stored().size(), 2U) << "nothing else is lost";
 }
 
+TEST_F(StyleEditorTest, styleThatCannotBeRead_isNotTakenForMissing) {
+  defaults.broken = {Suite::group};
+  auto editor = setup(edit(1));
+  editor.appear();
+  EXPECT_EQ(editor.save(), Saved::notStored);
+  defaults.broken = {};
+  EXPECT_EQ(stored().size(), 2U);
+}
+
 TEST_F(StyleEditorTest, newStyleThatWasNotTaken_isSavedByTheNextStepAndNoOtherIsTouched) {
   const auto before = stored();
   for (const bool fullToTheEnd : {true, false}) {
