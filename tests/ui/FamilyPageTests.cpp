@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace vitrelle {
 namespace {
 
@@ -319,11 +321,17 @@ TEST_F(FamilyPageTest, sheetThatGoesAway_letsNoPressThrough) {
         .framed = false,
         .animated = true});
   waitFor("setupPage");
+  EXPECT_TRUE(
+      driver->eventually([&] { return !driver->find("stack")->property("busy").toBool(); }));
   driver->click("fontRow");
   waitFor("fontPicker");
   const QQuickItem* close = driver->find("fontPickerClose");
-  const QPoint at = close->mapToScene(QPointF(close->width() / 2, close->height() / 2)).toPoint();
-  EXPECT_TRUE(driver->eventually([&] { return close->mapToScene(QPointF()).y() < 100; }));
+  const auto middle = [close] {
+    return close->mapToScene(QPointF(close->width() / 2, close->height() / 2)).toPoint();
+  };
+  const int top = driver->find("sheetClose")->mapToScene(QPointF()).toPoint().y();
+  EXPECT_TRUE(driver->eventually([&] { return std::abs(middle().y() - top) < 40; })) << "at rest";
+  const QPoint at = middle();
   QTest::mouseClick(shell->window(), Qt::LeftButton, {}, at);
   QTest::mouseClick(shell->window(), Qt::LeftButton, {}, at);
   waitForEndOf("fontSheet");

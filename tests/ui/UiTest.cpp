@@ -80,6 +80,8 @@ void Driver::drag(QPoint from, int distance) const {
 }
 
 void Driver::key(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
+  constexpr int pause = 2; // milliseconds: a press at the time of a release is one of a held key
+  QTest::qSleep(pause);
   QTest::keyClick(shell_.window(), key, modifiers);
 }
 
