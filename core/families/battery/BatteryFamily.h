@@ -1,7 +1,6 @@
 // The Battery family: a ring, a square or a line that shows how full the battery is.
 #pragma once
 
-#include "core/lifecycle/StyleEntry.h"
 #include "core/lifecycle/StyleFamily.h"
 
 namespace vitrelle {

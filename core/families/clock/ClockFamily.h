@@ -1,7 +1,6 @@
 // The Time family: an analog clock, a digital one, or the date alone.
 #pragma once
 
-#include "core/lifecycle/StyleEntry.h"
 #include "core/lifecycle/StyleFamily.h"
 
 #include <string_view>

@@ -1,7 +1,6 @@
 // The Text family: a few words in a font, a size and a colour.
 #pragma once
 
-#include "core/lifecycle/StyleEntry.h"
 #include "core/lifecycle/StyleFamily.h"
 
 namespace vitrelle {
