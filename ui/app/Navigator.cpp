@@ -28,8 +28,11 @@ Navigator::~Navigator() {
   qDeleteAll(places_);
 }
 
-QList<QObject*> Navigator::places() const {
-  return {places_.begin(), places_.end()};
+QVariantList Navigator::places() const {
+  QVariantList places;
+  for (Place* const place : places_)
+    places += QVariant::fromValue<QObject*>(place);
+  return places;
 }
 
 void Navigator::open(const QString& name) {

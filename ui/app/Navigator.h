@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QQmlEngine>
 #include <QString>
+#include <QVariantList>
 #include <QVariantMap>
 
 namespace vitrelle::ui {
@@ -41,7 +42,7 @@ class Navigator final : public QObject {
   QML_ELEMENT
   QML_UNCREATABLE("the shell has it")
   /// From the root's.
-  Q_PROPERTY(QList<QObject*> places READ places NOTIFY changed)
+  Q_PROPERTY(QVariantList places READ places NOTIFY changed)
 
  public:
   /// Both must outlive it.
@@ -51,7 +52,7 @@ class Navigator final : public QObject {
   const Platform& platform() const { return platform_; }
   Notices& notices() { return notices_; }
 
-  QList<QObject*> places() const;
+  QVariantList places() const;
   /// A name that no screen has opens nothing.
   Q_INVOKABLE void open(const QString& name);
   Q_INVOKABLE void openStyle(int styleNumber);

@@ -12,7 +12,7 @@
 
 namespace vitrelle::ui {
 
-class AssignScreen : public StyleScreen {
+class AssignScreen : public vitrelle::ui::StyleScreen {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the flow makes it")

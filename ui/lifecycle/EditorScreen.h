@@ -13,7 +13,7 @@
 
 namespace vitrelle::ui {
 
-class EditorScreen : public StyleScreen {
+class EditorScreen : public vitrelle::ui::StyleScreen {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the flow makes it")

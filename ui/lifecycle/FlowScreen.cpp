@@ -52,10 +52,10 @@ FlowScreen::~FlowScreen() {
   delete assignSheet_;
 }
 
-QList<QObject*> FlowScreen::pages() const {
-  QList<QObject*> views;
+QVariantList FlowScreen::pages() const {
+  QVariantList views;
   for (const Shown& shown : pages_)
-    views += shown.view;
+    views += QVariant::fromValue<QObject*>(shown.view);
   return views;
 }
 

@@ -5,9 +5,9 @@
 #include "ui/lifecycle/AssignScreen.h"
 #include "ui/lifecycle/StyleScreen.h"
 
-#include <QList>
 #include <QObject>
 #include <QQmlEngine>
+#include <QVariantList>
 
 #include <memory>
 #include <vector>
@@ -19,7 +19,7 @@ class FlowScreen : public QObject {
   QML_ELEMENT
   QML_UNCREATABLE("the family makes it")
   /// From the bottom; never empty.
-  Q_PROPERTY(QList<QObject*> pages READ pages NOTIFY changed)
+  Q_PROPERTY(QVariantList pages READ pages NOTIFY changed)
   /// Over the gallery; null while there is none.
   Q_PROPERTY(vitrelle::ui::AssignScreen* assignSheet READ assignSheet NOTIFY changed)
   Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY changed)
@@ -28,7 +28,7 @@ class FlowScreen : public QObject {
   FlowScreen(const Platform& platform, std::shared_ptr<StyleFlow> flow);
   ~FlowScreen() override;
 
-  QList<QObject*> pages() const;
+  QVariantList pages() const;
   AssignScreen* assignSheet() const { return assignSheet_; }
   bool canGoBack() const { return flow_->canGoBack(); }
 
@@ -51,7 +51,6 @@ class FlowScreen : public QObject {
     const void* screen; ///< of the logic, to know it by
     StyleScreen* view;
   };
-  StyleScreen* makeView(const FlowPage& page) const;
   void follow();
 
   const Platform& platform_;

@@ -9,7 +9,7 @@
 
 namespace vitrelle::ui {
 
-class GalleryScreen : public StyleScreen {
+class GalleryScreen : public vitrelle::ui::StyleScreen {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the flow makes it")

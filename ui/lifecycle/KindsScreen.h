@@ -13,7 +13,7 @@
 
 namespace vitrelle::ui {
 
-class KindsScreen : public StyleScreen {
+class KindsScreen : public vitrelle::ui::StyleScreen {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the flow makes it")

@@ -12,7 +12,7 @@
 
 namespace vitrelle::ui {
 
-class PreviewScreen : public StyleScreen {
+class PreviewScreen : public vitrelle::ui::StyleScreen {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the flow makes it")
