@@ -1,5 +1,6 @@
 #include "host/Host.h"
 
+#include "host/Absent.h"
 #include "host/desktop/AppInstance.h"
 #include "host/desktop/MainQueue.h"
 #include "host/desktop/Timelines.h"
@@ -12,7 +13,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -35,15 +35,6 @@ DebugConsole makeDebugConsole(bool verbose) {
   return {.print = [verbose](const std::string& line) {
     if (verbose) std::fprintf(stderr, "%s\n", line.c_str());
   }};
-}
-
-/// Programs that draw put theirs in its place: it takes libraries that the others do without.
-Drawing noDrawing() {
-  return {.textSize = [](const std::string&, const Font&, const PointSize&) { return PointSize(); },
-          .lastBaseline = [](const std::string&, const Font&, const PointSize&) { return 0.0; },
-          .render = [](std::span<const DisplayList>, const PointRect&, double) -> Result<Image> {
-            return Failure{"drawing", "this program does not draw"};
-          }};
 }
 
 /// Programs that draw put the machine's in its place, unless a level was told.
@@ -85,7 +76,12 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .drawing = noDrawing(),
       .fonts = {.families = [] { return std::vector<FontFamily>(); }},
       .dateTime = makeClock(options.now),
-      .battery = toldBattery(options.battery.value_or(unknownBatteryLevel))};
+      .battery = toldBattery(options.battery.value_or(unknownBatteryLevel)),
+      .location = noLocation(),
+      .locationSettings = noLocationSettings(),
+      .geocoder = noGeocoder(),
+      .weatherService = noWeatherService(),
+      .musicPlayer = noMusicPlayer()};
 }
 
 } // namespace vitrelle::host

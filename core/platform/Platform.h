@@ -13,14 +13,19 @@
 #include "core/platform/Drawing.h"
 #include "core/platform/Files.h"
 #include "core/platform/Fonts.h"
+#include "core/platform/Geocoder.h"
 #include "core/platform/Haptics.h"
 #include "core/platform/Images.h"
 #include "core/platform/Links.h"
+#include "core/platform/Location.h"
+#include "core/platform/LocationSettings.h"
 #include "core/platform/MainQueue.h"
+#include "core/platform/MusicPlayer.h"
 #include "core/platform/NotificationCentre.h"
 #include "core/platform/PhoneBook.h"
 #include "core/platform/SharedInstances.h"
 #include "core/platform/Symbols.h"
+#include "core/platform/WeatherService.h"
 #include "core/platform/WidgetCenter.h"
 
 namespace vitrelle {
@@ -45,6 +50,11 @@ struct Platform {
   Fonts fonts;
   DateTime dateTime;
   Battery battery;
+  Location location;
+  LocationSettings locationSettings;
+  Geocoder geocoder;
+  WeatherService weatherService;
+  MusicPlayer musicPlayer;
 
   /// What is made once per platform, such as the device name.
   SharedInstances shared = {};

@@ -204,6 +204,70 @@ void FakeBattery::set(float level) {
   changes_.notify(shown());
 }
 
+void FakeLocation::use(Platform& platform) {
+  platform.location = {.authorizationStatus = [this] { return status_; },
+                       .watchAuthorization =
+                           [this](std::function<void(AuthorizationStatus)> subscriber) {
+                             subscriber(status_);
+                             return answers_.add(std::move(subscriber));
+                           },
+                       .requestWhenInUseAuthorization = [this] { ++requests; },
+                       .startUpdatingLocation =
+                           [this](std::function<void(const std::vector<Coordinate>&)> subscriber) {
+                             return positions_.add(std::move(subscriber));
+                           },
+                       .openSettings = [this] { ++settingsOpened; }};
+}
+
+void FakeLocation::authorize(AuthorizationStatus status) {
+  status_ = status;
+  answers_.notify(status);
+}
+
+void FakeLocation::move(std::vector<Coordinate> positions) {
+  positions_.notify(positions);
+}
+
+void FakeGeocoder::use(Platform& platform) {
+  platform.geocoder = {
+      .reverseGeocodeLocation = [this](const Coordinate& position,
+                                       auto done) { return asked.ask(position, std::move(done)); },
+      .search = [this](const std::string& words, std::size_t,
+                       auto done) { return searched.ask(words, std::move(done)); }};
+}
+
+void FakeWeatherService::use(Platform& platform) {
+  platform.weatherService = {
+      .weather = [this](const Coordinate& position,
+                        auto done) { return asked.ask(position, std::move(done)); },
+      .openAttribution = [this] { ++attributions; }};
+}
+
+void FakeMusicPlayer::use(Platform& platform) {
+  platform.musicPlayer = {
+      .nowPlayingItem = [this] { return item; },
+      .playbackState = [this] { return state; },
+      .onNowPlayingItemChange =
+          [this](std::function<void()> subscriber) { return changes_.add(std::move(subscriber)); },
+      .requestAuthorization =
+          [this](std::function<void()> done) {
+            return authorisations.ask({}, [done = std::move(done)](std::monostate) { done(); });
+          },
+      .currentSubscription =
+          [this](std::function<void(bool)> done) { return subscriptions.ask({}, std::move(done)); },
+      .presentOffer =
+          [this] {
+            ++offers;
+            return true;
+          }};
+}
+
+void FakeMusicPlayer::play(MediaItem playing, std::int64_t now) {
+  item = std::move(playing);
+  state = now;
+  notify();
+}
+
 void FakeDrawing::use(Platform& platform) {
   platform.drawing = {
       .textSize =

@@ -4,12 +4,16 @@
 
 #include "core/platform/Platform.h"
 
+#include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <variant>
 #include <vector>
 
 namespace vitrelle::test {
@@ -118,6 +122,94 @@ class FakeBattery final {
 
   float level_ = 0.75F;
   Subscribers<float> changes_;
+};
+
+/// A user who answers for his position when a test says so, and a device that is moved by hand.
+class FakeLocation final {
+ public:
+  void use(Platform& platform);
+  void authorize(AuthorizationStatus status);
+  void move(std::vector<Coordinate> positions);
+
+  int requests = 0;
+  int settingsOpened = 0;
+
+ private:
+  AuthorizationStatus status_ = AuthorizationStatus::notDetermined;
+  Subscribers<AuthorizationStatus> answers_;
+  Subscribers<const std::vector<Coordinate>&> positions_;
+};
+
+/// Asks that wait until a test answers them, in the order in which they came. One whose
+/// subscription has ended is no longer there.
+template <class Question, class Answer>
+class Pending final {
+ public:
+  using Completion = std::function<void(const Answer&)>;
+
+  Subscription ask(Question question, Completion completion) {
+    const std::uint64_t ticket = state_->next++;
+    state_->waiting.emplace(ticket, std::pair(std::move(question), std::move(completion)));
+    return Subscription([weak = std::weak_ptr<State>(state_), ticket] {
+      if (const auto state = weak.lock()) state->waiting.erase(ticket);
+    });
+  }
+  std::vector<Question> questions() const {
+    std::vector<Question> questions;
+    for (const auto& entry : state_->waiting)
+      questions.push_back(entry.second.first);
+    return questions;
+  }
+  /// Answers the oldest; false when none waits.
+  bool answer(const Answer& answer) {
+    if (state_->waiting.empty()) return false;
+    const Completion completion = state_->waiting.begin()->second.second;
+    state_->waiting.erase(state_->waiting.begin());
+    completion(answer);
+    return true;
+  }
+
+ private:
+  struct State {
+    std::uint64_t next = 0;
+    std::map<std::uint64_t, std::pair<Question, Completion>> waiting;
+  };
+  std::shared_ptr<State> state_ = std::make_shared<State>();
+};
+
+/// The names of places, and the weather there.
+class FakeGeocoder final {
+ public:
+  void use(Platform& platform);
+
+  Pending<Coordinate, Result<std::vector<Placemark>>> asked;
+  Pending<std::string, Result<std::vector<City>>> searched;
+};
+
+class FakeWeatherService final {
+ public:
+  void use(Platform& platform);
+
+  Pending<Coordinate, Result<Weather>> asked;
+  int attributions = 0;
+};
+
+/// A player that plays what it is told, and a service that answers when it is told.
+class FakeMusicPlayer final {
+ public:
+  void use(Platform& platform);
+  /// Tells those who listen.
+  void play(MediaItem item, std::int64_t state = playback::playing);
+  void notify() { changes_.notify(); }
+
+  std::optional<MediaItem> item;
+  std::int64_t state = playback::stopped;
+  Pending<std::monostate, std::monostate> authorisations;
+  Pending<std::monostate, bool> subscriptions;
+  int offers = 0;
+
+ private:
+  Subscribers<> changes_;
 };
 
 /// A face in which every byte of a text is half as wide as its size, and a line as high with its

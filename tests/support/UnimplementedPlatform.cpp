@@ -86,6 +86,27 @@ Platform unimplementedPlatform() {
       .battery = {.setMonitoringEnabled = Unimplemented{"battery.setMonitoringEnabled"},
                   .level = Unimplemented{"battery.level"},
                   .watch = Unimplemented{"battery.watch"}},
+      .location = {.authorizationStatus = Unimplemented{"location.authorizationStatus"},
+                   .watchAuthorization = Unimplemented{"location.watchAuthorization"},
+                   .requestWhenInUseAuthorization =
+                       Unimplemented{"location.requestWhenInUseAuthorization"},
+                   .startUpdatingLocation = Unimplemented{"location.startUpdatingLocation"},
+                   .openSettings = Unimplemented{"location.openSettings"}},
+      .locationSettings = {.current = Unimplemented{"locationSettings.current"},
+                           .save = Unimplemented{"locationSettings.save"},
+                           .watch = Unimplemented{"locationSettings.watch"},
+                           .hasDesktopService =
+                               Unimplemented{"locationSettings.hasDesktopService"}},
+      .geocoder = {.reverseGeocodeLocation = Unimplemented{"geocoder.reverseGeocodeLocation"},
+                   .search = Unimplemented{"geocoder.search"}},
+      .weatherService = {.weather = Unimplemented{"weatherService.weather"},
+                         .openAttribution = Unimplemented{"weatherService.openAttribution"}},
+      .musicPlayer = {.nowPlayingItem = Unimplemented{"musicPlayer.nowPlayingItem"},
+                      .playbackState = Unimplemented{"musicPlayer.playbackState"},
+                      .onNowPlayingItemChange = Unimplemented{"musicPlayer.onNowPlayingItemChange"},
+                      .requestAuthorization = Unimplemented{"musicPlayer.requestAuthorization"},
+                      .currentSubscription = Unimplemented{"musicPlayer.currentSubscription"},
+                      .presentOffer = Unimplemented{"musicPlayer.presentOffer"}},
   };
 }
 
