@@ -9,10 +9,14 @@
 #include "host/symbols/Symbols.h"
 #include "host/time/Clock.h"
 
+#include <algorithm>
+#include <array>
+#include <cstdint>
 #include <cstdio>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <random>
 #include <string>
 #include <utility>
 #include <vector>
@@ -35,6 +39,22 @@ DebugConsole makeDebugConsole(bool verbose) {
   return {.print = [verbose](const std::string& line) {
     if (verbose) std::fprintf(stderr, "%s\n", line.c_str());
   }};
+}
+
+std::string newUuid() {
+  std::array<std::uint8_t, 16> bytes{};
+  std::random_device random;
+  std::ranges::generate(bytes, [&random] { return static_cast<std::uint8_t>(random()); });
+  bytes[6] = static_cast<std::uint8_t>((bytes[6] & 0x0F) | 0x40); // version 4,
+  bytes[8] = static_cast<std::uint8_t>((bytes[8] & 0x3F) | 0x80); // variant 1
+  std::string uuid;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    if (i == 4 || i == 6 || i == 8 || i == 10) uuid += '-';
+    char digits[3];
+    std::snprintf(digits, sizeof digits, "%02X", bytes[i]);
+    uuid += digits;
+  }
+  return uuid;
 }
 
 /// Programs that draw put the machine's in its place, unless a level was told.
@@ -81,7 +101,8 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .locationSettings = noLocationSettings(),
       .geocoder = noGeocoder(),
       .weatherService = noWeatherService(),
-      .musicPlayer = noMusicPlayer()};
+      .musicPlayer = noMusicPlayer(),
+      .identifiers = {.newUuid = newUuid}};
 }
 
 } // namespace vitrelle::host

@@ -15,6 +15,7 @@
 #include "core/platform/Fonts.h"
 #include "core/platform/Geocoder.h"
 #include "core/platform/Haptics.h"
+#include "core/platform/Identifiers.h"
 #include "core/platform/Images.h"
 #include "core/platform/Links.h"
 #include "core/platform/Location.h"
@@ -55,6 +56,7 @@ struct Platform {
   Geocoder geocoder;
   WeatherService weatherService;
   MusicPlayer musicPlayer;
+  Identifiers identifiers;
 
   /// What is made once per platform, such as the device name.
   SharedInstances shared = {};

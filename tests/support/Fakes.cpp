@@ -205,10 +205,10 @@ void FakeBattery::set(float level) {
 }
 
 void FakeLocation::use(Platform& platform) {
-  platform.location = {.authorizationStatus = [this] { return status_; },
+  platform.location = {.authorizationStatus = [this] { return choice.permission; },
                        .watchAuthorization =
                            [this](std::function<void(AuthorizationStatus)> subscriber) {
-                             subscriber(status_);
+                             subscriber(choice.permission);
                              return answers_.add(std::move(subscriber));
                            },
                        .requestWhenInUseAuthorization = [this] { ++requests; },
@@ -217,11 +217,30 @@ void FakeLocation::use(Platform& platform) {
                              return positions_.add(std::move(subscriber));
                            },
                        .openSettings = [this] { ++settingsOpened; }};
+  platform.locationSettings = {.current = [this] { return choice; },
+                               .save = [this](const LocationChoice& told) -> Status {
+                                 if (full) return Failure{"location", "the disk is full"};
+                                 settle(told);
+                                 return success();
+                               },
+                               .watch =
+                                   [this](std::function<void(const LocationChoice&)> subscriber) {
+                                     subscriber(choice);
+                                     return choices_.add(std::move(subscriber));
+                                   },
+                               .hasDesktopService = [] { return true; }};
+}
+
+void FakeLocation::settle(const LocationChoice& told) {
+  choice = told;
+  choices_.notify(told);
+  answers_.notify(told.permission);
 }
 
 void FakeLocation::authorize(AuthorizationStatus status) {
-  status_ = status;
-  answers_.notify(status);
+  LocationChoice told = choice;
+  told.permission = status;
+  settle(told);
 }
 
 void FakeLocation::move(std::vector<Coordinate> positions) {

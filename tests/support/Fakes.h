@@ -124,19 +124,23 @@ class FakeBattery final {
   Subscribers<float> changes_;
 };
 
-/// A user who answers for his position when a test says so, and a device that is moved by hand.
+/// A user who settles what his device may tell, and a device that is moved by hand.
 class FakeLocation final {
  public:
   void use(Platform& platform);
   void authorize(AuthorizationStatus status);
   void move(std::vector<Coordinate> positions);
 
+  LocationChoice choice; ///< its permission is the status
+  bool full = false;     ///< nothing can be settled
   int requests = 0;
   int settingsOpened = 0;
 
  private:
-  AuthorizationStatus status_ = AuthorizationStatus::notDetermined;
+  void settle(const LocationChoice& choice);
+
   Subscribers<AuthorizationStatus> answers_;
+  Subscribers<const LocationChoice&> choices_;
   Subscribers<const std::vector<Coordinate>&> positions_;
 };
 

@@ -107,6 +107,7 @@ Platform unimplementedPlatform() {
                       .requestAuthorization = Unimplemented{"musicPlayer.requestAuthorization"},
                       .currentSubscription = Unimplemented{"musicPlayer.currentSubscription"},
                       .presentOffer = Unimplemented{"musicPlayer.presentOffer"}},
+      .identifiers = {.newUuid = Unimplemented{"identifiers.newUuid"}},
   };
 }
 
