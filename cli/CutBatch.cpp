@@ -104,15 +104,15 @@ Exit cutBatch(const CommandContext& context, const std::string& from, const std:
   const Interruption interruption;
   const Progress progress(pairs->size());
   auto list = nlohmann::ordered_json::array();
-  std::int64_t style = 0;
+  StyleNumber next;
   bool complete = true;
   for (const auto& [name, screenshots] : *pairs) {
     if (Interruption::came()) {
       complete = false;
       break;
     }
-    progress.show(static_cast<std::size_t>(style), name);
-    const std::int64_t number = style++;
+    progress.show(static_cast<std::size_t>(next.value), name);
+    const StyleNumber number{next.value++};
     if (!screenshots.light || !screenshots.dark) {
       progress.clear();
       complain({name, screenshots.light ? "it has no dark picture" : "it has no light picture"});
@@ -128,12 +128,12 @@ Exit cutBatch(const CommandContext& context, const std::string& from, const std:
     }
     complete = complainOf(*cut) && complete;
     if (json) {
-      list.push_back({{"style", number},
+      list.push_back({{"style", number.value},
                       {"name", name},
                       {"files", writtenFiles(*cut)},
                       {"bytes", totalBytes(*cut)}});
     } else {
-      std::printf("%3lld  %s  %zu files  %zu bytes\n", static_cast<long long>(number),
+      std::printf("%3lld  %s  %zu files  %zu bytes\n", static_cast<long long>(number.value),
                   oneLine(name).c_str(), writtenFiles(*cut), totalBytes(*cut));
       std::fflush(stdout);
     }

@@ -20,7 +20,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 struct CutArguments {
-  std::int64_t style = 0;
+  StyleNumber style;
   Screenshots screenshots;
   std::string overview;
   std::string batch;
@@ -134,7 +134,7 @@ void addCutCommand(CLI::App& program, CommandContext& context) {
       "cut", "Cut a light and a dark screenshot into the slices of a wallpaper style");
   const auto arguments = std::make_shared<CutArguments>();
   CLI::Option* style =
-      command->add_option("--style", arguments->style, "The style's number, from 0")
+      command->add_option("--style", arguments->style.value, "The style's number, from 0")
           ->type_name("N")
           ->check(styleNumber());
   const auto addScreenshot = [&](const char* name, std::optional<std::string>& path,

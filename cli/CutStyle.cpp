@@ -84,7 +84,7 @@ Result<CutStyle> cutScreenshots(const Platform& platform, const Screenshots& scr
   return cut;
 }
 
-Result<CutStyle> cutStyle(const Platform& platform, std::int64_t number,
+Result<CutStyle> cutStyle(const Platform& platform, StyleNumber number,
                           const Screenshots& screenshots) {
   const auto wallpaper = WallpaperInterface::shared(platform);
   return cutScreenshots(platform, screenshots, [&](const Image& image, InterfaceStyle style) {

@@ -37,7 +37,7 @@ Result<CutStyle> cutScreenshots(const Platform& platform, const Screenshots& scr
                                 const StoreScreenshot& store);
 
 /// Cuts the given screenshots into the style.
-Result<CutStyle> cutStyle(const Platform& platform, std::int64_t number,
+Result<CutStyle> cutStyle(const Platform& platform, StyleNumber number,
                           const Screenshots& screenshots);
 
 /// Complains of all that went wrong or looks wrong; whether every file was written.

@@ -108,7 +108,7 @@ Result<DisplayList> background(const Platform& platform, const Sheet& sheet,
   }
   if (!name) {
     const std::string file =
-        sliceFileName(styleInUse(platform).value, sheet.slot, platform.device.userInterfaceStyle());
+        sliceFileName(styleInUse(platform), sheet.slot, platform.device.userInterfaceStyle());
     return Failure{file, "there is no such slice"};
   }
   const auto slice = ImageLoader(platform).loadSlice(name->stem, name->appearance, name->style);

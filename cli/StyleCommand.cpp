@@ -21,7 +21,7 @@ namespace vitrelle::cli {
 namespace {
 
 struct StyleArguments {
-  std::int64_t number = 0;
+  StyleNumber number;
   Screenshots screenshots;
   bool json = false;
 };
@@ -44,12 +44,12 @@ Exit list(const Platform& platform, bool json) {
     const std::string light = describe(style.configImageLight.size());
     const std::string dark = describe(style.configImageDark.size());
     if (json) {
-      styles.push_back({{"number", style.configNumber},
+      styles.push_back({{"number", style.configNumber.value},
                         {"selected", selected},
                         {"light", light},
                         {"dark", dark}});
     } else {
-      std::printf("%3lld  %-10s %-10s %s\n", static_cast<long long>(style.configNumber),
+      std::printf("%3lld  %-10s %-10s %s\n", static_cast<long long>(style.configNumber.value),
                   light.c_str(), dark.c_str(), selected ? "selected" : "");
     }
   }
@@ -63,7 +63,7 @@ Exit list(const Platform& platform, bool json) {
 
 /// Cuts the screenshots into the style, and complains of what went wrong. Whether it can be used:
 /// slots that lie outside of a screenshot are no hindrance.
-bool store(const Platform& platform, std::int64_t number, const Screenshots& screenshots) {
+bool store(const Platform& platform, StyleNumber number, const Screenshots& screenshots) {
   const auto cut = cutStyle(platform, number, screenshots);
   if (!cut) {
     complain(cut.failure());
@@ -121,7 +121,7 @@ Exit makeNew(const Platform& platform, const Screenshots& screenshots) {
     return Exit::failed;
   }
   if (!prepareStore(platform, amount->has_value())) return Exit::failed;
-  if (!store(platform, number, screenshots) || Interruption::came() ||
+  if (!store(platform, {number}, screenshots) || Interruption::came() ||
       !stored(platform, keys::amountOfConfigs, number + 1)) {
     complain({"style new", "no style was made"});
     return Exit::failed;
@@ -132,15 +132,15 @@ Exit makeNew(const Platform& platform, const Screenshots& screenshots) {
 }
 
 /// Whether there is such a style; complains if not.
-bool exists(const Platform& platform, std::int64_t number) {
+bool exists(const Platform& platform, StyleNumber number) {
   const auto stored = GroupStore(platform).read(keys::amountOfConfigs);
   if (!stored) {
     complain(stored.failure());
     return false;
   }
   const std::int64_t amount = stored->value_or(0);
-  if (number >= 0 && number < amount) return true;
-  complain({"style " + std::to_string(number),
+  if (number.value >= 0 && number.value < amount) return true;
+  complain({"style " + std::to_string(number.value),
             amount <= 0 ? "there is no style yet"
                         : "there are only the styles 0 to " + std::to_string(amount - 1)});
   return false;
@@ -159,10 +159,10 @@ Exit change(const Platform& platform, const StyleArguments& arguments) {
   return complainOf(*cut) ? Exit::done : Exit::failed;
 }
 
-Exit select(const Platform& platform, std::int64_t number) {
+Exit select(const Platform& platform, StyleNumber number) {
   if (!exists(platform, number)) return Exit::failed;
   ModernContentView(platform).selectConfig(number);
-  if (GroupStore(platform).value(keys::selectedConfig) == number) return Exit::done;
+  if (GroupStore(platform).value(keys::selectedConfig) == number.value) return Exit::done;
   complain({"style select", "the store can't be written"});
   return Exit::failed;
 }
@@ -191,7 +191,7 @@ void addStyleCommand(CLI::App& program, CommandContext& context) {
   CLI::App* changing = command->add_subcommand("change", "Replace screenshots of a style");
   CLI::App* selecting = command->add_subcommand("select", "Put a style to use");
   for (CLI::App* numbered : {changing, selecting}) {
-    numbered->add_option("N", arguments->number, "The style's number, from 0")
+    numbered->add_option("N", arguments->number.value, "The style's number, from 0")
         ->required()
         ->check(styleNumber());
   }

@@ -129,8 +129,8 @@ void ModernContentView::moveLegacyImages() const {
   if (!light || !dark) return;
   platform_.debugConsole.print("Got Legacy Light and Dark");
   const ImageCropper cropper(platform_);
-  cropper.store(*light, lightStyle, 0);
-  cropper.store(*dark, darkStyle, 0);
+  cropper.store(*light, lightStyle, {});
+  cropper.store(*dark, darkStyle, {});
   platform_.debugConsole.print("Moved to new location");
   if (!amount) fatalError("amountOfConfigs is missing");
   configAmounts_.set(checkedAdd(*amount, 1));
@@ -143,9 +143,9 @@ void ModernContentView::reloadConfigs() {
   vitrelleConfigs_.clear();
   const ImageLoader loader(platform_);
   const std::int64_t amount = listed(stored->value_or(0));
-  for (std::int64_t number = 0; number < amount; ++number) {
-    const auto light = loader.loadSlice("original", lightStyle, StyleNumber{number});
-    const auto dark = loader.loadSlice("original", darkStyle, StyleNumber{number});
+  for (StyleNumber number; number.value < amount; ++number.value) {
+    const auto light = loader.loadSlice("original", lightStyle, number);
+    const auto dark = loader.loadSlice("original", darkStyle, number);
     if (light && dark) vitrelleConfigs_.push_back({number, *light, *dark});
   }
   changed();
@@ -160,12 +160,12 @@ bool ModernContentView::canBeChanged() const {
   return !launchWaits_ && store.check(Suite::group) && store.check(Suite::standard);
 }
 
-void ModernContentView::selectConfig(std::int64_t number) {
+void ModernContentView::selectConfig(StyleNumber number) {
   if (isSelected(number) || !canBeChanged()) {
     platform_.haptics.error();
     return;
   }
-  selectedConfig_.set(number);
+  selectedConfig_.set(number.value);
   platform_.haptics.success();
   platform_.widgetCenter.reloadAllTimelines();
 }

@@ -46,7 +46,7 @@ class ModernContentView final : public Screen {
   /// Lists the styles whose two screenshots are both there. Loads, but decodes no picture.
   void reloadConfigs();
   /// A tap on a card's tick. Only felt where the choice could not be stored.
-  void selectConfig(std::int64_t number);
+  void selectConfig(StyleNumber number);
   /// A tap on the button of the Widget Centre: whether it opens; if not, the alert is up.
   bool openWidgetCentre();
 
@@ -56,7 +56,7 @@ class ModernContentView final : public Screen {
 
   const std::vector<VitrelleConfigData>& vitrelleConfigs() const { return vitrelleConfigs_; }
   /// Whether the card is of the style in use. Without a stored choice none is.
-  bool isSelected(std::int64_t number) const { return selectedConfig_.get() == number; }
+  bool isSelected(StyleNumber number) const { return selectedConfig_.get() == number.value; }
   std::int64_t amountOfConfigs() const { return configAmounts_.getOrDefault(); }
   bool showsCards() const { return amountOfConfigs() != 0; }
   bool showsCreateCard() const;

@@ -2,14 +2,13 @@
 #pragma once
 
 #include "core/platform/Image.h"
-
-#include <cstdint>
+#include "core/store/Numbers.h"
 
 namespace vitrelle {
 
 struct VitrelleConfigData {
-  std::int64_t configNumber = 0; ///< from 0
-  Image configImageLight;        ///< the full screenshots
+  StyleNumber configNumber;
+  Image configImageLight; ///< the full screenshots
   Image configImageDark;
   bool operator==(const VitrelleConfigData&) const = default;
 };

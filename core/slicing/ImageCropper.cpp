@@ -23,37 +23,37 @@ std::string times(double width, double height) {
 } // namespace
 
 std::vector<StoredSlice> ImageCropper::store(const Image& image, InterfaceStyle style,
-                                             std::int64_t config) const {
+                                             StyleNumber number) const {
   screenResolution();
   // All slices go to the platform in one call, in the order of their writing, so that it can
   // encode several at once.
   std::vector<Slice> slices;
   slices.push_back(
-      {sliceFileName(config, rawValue(WidgetLocationImageNames::fullImage), style), image});
+      {sliceFileName(number, rawValue(WidgetLocationImageNames::fullImage), style), image});
   for (const WidgetFamily family :
        {WidgetFamily::small, WidgetFamily::medium, WidgetFamily::large}) {
-    std::vector<Slice> more = cut(image, family, style, config);
+    std::vector<Slice> more = cut(image, family, style, number);
     std::move(more.begin(), more.end(), std::back_inserter(slices));
   }
   std::vector<StoredSlice> stored = write(slices);
-  platform_.debugConsole.print("Storing at " + std::to_string(config) + "original");
+  platform_.debugConsole.print("Storing at " + std::to_string(number.value) + "original");
   platform_.widgetCenter.reloadAllTimelines();
   return stored;
 }
 
 std::vector<StoredSlice> ImageCropper::cropSmall(const Image& image, InterfaceStyle style,
-                                                 std::int64_t config) const {
-  return write(cut(image, WidgetFamily::small, style, config));
+                                                 StyleNumber number) const {
+  return write(cut(image, WidgetFamily::small, style, number));
 }
 
 std::vector<StoredSlice> ImageCropper::cropMedium(const Image& image, InterfaceStyle style,
-                                                  std::int64_t config) const {
-  return write(cut(image, WidgetFamily::medium, style, config));
+                                                  StyleNumber number) const {
+  return write(cut(image, WidgetFamily::medium, style, number));
 }
 
 std::vector<StoredSlice> ImageCropper::cropLarge(const Image& image, InterfaceStyle style,
-                                                 std::int64_t config) const {
-  return write(cut(image, WidgetFamily::large, style, config));
+                                                 StyleNumber number) const {
+  return write(cut(image, WidgetFamily::large, style, number));
 }
 
 std::vector<StoredSlice> ImageCropper::save(const Image& image, const std::string& name) const {
@@ -70,14 +70,13 @@ std::string ImageCropper::screenResolution() const {
 }
 
 std::vector<ImageCropper::Slice> ImageCropper::cut(const Image& image, WidgetFamily family,
-                                                   InterfaceStyle style,
-                                                   std::int64_t config) const {
+                                                   InterfaceStyle style, StyleNumber number) const {
   const WidgetMeasurements measurements = Measurements::current(platform_);
   std::vector<Slice> slices;
   for (const WidgetLocationImageNames slot : slots(family)) {
     auto part = image.cropped(slotRectangle(slot, measurements));
     if (!part) break;
-    slices.push_back({sliceFileName(config, rawValue(slot), style), *std::move(part)});
+    slices.push_back({sliceFileName(number, rawValue(slot), style), *std::move(part)});
   }
   return slices;
 }

@@ -27,14 +27,14 @@ class ImageCropper final {
   /// slots, then a reload of the widgets. The image is cut by the device's measurements whatever
   /// its size; a slot that lies outside it ends its family, not the others.
   std::vector<StoredSlice> store(const Image& image, InterfaceStyle style,
-                                 std::int64_t config) const;
+                                 StyleNumber number) const;
 
   std::vector<StoredSlice> cropSmall(const Image& image, InterfaceStyle style,
-                                     std::int64_t config) const;
+                                     StyleNumber number) const;
   std::vector<StoredSlice> cropMedium(const Image& image, InterfaceStyle style,
-                                      std::int64_t config) const;
+                                      StyleNumber number) const;
   std::vector<StoredSlice> cropLarge(const Image& image, InterfaceStyle style,
-                                     std::int64_t config) const;
+                                     StyleNumber number) const;
 
   /// Writes one image under the name with ".png" added.
   std::vector<StoredSlice> save(const Image& image, const std::string& name) const;
@@ -49,7 +49,7 @@ class ImageCropper final {
     Image image;
   };
   std::vector<Slice> cut(const Image& image, WidgetFamily family, InterfaceStyle style,
-                         std::int64_t config) const;
+                         StyleNumber number) const;
   std::vector<StoredSlice> write(const std::vector<Slice>& slices) const;
 
   const Platform& platform_;

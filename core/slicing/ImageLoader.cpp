@@ -6,7 +6,7 @@ namespace vitrelle {
 
 std::optional<Image> ImageLoader::loadSlice(std::string_view name, InterfaceStyle style,
                                             StyleNumber number) const {
-  return load(path(sliceFileName(number.value, name, style)));
+  return load(path(sliceFileName(number, name, style)));
 }
 
 std::optional<Image> ImageLoader::loadOverlay(RecordIndex index) const {

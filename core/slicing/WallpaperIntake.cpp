@@ -21,16 +21,17 @@ std::int64_t required(const std::optional<std::int64_t>& amount) {
   return *amount;
 }
 
-bool isStored(const Platform& platform, InterfaceStyle style, std::int64_t number) {
+bool isStored(const Platform& platform, InterfaceStyle style, StyleNumber number) {
   return ImageLoader(platform)
-      .loadSlice(rawValue(WidgetLocationImageNames::fullImage), style, StyleNumber{number})
+      .loadSlice(rawValue(WidgetLocationImageNames::fullImage), style, number)
       .has_value();
 }
 
 /// Whether the newest of so many styles has both its screenshots.
 bool newestIsComplete(const Platform& platform, std::int64_t amount) {
   if (amount == std::numeric_limits<std::int64_t>::min()) return false; // no number is less
-  return isStored(platform, lightStyle, amount - 1) && isStored(platform, darkStyle, amount - 1);
+  const StyleNumber newest{amount - 1};
+  return isStored(platform, lightStyle, newest) && isStored(platform, darkStyle, newest);
 }
 
 /// No style is in the making any more.
@@ -133,7 +134,7 @@ void ModernNewLightDark::tap(double x) {
   WallpaperIntake::tap(x);
   const auto amount = configAmount_.read();
   if (!amount || required(*amount) >= maxConfigAmount_) return;
-  inTheMaking_.set(styleNumber());
+  inTheMaking_.set(styleNumber().value);
   configAmount_.set(checkedAdd(**amount, 1));
 }
 
@@ -147,8 +148,8 @@ void ModernNewLightDark::disappear() {
   WallpaperIntake::disappear();
 }
 
-std::int64_t ModernNewLightDark::styleNumber() const {
-  return checkedAdd(maxConfigAmount_, -1);
+StyleNumber ModernNewLightDark::styleNumber() const {
+  return {checkedAdd(maxConfigAmount_, -1)};
 }
 
 void takeBackAbandonedStyle(const Platform& platform) {

@@ -41,7 +41,7 @@ class WallpaperIntake : public Screen {
   static constexpr std::array<WallpaperCell, 2> cells{
       {{lightStyle, "Light Mode", "sun.max.fill"}, {darkStyle, "Dark Mode", "moon.fill"}}};
   /// The style whose screenshots these are.
-  virtual std::int64_t styleNumber() const = 0;
+  virtual StyleNumber styleNumber() const = 0;
   /// Whether that style has a screenshot for the appearance.
   bool isSet(InterfaceStyle style) const;
 
@@ -96,7 +96,7 @@ class ModernNewLightDark final : public WallpaperIntake {
   void tap(double x) override;
   void disappear() override;
 
-  std::int64_t styleNumber() const override;
+  StyleNumber styleNumber() const override;
   /// The count of styles with the new one.
   std::int64_t maxConfigAmount() const { return maxConfigAmount_; }
 
@@ -108,13 +108,13 @@ class ModernNewLightDark final : public WallpaperIntake {
 
 class ModernChangeLightDark final : public WallpaperIntake {
  public:
-  ModernChangeLightDark(const Platform& platform, std::int64_t numberOfConfig)
+  ModernChangeLightDark(const Platform& platform, StyleNumber numberOfConfig)
       : WallpaperIntake(platform), numberOfConfig_(numberOfConfig) {}
 
-  std::int64_t styleNumber() const override { return numberOfConfig_; }
+  StyleNumber styleNumber() const override { return numberOfConfig_; }
 
  private:
-  std::int64_t numberOfConfig_;
+  StyleNumber numberOfConfig_;
 };
 
 /// For who holds the lock of the home, before a style is made: where a run ended in the midst of a

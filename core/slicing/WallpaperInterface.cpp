@@ -17,20 +17,20 @@ void WallpaperInterface::replaceShared(const Platform& platform,
 }
 
 std::optional<Image> WallpaperInterface::image(WidgetLocationImageNames location,
-                                               ColorScheme scheme, std::int64_t config) const {
-  return image(location, scheme == ColorScheme::dark ? darkStyle : lightStyle, config);
+                                               ColorScheme scheme, StyleNumber number) const {
+  return image(location, scheme == ColorScheme::dark ? darkStyle : lightStyle, number);
 }
 
 std::optional<Image> WallpaperInterface::image(WidgetLocationImageNames location,
-                                               InterfaceStyle style, std::int64_t config) const {
-  return ImageLoader(platform_).loadSlice(rawValue(location), style, StyleNumber{config});
+                                               InterfaceStyle style, StyleNumber number) const {
+  return ImageLoader(platform_).loadSlice(rawValue(location), style, number);
 }
 
 std::vector<StoredSlice> WallpaperInterface::setImage(const Image& image, InterfaceStyle style,
-                                                      std::int64_t config) {
+                                                      StyleNumber number) {
   if (style == darkStyle) darkImage_ = image;
   if (style == lightStyle) lightImage_ = image;
-  return ImageCropper(platform_).store(image, style, config);
+  return ImageCropper(platform_).store(image, style, number);
 }
 
 } // namespace vitrelle

@@ -22,13 +22,13 @@ class WallpaperInterface final {
 
   /// The stored slice of a slot; nothing when there is none.
   std::optional<Image> image(WidgetLocationImageNames location, ColorScheme scheme,
-                             std::int64_t config) const;
+                             StyleNumber number) const;
   std::optional<Image> image(WidgetLocationImageNames location, InterfaceStyle style,
-                             std::int64_t config) const;
+                             StyleNumber number) const;
 
   /// Remembers the screenshot (a style that is neither light nor dark is not remembered) and
   /// stores its slices.
-  std::vector<StoredSlice> setImage(const Image& image, InterfaceStyle style, std::int64_t config);
+  std::vector<StoredSlice> setImage(const Image& image, InterfaceStyle style, StyleNumber number);
 
   /// The last screenshots that were set, until the process ends.
   const std::optional<Image>& lightImage() const { return lightImage_; }

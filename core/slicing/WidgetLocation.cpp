@@ -65,8 +65,8 @@ std::optional<WidgetLocationImageNames> widgetLocation(std::string_view rawValue
   return std::nullopt;
 }
 
-std::string sliceFileName(std::int64_t config, std::string_view stem, InterfaceStyle style) {
-  std::string name = std::to_string(config);
+std::string sliceFileName(StyleNumber number, std::string_view stem, InterfaceStyle style) {
+  std::string name = std::to_string(number.value);
   name += stem;
   if (style == darkStyle) name += "Dark";
   return name + ".png";

@@ -3,6 +3,7 @@
 
 #include "core/platform/Image.h"
 #include "core/slicing/WidgetMeasurements.h"
+#include "core/store/Numbers.h"
 
 #include <cstdint>
 #include <optional>
@@ -41,7 +42,7 @@ inline constexpr InterfaceStyle lightStyle = 1;
 inline constexpr InterfaceStyle darkStyle = 2;
 
 /// Style number, stem, "Dark" for the dark style, and ".png": "3bottomRightSmallDark.png".
-std::string sliceFileName(std::int64_t config, std::string_view stem, InterfaceStyle style);
+std::string sliceFileName(StyleNumber number, std::string_view stem, InterfaceStyle style);
 
 enum class WidgetFamily { small, medium, large };
 

@@ -48,7 +48,8 @@ void RootScreen::showPage(int page) {
 
 void RootScreen::showStyle(int styleNumber) {
   const auto& styles = screen_.vitrelleConfigs();
-  const auto found = std::ranges::find(styles, styleNumber, &VitrelleConfigData::configNumber);
+  const auto found =
+      std::ranges::find(styles, StyleNumber{styleNumber}, &VitrelleConfigData::configNumber);
   if (found != styles.end()) showPage(static_cast<int>(found - styles.begin()));
 }
 

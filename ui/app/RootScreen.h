@@ -60,7 +60,7 @@ class RootScreen final : public QObject {
   /// Whether the start is one that decides about the launch.
   Q_INVOKABLE void appear(bool launches);
   Q_INVOKABLE void contentAppear() { screen_.contentAppear(); }
-  Q_INVOKABLE void select(int styleNumber) { screen_.selectConfig(styleNumber); }
+  Q_INVOKABLE void select(int styleNumber) { screen_.selectConfig({styleNumber}); }
   Q_INVOKABLE bool openWidgetCentre() { return screen_.openWidgetCentre(); }
   Q_INVOKABLE void dismissAlert() { screen_.dismissAlert(); }
   Q_INVOKABLE void drag(qreal translation);

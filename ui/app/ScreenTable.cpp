@@ -45,7 +45,7 @@ QVariantMap newStyle(Navigator& navigator, const OpenScreen&) {
 }
 
 QVariantMap changeStyle(Navigator& navigator, const OpenScreen& place) {
-  const std::int64_t number = place.style.value_or(StyleNumber{}).value;
+  const StyleNumber number = place.style.value_or(StyleNumber{});
   return intake(navigator, std::make_unique<ModernChangeLightDark>(navigator.platform(), number));
 }
 

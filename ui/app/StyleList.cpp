@@ -13,7 +13,7 @@ QVariant StyleList::data(const QModelIndex& index, int role) const {
   const Card& card = cards_[static_cast<std::size_t>(index.row())];
   switch (role) {
   case styleNumber:
-    return static_cast<int>(card.number);
+    return static_cast<int>(card.number.value);
   case selected:
     return card.selected;
   case revision:

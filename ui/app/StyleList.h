@@ -29,7 +29,7 @@ class StyleList final : public QAbstractListModel {
 
  private:
   struct Card {
-    std::int64_t number;
+    StyleNumber number;
     bool selected;
     VitrelleConfigData style;
     int revision; ///< of the pictures

@@ -16,8 +16,7 @@ namespace vitrelle::ui {
 namespace {
 
 std::optional<Image> find(const Platform& platform, const PictureName& name) {
-  return ImageLoader(platform).loadSlice(name.stem, name.dark ? darkStyle : lightStyle,
-                                         StyleNumber{name.style});
+  return ImageLoader(platform).loadSlice(name.stem, name.dark ? darkStyle : lightStyle, name.style);
 }
 
 QColorSpace colourSpace(const ColourProfile& profile) {

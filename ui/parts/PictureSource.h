@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/platform/Platform.h"
+#include "core/store/Numbers.h"
 
 #include <QCache>
 #include <QImage>
@@ -19,7 +20,7 @@ namespace vitrelle::ui {
 /// Which stored picture.
 struct PictureName {
   std::string stem; ///< "original", or a slot's
-  std::int64_t style = 0;
+  StyleNumber style = {};
   bool dark = false;
   bool operator==(const PictureName&) const = default;
 };

@@ -47,7 +47,7 @@ void StoredPicture::load() {
   update();
   if (!isComponentComplete() || width() <= 0 || height() <= 0) return;
   const QSize pixels = pixelSize();
-  Wish wish{{stem_.toStdString(), styleNumber_, dark_}, file_, standIn_, revision_, pixels};
+  Wish wish{{stem_.toStdString(), {styleNumber_}, dark_}, file_, standIn_, revision_, pixels};
   if (wish == wish_) return;
   const bool sameSize = wish.pixels == wish_.pixels;
   wish_ = std::move(wish);

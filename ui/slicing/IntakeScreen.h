@@ -48,7 +48,7 @@ class IntakeScreen final : public QObject {
   QString darkTitle() const { return text(WallpaperIntake::cells[1].title); }
   QString lightSymbol() const { return text(WallpaperIntake::cells[0].symbol); }
   QString darkSymbol() const { return text(WallpaperIntake::cells[1].symbol); }
-  int styleNumber() const { return static_cast<int>(screen_->styleNumber()); }
+  int styleNumber() const { return static_cast<int>(screen_->styleNumber().value); }
   int revision() const { return revision_; }
   bool isLightSet() const { return screen_->isSet(lightStyle); }
   bool isDarkSet() const { return screen_->isSet(darkStyle); }

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <string>
 
 namespace vitrelle::test {
 
@@ -22,6 +23,11 @@ class AppTest : public testing::Test {
     surroundings.use(platform);
     time.use(platform);
     battery.use(platform);
+    location.use(platform);
+    geocoder.use(platform);
+    weather.use(platform);
+    music.use(platform);
+    platform.identifiers.newUuid = [this] { return "id" + std::to_string(++ids_); };
     platform.bundle.identifier = [] { return std::optional<std::string>("com.example.program"); };
   }
 
@@ -35,7 +41,7 @@ class AppTest : public testing::Test {
     defaults.values(Suite::group).insert_or_assign(key, value);
   }
   void addOriginal(std::int64_t style, InterfaceStyle appearance) {
-    folder.images.insert_or_assign(sliceFileName(style, "original", appearance), screenshot);
+    folder.images.insert_or_assign(sliceFileName({style}, "original", appearance), screenshot);
   }
   void addStyle(std::int64_t style) {
     addOriginal(style, lightStyle);
@@ -53,7 +59,14 @@ class AppTest : public testing::Test {
   FakeSurroundings surroundings;
   FakeTime time;
   FakeBattery battery;
+  FakeLocation location;
+  FakeGeocoder geocoder;
+  FakeWeatherService weather;
+  FakeMusicPlayer music;
   Image screenshot = positionImage(1179, 2556);
+
+ private:
+  int ids_ = 0;
 };
 
 } // namespace vitrelle::test

@@ -23,7 +23,7 @@ class ModernContentViewTest : public test::AppTest {
   std::vector<std::int64_t> listed(const ModernContentView& root) const {
     std::vector<std::int64_t> numbers;
     for (const VitrelleConfigData& style : root.vitrelleConfigs())
-      numbers.push_back(style.configNumber);
+      numbers.push_back(style.configNumber.value);
     return numbers;
   }
 };
@@ -73,7 +73,7 @@ TEST_F(ModernContentViewTest, storeThatCannotBeRead_passesForNoKindOfRun) {
     EXPECT_FALSE(root.showOnboarding());
     EXPECT_FALSE(root.showsCreateCard()) << "a new style would be number 0";
     surroundings.felt.clear();
-    root.selectConfig(1);
+    root.selectConfig({1});
     EXPECT_EQ(surroundings.felt, std::vector<std::string>{"error"});
     root.openWidgetCentre();
     EXPECT_FALSE(root.showingAlert()) << "there are styles, as far as one can tell";
@@ -217,10 +217,10 @@ TEST_F(ModernContentViewTest, selecting_isFeltAndReloadsOnlyWhenItChanges) {
   ModernContentView root(platform);
   int changes = 0;
   const auto view = root.onChange([&] { ++changes; });
-  EXPECT_FALSE(root.isSelected(0)) << "without a stored choice no card is marked";
-  root.selectConfig(0);
-  root.selectConfig(0);
-  root.selectConfig(2);
+  EXPECT_FALSE(root.isSelected({0})) << "without a stored choice no card is marked";
+  root.selectConfig({0});
+  root.selectConfig({0});
+  root.selectConfig({2});
   EXPECT_EQ(surroundings.felt, (std::vector<std::string>{"success", "error", "success"}));
   EXPECT_EQ(console.reloads, 2);
   EXPECT_EQ(number("selectedConfig"), 2);

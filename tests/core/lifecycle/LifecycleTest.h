@@ -36,7 +36,7 @@ class LifecycleTest : public AppTest {
     defaults.values(Suite::group).insert_or_assign("savedTextWidgetData", Data{'[', '{'});
   }
   void addSlice(const std::string& stem, std::int64_t style, InterfaceStyle appearance) {
-    folder.images.insert_or_assign(sliceFileName(style, stem, appearance), positionImage(4, 4));
+    folder.images.insert_or_assign(sliceFileName({style}, stem, appearance), positionImage(4, 4));
   }
 };
 

@@ -34,7 +34,7 @@ class ImageCropperTest : public testing::Test {
 
 TEST_F(ImageCropperTest, store_writesTheWholeThenTheSlotsInOrder) {
   const Image screenshot = test::positionImage(1179, 2556);
-  const auto stored = cropper.store(screenshot, lightStyle, 0);
+  const auto stored = cropper.store(screenshot, lightStyle, {0});
   EXPECT_EQ(folder.written, twelve);
   EXPECT_EQ(stored.size(), 12U);
   EXPECT_EQ(folder.images.at("0original.png"), screenshot);
@@ -52,9 +52,9 @@ TEST_F(ImageCropperTest, store_writesTheWholeThenTheSlotsInOrder) {
 }
 
 TEST_F(ImageCropperTest, store_again_replacesAllAndSaysOriginalForTheDarkStyle) {
-  cropper.store(test::positionImage(1179, 2556), darkStyle, 7);
+  cropper.store(test::positionImage(1179, 2556), darkStyle, {7});
   const Image second = test::positionImage(1179, 2556);
-  cropper.store(second, darkStyle, 7);
+  cropper.store(second, darkStyle, {7});
   EXPECT_EQ(folder.images.size(), 12U);
   EXPECT_EQ(folder.images.at("7originalDark.png"), second);
   EXPECT_EQ(console.lines.back(), "Storing at 7original");
@@ -63,7 +63,7 @@ TEST_F(ImageCropperTest, store_again_replacesAllAndSaysOriginalForTheDarkStyle) 
 
 TEST_F(ImageCropperTest, smallScreenshot_endsAFamilyAtItsFirstFailedSlot) {
   // The right column and the bottom row lie outside; the middle row is cut off.
-  cropper.store(test::positionImage(600, 900), lightStyle, 0);
+  cropper.store(test::positionImage(600, 900), lightStyle, {0});
   EXPECT_EQ(folder.written,
             (std::vector<std::string>{"0original.png", "0topLeftSmall.png", "0topMedium.png",
                                       "0midMedium.png", "0topLarge.png", "0bottomLarge.png"}))
@@ -73,28 +73,28 @@ TEST_F(ImageCropperTest, smallScreenshot_endsAFamilyAtItsFirstFailedSlot) {
 
 TEST_F(ImageCropperTest, unmeasuredPhone_getsTheWholeOnly) {
   phone.machine = "iPhone17,1";
-  cropper.store(test::positionImage(1179, 2556), lightStyle, 0);
+  cropper.store(test::positionImage(1179, 2556), lightStyle, {0});
   EXPECT_EQ(folder.written, std::vector<std::string>{"0original.png"});
   EXPECT_EQ(console.reloads, 1);
 }
 
 TEST_F(ImageCropperTest, refusedWriteOrNoFolder_isSilentAndGoesOn) {
   folder.refused.insert("0topRightSmall.png");
-  const auto stored = cropper.store(test::positionImage(1179, 2556), lightStyle, 0);
+  const auto stored = cropper.store(test::positionImage(1179, 2556), lightStyle, {0});
   EXPECT_EQ(folder.written.size(), 11U);
   EXPECT_FALSE(stored[2].bytes.ok());
 
   folder.exists = false;
-  EXPECT_TRUE(cropper.store(test::positionImage(1179, 2556), lightStyle, 1).empty());
+  EXPECT_TRUE(cropper.store(test::positionImage(1179, 2556), lightStyle, {1}).empty());
   EXPECT_EQ(console.lines.back(), "Storing at 1original");
   EXPECT_EQ(console.reloads, 2);
 }
 
 TEST_F(ImageCropperTest, familiesAndSave_workAlone) {
   const Image screenshot = test::positionImage(1179, 2556);
-  cropper.cropLarge(screenshot, 3, 4);
-  cropper.cropMedium(screenshot, darkStyle, 4);
-  cropper.cropSmall(screenshot, lightStyle, 4);
+  cropper.cropLarge(screenshot, 3, {4});
+  cropper.cropMedium(screenshot, darkStyle, {4});
+  cropper.cropSmall(screenshot, lightStyle, {4});
   cropper.save(screenshot, "overlayImage4");
   EXPECT_EQ(folder.written.front(), "4topLarge.png");
   EXPECT_EQ(folder.written[2], "4topMediumDark.png");
@@ -119,16 +119,16 @@ TEST_F(ImageCropperTest, wallpaperInterface_remembersByStyleAndReadsBack) {
   EXPECT_EQ(wallpaper, WallpaperInterface::shared(platform));
   const Image light = test::positionImage(1179, 2556);
   const Image other = test::positionImage(1179, 2556);
-  wallpaper->setImage(light, lightStyle, 2);
+  wallpaper->setImage(light, lightStyle, {2});
   EXPECT_EQ(wallpaper->lightImage(), light);
   EXPECT_FALSE(wallpaper->darkImage());
-  wallpaper->setImage(other, 0, 2);
+  wallpaper->setImage(other, 0, {2});
   EXPECT_EQ(wallpaper->lightImage(), light) << "a style of no name is not remembered";
   using enum WidgetLocationImageNames;
-  EXPECT_EQ(wallpaper->image(fullImage, ColorScheme::light, 2), other) << "but stored as light";
-  EXPECT_FALSE(wallpaper->image(fullImage, ColorScheme::dark, 2)) << "nothing stands in for dark";
-  EXPECT_TRUE(wallpaper->image(largeBottom, InterfaceStyle{9}, 2));
-  EXPECT_FALSE(wallpaper->image(WidgetLocationImageNames::error, lightStyle, 2));
+  EXPECT_EQ(wallpaper->image(fullImage, ColorScheme::light, {2}), other) << "but stored as light";
+  EXPECT_FALSE(wallpaper->image(fullImage, ColorScheme::dark, {2})) << "nothing stands in for dark";
+  EXPECT_TRUE(wallpaper->image(largeBottom, InterfaceStyle{9}, {2}));
+  EXPECT_FALSE(wallpaper->image(WidgetLocationImageNames::error, lightStyle, {2}));
 
   const auto replacement = std::make_shared<WallpaperInterface>(platform);
   WallpaperInterface::replaceShared(platform, replacement);

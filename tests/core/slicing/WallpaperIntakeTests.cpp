@@ -18,7 +18,7 @@ TEST_F(WallpaperIntakeTest, newStyle_takesTheNextNumberAndStands) {
   ModernNewLightDark screen(platform);
   screen.appear();
   EXPECT_EQ(console.lines, (std::vector<std::string>{"2"}));
-  EXPECT_EQ(screen.styleNumber(), 2);
+  EXPECT_EQ(screen.styleNumber(), StyleNumber{2});
   EXPECT_EQ(number("amountOfConfigs"), 2);
 
   screen.tap(leftHalf);
@@ -166,7 +166,7 @@ TEST_F(WallpaperIntakeTest, whileAnotherProgramChangesStyles_pressesOnlyTryAgain
   others = Failure{"test", "let go"};
   screen.tap(leftHalf);
   EXPECT_FALSE(screen.obstacle());
-  EXPECT_EQ(screen.styleNumber(), 3);
+  EXPECT_EQ(screen.styleNumber(), StyleNumber{3});
   EXPECT_EQ(number("amountOfConfigs"), 4);
 }
 
@@ -202,7 +202,7 @@ TEST_F(WallpaperIntakeTest, cancelledPicker_leavesTheFilesAndReloads) {
 
 TEST_F(WallpaperIntakeTest, halvesOfTheScreen_areLightAndDark) {
   const ModernNewLightDark unused(platform);
-  ModernChangeLightDark screen(platform, 4);
+  ModernChangeLightDark screen(platform, {4});
   const std::pair<double, InterfaceStyle> cases[] = {
       {-5, lightStyle}, {196.4, lightStyle}, {196.5, darkStyle}, {500, darkStyle}};
   for (const auto& [x, style] : cases) {
@@ -212,7 +212,7 @@ TEST_F(WallpaperIntakeTest, halvesOfTheScreen_areLightAndDark) {
 }
 
 TEST_F(WallpaperIntakeTest, helpSheet_closesWithoutAPicture) {
-  ModernChangeLightDark screen(platform, 4);
+  ModernChangeLightDark screen(platform, {4});
   screen.appear();
   screen.present(ActiveSheet::perspectiveZoom);
   EXPECT_EQ(screen.activeSheet(), ActiveSheet::perspectiveZoom);
@@ -223,7 +223,7 @@ TEST_F(WallpaperIntakeTest, helpSheet_closesWithoutAPicture) {
 }
 
 TEST_F(WallpaperIntakeTest, changingAStyle_countsNothing) {
-  ModernChangeLightDark screen(platform, 4);
+  ModernChangeLightDark screen(platform, {4});
   screen.tap(rightHalf);
   screen.pick(screenshot);
   EXPECT_TRUE(folder.images.contains("4originalDark.png"));

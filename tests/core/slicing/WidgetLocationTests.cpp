@@ -23,12 +23,12 @@ TEST(WidgetLocation, rawValues_leadBackToTheirCases) {
 }
 
 TEST(WidgetLocation, sliceFileName_marksOnlyTheDarkStyle) {
-  EXPECT_EQ(sliceFileName(0, "original", lightStyle), "0original.png");
-  EXPECT_EQ(sliceFileName(3, rawValue(smallBottomRight), darkStyle), "3bottomRightSmallDark.png");
-  EXPECT_EQ(sliceFileName(12, rawValue(mediumMiddle), darkStyle), "12midMediumDark.png");
-  EXPECT_EQ(sliceFileName(1, "topLarge", 0), "1topLarge.png");
-  EXPECT_EQ(sliceFileName(1, "topLarge", 3), "1topLarge.png");
-  EXPECT_EQ(sliceFileName(-1, "topLarge", 3), "-1topLarge.png");
+  EXPECT_EQ(sliceFileName({0}, "original", lightStyle), "0original.png");
+  EXPECT_EQ(sliceFileName({3}, rawValue(smallBottomRight), darkStyle), "3bottomRightSmallDark.png");
+  EXPECT_EQ(sliceFileName({12}, rawValue(mediumMiddle), darkStyle), "12midMediumDark.png");
+  EXPECT_EQ(sliceFileName({1}, "topLarge", 0), "1topLarge.png");
+  EXPECT_EQ(sliceFileName({1}, "topLarge", 3), "1topLarge.png");
+  EXPECT_EQ(sliceFileName({-1}, "topLarge", 3), "-1topLarge.png");
 }
 
 TEST(WidgetLocation, slotRectangles_ofAPhone) {
