@@ -29,6 +29,7 @@ Shell::Shell(const Platform& platform, ShellOptions options)
       options_(std::move(options)),
       surroundings_(platform, options_.framed, options_.animated),
       notices_(this),
+      locationQuestion_(platform),
       navigator_(platform, notices_),
       root_(platform) {
   engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));

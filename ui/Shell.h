@@ -4,6 +4,7 @@
 #include "core/platform/Platform.h"
 #include "ui/app/Navigator.h"
 #include "ui/app/RootScreen.h"
+#include "ui/centre/LocationAnswer.h"
 #include "ui/lifecycle/FamilyWords.h"
 #include "ui/parts/Notices.h"
 #include "ui/parts/Surroundings.h"
@@ -32,6 +33,7 @@ class Shell final : public QObject {
   Q_PROPERTY(QString screen READ screen CONSTANT)
   Q_PROPERTY(bool launches READ isLaunch CONSTANT)
   Q_PROPERTY(vitrelle::ui::RootScreen* root READ root CONSTANT)
+  Q_PROPERTY(vitrelle::ui::LocationAnswer* locationQuestion READ locationQuestion CONSTANT)
   Q_PROPERTY(vitrelle::ui::Navigator* navigator READ navigator CONSTANT)
   /// The families whose styles can be made.
   Q_PROPERTY(QList<vitrelle::ui::FamilyWords> families READ families CONSTANT)
@@ -59,6 +61,7 @@ class Shell final : public QObject {
   QString screen() const { return options_.screen; }
   bool isLaunch() const { return options_.launches; }
   RootScreen* root() { return &root_; }
+  LocationAnswer* locationQuestion() { return &locationQuestion_; }
   Navigator* navigator() { return &navigator_; }
   QList<FamilyWords> families() const;
   bool canPaste() const;
@@ -88,6 +91,7 @@ class Shell final : public QObject {
   const ShellOptions options_;
   Surroundings surroundings_;
   Notices notices_;
+  LocationAnswer locationQuestion_;
   Navigator navigator_;
   RootScreen root_;
   QQuickWindow* window_ = nullptr; ///< the engine's

@@ -227,5 +227,69 @@
         <source></source>
         <translation>Jede Einstellung wird sofort gespeichert.</translation>
     </message>
+    <message id="app.location.question">
+        <source></source>
+        <translation>Darf Vitrelle Ihren Standort verwenden?</translation>
+    </message>
+    <message id="app.location.why">
+        <source></source>
+        <translation>Er wird für das Wetter an Ihrem Ort gebraucht. Nur der Wetterdienst erfährt ihn.</translation>
+    </message>
+    <message id="app.location.allow">
+        <source></source>
+        <translation>Beim Verwenden erlauben</translation>
+    </message>
+    <message id="app.location.deny">
+        <source></source>
+        <translation>Nicht erlauben</translation>
+    </message>
+    <message id="app.location.title">
+        <source></source>
+        <translation>Standort</translation>
+    </message>
+    <message id="app.location.permission">
+        <source></source>
+        <translation>Vitrelle darf Ihren Standort verwenden</translation>
+    </message>
+    <message id="app.location.never">
+        <source></source>
+        <translation>Nie</translation>
+    </message>
+    <message id="app.location.whenInUse">
+        <source></source>
+        <translation>Beim Verwenden</translation>
+    </message>
+    <message id="app.location.always">
+        <source></source>
+        <translation>Immer</translation>
+    </message>
+    <message id="app.location.source">
+        <source></source>
+        <translation>Woher er kommt</translation>
+    </message>
+    <message id="app.location.desktop">
+        <source></source>
+        <translation>Dieser Rechner</translation>
+    </message>
+    <message id="app.location.noDesktop">
+        <source></source>
+        <translation>Er hat keinen Ortungsdienst</translation>
+    </message>
+    <message id="app.location.place">
+        <source></source>
+        <translation>Ein fester Ort</translation>
+    </message>
+    <message id="app.location.none">
+        <source></source>
+        <translation>Von nirgends</translation>
+    </message>
+    <message id="app.location.search">
+        <source></source>
+        <translation>Eine Stadt suchen</translation>
+    </message>
+    <message id="app.location.unknown">
+        <source></source>
+        <translation>Keine Stadt dieses Namens ist bekannt.</translation>
+    </message>
 </context>
 </TS>

@@ -227,5 +227,69 @@
         <source></source>
         <translation>Every setting is saved at once.</translation>
     </message>
+    <message id="app.location.question">
+        <source></source>
+        <translation>Allow Vitrelle to use your location?</translation>
+    </message>
+    <message id="app.location.why">
+        <source></source>
+        <translation>It is used for the weather where you are. It is sent to the weather service and to nobody else.</translation>
+    </message>
+    <message id="app.location.allow">
+        <source></source>
+        <translation>Allow While Using</translation>
+    </message>
+    <message id="app.location.deny">
+        <source></source>
+        <translation>Don’t Allow</translation>
+    </message>
+    <message id="app.location.title">
+        <source></source>
+        <translation>Location</translation>
+    </message>
+    <message id="app.location.permission">
+        <source></source>
+        <translation>Vitrelle may use your location</translation>
+    </message>
+    <message id="app.location.never">
+        <source></source>
+        <translation>Never</translation>
+    </message>
+    <message id="app.location.whenInUse">
+        <source></source>
+        <translation>While it is used</translation>
+    </message>
+    <message id="app.location.always">
+        <source></source>
+        <translation>Always</translation>
+    </message>
+    <message id="app.location.source">
+        <source></source>
+        <translation>Where it comes from</translation>
+    </message>
+    <message id="app.location.desktop">
+        <source></source>
+        <translation>This computer</translation>
+    </message>
+    <message id="app.location.noDesktop">
+        <source></source>
+        <translation>It has no location service</translation>
+    </message>
+    <message id="app.location.place">
+        <source></source>
+        <translation>A fixed place</translation>
+    </message>
+    <message id="app.location.none">
+        <source></source>
+        <translation>Nowhere</translation>
+    </message>
+    <message id="app.location.search">
+        <source></source>
+        <translation>Search for a town</translation>
+    </message>
+    <message id="app.location.unknown">
+        <source></source>
+        <translation>No town of that name is known.</translation>
+    </message>
 </context>
 </TS>

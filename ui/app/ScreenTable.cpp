@@ -3,6 +3,7 @@
 #include "core/families/Families.h"
 #include "ui/app/Navigator.h"
 #include "ui/centre/DateTextScreen.h"
+#include "ui/centre/LocationScreen.h"
 #include "ui/centre/SolidBackgroundScreen.h"
 #include "ui/lifecycle/FamilyScreen.h"
 #include "ui/pickers/FontScreen.h"
@@ -104,6 +105,7 @@ std::vector<ScreenEntry> makeTable() {
       {"SFSymbolsPicker", "SymbolTrialPage", nothing},
       {"CustomDateTextView", "DateTextPage", screenOver<DateTextScreen>},
       {"SolidBackgroundView", "SolidBackgroundPage", screenOver<SolidBackgroundScreen>},
+      {"LocationSettingsView", "LocationSettingsPage", screenOver<LocationScreen>},
   };
   for (const FamilyDescription& words : familyTable) {
     const StyleFamily& family = styleFamily(words.name);

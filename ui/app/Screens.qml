@@ -36,8 +36,8 @@ FocusScope {
 
     KeysKeeper {
         id: keys
-        overlay: alert
-        covered: Shell.root.showingAlert
+        overlay: over
+        covered: Shell.root.showingAlert || Shell.locationQuestion.shown
     }
     ScreenStack {
         id: stack
@@ -54,13 +54,26 @@ FocusScope {
                 page.opened.connect(screens.open);
         }
     }
-    AlertBox {
-        id: alert
-        objectName: "alert"
-        title: Shell.root.alertTitle
-        message: Shell.root.alertMessage
-        shown: Shell.root.showingAlert
-        onDismissed: Shell.root.dismissAlert()
+    Item {
+        id: over
+        anchors.fill: parent
+
+        AlertBox {
+            objectName: "alert"
+            title: Shell.root.alertTitle
+            message: Shell.root.alertMessage
+            shown: Shell.root.showingAlert
+            onDismissed: Shell.root.dismissAlert()
+        }
+        AlertBox {
+            objectName: "locationQuestion"
+            title: qsTrId("app.location.question")
+            message: qsTrId("app.location.why")
+            choices: [qsTrId("app.location.allow"), qsTrId("app.location.deny")]
+            shown: Shell.locationQuestion.shown
+            onChosen: index => index === 0 ? Shell.locationQuestion.allow() : Shell.locationQuestion.deny()
+            onDismissed: Shell.locationQuestion.dismiss()
+        }
     }
     NoticeBar {}
 }

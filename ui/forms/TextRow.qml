@@ -10,6 +10,10 @@ Panel {
 
     signal edited(string now)
 
+    function takeKeys() {
+        field.forceActiveFocus();
+    }
+
     Label {
         anchors.fill: field
         verticalAlignment: Text.AlignVCenter

@@ -1,4 +1,4 @@
-// A question or a refusal over the whole screen, with one way out.
+// A question or a refusal over the whole screen.
 import QtQuick
 import Vitrelle
 
@@ -7,9 +7,17 @@ FocusScope {
 
     required property string title
     required property string message
+    property list<string> choices: ["OK"] // the first has the keys at the start
     property bool shown: false
 
+    signal chosen(int index)
+    /// By Escape too, which chooses nothing.
     signal dismissed
+
+    function choose(index: int) {
+        chosen(index);
+        dismissed();
+    }
 
     function goBack() {
         dismissed();
@@ -19,7 +27,7 @@ FocusScope {
     visible: opacity > 0
     opacity: shown ? 1 : 0
     enabled: shown
-    onShownChanged: if (shown) button.forceActiveFocus()
+    onShownChanged: if (shown) buttons.itemAt(0).forceActiveFocus()
     Keys.onEscapePressed: dismissed()
     Keys.onBackPressed: dismissed()
 
@@ -36,7 +44,7 @@ FocusScope {
         id: box
         anchors.centerIn: parent
         width: 270
-        height: words.height + button.height + 39
+        height: words.height + answers.height + 39
         radius: 14
         colour: Theme.card
         Accessible.role: Accessible.AlertMessage
@@ -67,29 +75,45 @@ FocusScope {
                 text: alert.message
             }
         }
-        Rectangle {
-            anchors.bottom: button.top
-            width: parent.width
-            height: 1 / Screen.devicePixelRatio
-            color: Qt.rgba(1, 1, 1, 0.2)
-        }
-        Pressable {
-            id: button
-            objectName: "alertButton"
+        Column {
+            id: answers
             anchors.bottom: parent.bottom
             width: parent.width
-            height: 44
-            focus: true
-            ringed: false // there is no other
-            name: "OK"
-            onPressed: alert.dismissed()
 
-            Label {
-                anchors.centerIn: parent
-                spoken: false
-                text: button.name
-                color: Theme.accent
-                font.bold: true
+            Repeater {
+                id: buttons
+                model: alert.choices
+
+                Pressable {
+                    id: button
+
+                    required property int index
+                    required property string modelData
+
+                    objectName: index === 0 ? "alertButton" : "alertButton" + index
+                    width: answers.width
+                    height: 44
+                    focus: index === 0
+                    focusRadius: 12
+                    ringed: alert.choices.length > 1 // else there is no other
+                    name: modelData
+                    onPressed: alert.choose(index)
+                    Keys.onUpPressed: if (index > 0) buttons.itemAt(index - 1).forceActiveFocus()
+                    Keys.onDownPressed: if (index < buttons.count - 1) buttons.itemAt(index + 1).forceActiveFocus()
+
+                    Rectangle {
+                        width: parent.width
+                        height: 1 / Screen.devicePixelRatio
+                        color: Qt.rgba(1, 1, 1, 0.2)
+                    }
+                    Label {
+                        anchors.centerIn: parent
+                        spoken: false
+                        text: button.name
+                        color: Theme.accent
+                        font.bold: button.index === 0
+                    }
+                }
             }
         }
     }
