@@ -218,6 +218,21 @@ void addDrawing(CLI::App& command, const std::shared_ptr<Sheet>& sheet, CommandC
   });
 }
 
+/// The platform without a way to change its stores.
+Platform readingOnly(Platform platform) {
+  platform.defaults.set = [](Suite, const std::string&, const StoreValue&) { return success(); };
+  return platform;
+}
+
+/// A family that lives while it is drawn, whatever its life would store.
+struct Alive {
+  Alive(const Platform& whole, const StyleFamily& family)
+      : platform(readingOnly(whole)), life(family.live(platform, [] {})) {}
+
+  Platform platform;
+  Subscription life;
+};
+
 void addFamilyFace(CLI::App& face, const StyleFamily& family, CommandContext& context) {
   const auto sheet = std::make_shared<Sheet>();
   const auto chosen = std::make_shared<Chosen>(Chosen{.family = &family});
@@ -237,7 +252,7 @@ void addFamilyFace(CLI::App& face, const StyleFamily& family, CommandContext& co
              [sheet, chosen, &family](const Platform& platform) -> Result<Drawn> {
                const auto record = chosenRecord(platform, *chosen);
                if (!record) return record.failure();
-               const auto alive = std::make_shared<Subscription>(family.live(platform, [] {}));
+               const auto alive = std::make_shared<Alive>(platform, family);
                return Drawn{
                    .face =
                        [&platform, &family, record = *record, alive](const PointSize& frame) {

@@ -3,6 +3,7 @@
 #include "core/families/battery/BatteryFamily.h"
 #include "core/families/clock/ClockFamily.h"
 #include "core/families/text/TextFamily.h"
+#include "core/families/weather/WeatherFamily.h"
 #include "core/platform/FatalError.h"
 
 #include <array>
@@ -30,7 +31,7 @@ const StyleFamily& styleFamily(std::string_view name) {
   static const FacelessFamily music("music");
   static const FacelessFamily image("image");
   static const BatteryFamily battery;
-  static const FacelessFamily weather("weather");
+  static const WeatherFamily weather;
   static const ClockFamily clock;
   static const std::array<const StyleFamily*, 6> all{&text,    &music,   &image,
                                                      &battery, &weather, &clock};

@@ -29,6 +29,7 @@ const std::array<FamilyDescription, 6> familyTable{{
      .assignRefusal = "This Vitrelle Style already has a Text Style linked to it, please pick "
                       "another Vitrelle Style."},
     {.name = "music",
+     .gateScreen = "AlphaViewForNowPlaying",
      .entryScreen = "CustomNowPlayingView",
      .stylesScreen = "",
      .setupScreen = "CustomNowPlayingConfig",
@@ -89,6 +90,7 @@ const std::array<FamilyDescription, 6> familyTable{{
      .assignRefusal = "This Vitrelle Style already has a Battery Style linked to it, please pick "
                       "another Vitrelle Style."},
     {.name = "weather",
+     .gateScreen = "AlphaWeatherView",
      .entryScreen = "CustomWeatherView",
      .stylesScreen = "CustomWeatherStylesView",
      .setupScreen = "CustomWeatherStylesEditorView",

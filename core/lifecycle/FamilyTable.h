@@ -14,6 +14,7 @@ inline constexpr std::size_t maximumWidgetStyles = 12;
 struct FamilyDescription {
   std::string_view name; ///< as in the store's table
 
+  std::string_view gateScreen = {}; ///< before the entry, where there is one
   std::string_view entryScreen;
   std::string_view stylesScreen; ///< on the way to the setup, where there is one
   std::string_view setupScreen;
@@ -36,6 +37,11 @@ struct FamilyDescription {
   /// Of the second step's screen; most edit colours there.
   std::string_view secondTitle = "Edit Colours";
   std::string_view secondSymbol = "paintpalette.fill";
+
+  /// The screen with which the way into the family begins.
+  constexpr std::string_view firstScreen() const {
+    return gateScreen.empty() ? entryScreen : gateScreen;
+  }
 };
 
 /// In the order of the store's table. Music speaks of weather, and Text links a time: the words

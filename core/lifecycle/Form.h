@@ -25,6 +25,7 @@ enum class FormControl {
   toggle,     ///< a bool
   colourWell, ///< a colour
   segments,   ///< one of several values, each with a symbol
+  note,       ///< words and a symbol, without a value
 };
 
 constexpr bool isPickedOnSheet(FormControl control) {
@@ -49,13 +50,14 @@ struct FormOption {
 struct FormRow {
   std::string_view title;
   FormControl control = FormControl::toggle;
-  std::function<FormValue(const StyleDraft&)> get = {};
-  /// A value of another kind than the row's changes nothing.
+  std::function<FormValue(const StyleDraft&)> get = {}; ///< none for a note
+  /// A value of another kind than the row's changes nothing. None for a note.
   std::function<void(StyleDraft&, const FormValue&)> set = {};
   std::function<bool(const StyleDraft&)> shown = {}; ///< always, when it is empty
   NumberRange range = {};
   std::vector<FormOption> options = {};
   std::string_view label = {};  ///< of a choice; spoken, not shown
+  std::string_view symbol = {}; ///< of a note
   bool isBehindDivider = false; ///< a line sets it apart from the row above
 };
 
@@ -83,6 +85,10 @@ FormRow choiceOver(std::string_view title, std::string_view label, std::int64_t 
   row.label = label;
   row.options = std::move(options);
   return row;
+}
+
+inline FormRow note(std::string_view symbol, std::string_view words) {
+  return {.title = words, .control = FormControl::note, .symbol = symbol};
 }
 
 /// The same row, where the condition holds.

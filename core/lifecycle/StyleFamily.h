@@ -5,10 +5,13 @@
 #include "core/drawing/View.h"
 #include "core/lifecycle/FamilyTable.h"
 #include "core/lifecycle/Form.h"
+#include "core/lifecycle/Gate.h"
 #include "core/lifecycle/StyleDraft.h"
 #include "core/platform/Platform.h"
 
 #include <functional>
+#include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -16,8 +19,9 @@
 
 namespace vitrelle {
 
-/// Where a face is shown, since some are laid out by that.
-enum class FaceUse { setup, second, gallery, assign, preview, widget };
+/// Where a face is shown, since some are laid out by that. A widget is the small one, a wide widget
+/// any that is wider.
+enum class FaceUse { setup, second, gallery, assign, preview, widget, wideWidget };
 
 enum class EditorStep { setup, second };
 
@@ -29,6 +33,12 @@ struct StyleKind {
   std::string_view pickedStyle; ///< as the screens pass it on
   std::string_view caption;
   View (*sample)(const Platform& platform);
+};
+
+/// A line at the foot of a page that leads out of the application.
+struct FootLink {
+  std::string_view words = {};
+  void (*press)(const Platform& platform) = nullptr;
 };
 
 class StyleFamily {
@@ -54,11 +64,14 @@ class StyleFamily {
   /// Where on a page of the preview, as large as told, the face lies.
   virtual PointRect previewBox(const Platform& platform, const PointSize& page) const;
 
+  /// What is passed before the entry; null where nothing is.
+  virtual std::unique_ptr<Gate> gate(const Platform&) const { return nullptr; }
   /// Whether its styles can be made and changed; all other screens are there for every family.
   virtual bool hasEditor() const { return true; }
   /// Chosen between the entry and the form, if there are any.
   virtual std::span<const StyleKind> kinds() const { return {}; }
-
+  /// Below them.
+  virtual std::optional<FootLink> kindsFoot() const { return std::nullopt; }
   /// Which of them a record is of.
   virtual std::string kindOf(const StyleRecord&) const { return {}; }
 

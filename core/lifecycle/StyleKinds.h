@@ -4,6 +4,7 @@
 #include "core/lifecycle/StyleFamily.h"
 #include "core/platform/Screen.h"
 
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -24,6 +25,9 @@ class StyleKinds final : public Screen {
   PointSize sampleSize() const;
   /// The live sample of one of the kinds.
   DisplayList sample(const StyleKind& kind) const;
+  /// Below them, and only where the family has such a line.
+  std::optional<FootLink> foot() const { return family_.kindsFoot(); }
+  void pressFoot() const;
 
  private:
   const Platform& platform_;

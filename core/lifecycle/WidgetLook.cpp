@@ -20,6 +20,8 @@ std::optional<StyleRecord> shownRecord(const Platform& platform, const StyleFami
 
 DisplayList widgetFace(const Platform& platform, const StyleFamily& family,
                        const StyleRecord& record, const PointSize& size, FaceUse use) {
+  const bool isWide = size.width > platform.device.screenBounds().width / 2;
+  if (use == FaceUse::widget && isWide) use = FaceUse::wideWidget;
   return layOut(family.face(platform, record, use), size, platform.drawing);
 }
 

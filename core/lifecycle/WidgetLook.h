@@ -13,7 +13,8 @@ namespace vitrelle {
 /// use, else the family's chosen one, else its first. None of a family without any.
 std::optional<StyleRecord> shownRecord(const Platform& platform, const StyleFamily& family);
 
-/// The record's face in the middle of a widget of the size, in points.
+/// The record's face in the middle of a widget of the size, in points. More than half the screen is
+/// the size of a wide one.
 DisplayList widgetFace(const Platform& platform, const StyleFamily& family,
                        const StyleRecord& record, const PointSize& size,
                        FaceUse use = FaceUse::widget);

@@ -6,6 +6,7 @@
 #include "ui/centre/LocationScreen.h"
 #include "ui/centre/SolidBackgroundScreen.h"
 #include "ui/lifecycle/FamilyScreen.h"
+#include "ui/lifecycle/GateScreen.h"
 #include "ui/pickers/FontScreen.h"
 #include "ui/slicing/IntakeScreen.h"
 
@@ -60,6 +61,14 @@ QVariantMap storedFontOf(Navigator& navigator, const OpenScreen& place) {
           {QStringLiteral("fonts"), handedOver(fonts)}};
 }
 
+ScreenEntry gateEntry(const StyleFamily& family) {
+  return {
+      std::string(family.words().gateScreen), "GatePage",
+      [&family](Navigator& navigator, const OpenScreen&) -> QVariantMap {
+        return {{QStringLiteral("gate"), handedOver(new GateScreen(navigator.platform(), family))}};
+      }};
+}
+
 struct FamilyPage {
   std::string_view FamilyDescription::*typeName;
   std::optional<FlowStart> start; ///< none for the entry, which leads to the others
@@ -109,6 +118,7 @@ std::vector<ScreenEntry> makeTable() {
   };
   for (const FamilyDescription& words : familyTable) {
     const StyleFamily& family = styleFamily(words.name);
+    if (!words.gateScreen.empty() && family.hasEditor()) table.push_back(gateEntry(family));
     for (const FamilyPage& page : familyPages) {
       const bool isThere = !(words.*page.typeName).empty();
       if (isThere && (family.hasEditor() || !page.needsEditor))

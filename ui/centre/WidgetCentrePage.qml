@@ -30,7 +30,7 @@ Page {
                 focus: index === 0
                 focusRadius: 22
                 name: modelData.entryTitle
-                onPressed: page.opened(modelData.entryScreen)
+                onPressed: page.opened(modelData.firstScreen)
 
                 Panel {
                     anchors.fill: parent

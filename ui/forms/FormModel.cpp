@@ -22,6 +22,7 @@ enum Role {
   chosenRole,
   labelRole,
   dividedRole,
+  symbolRole,
 };
 
 QVariantList qOptions(const FormRow& row) {
@@ -95,6 +96,8 @@ QVariant FormModel::data(const QModelIndex& index, int role) const {
     return qText(row.label);
   case dividedRole:
     return row.isBehindDivider;
+  case symbolRole:
+    return qText(row.symbol);
   default:
     return {};
   }
@@ -103,7 +106,8 @@ QVariant FormModel::data(const QModelIndex& index, int role) const {
 QHash<int, QByteArray> FormModel::roleNames() const {
   return {{titleRole, "title"},   {controlRole, "control"}, {valueRole, "value"},
           {lowestRole, "lowest"}, {highestRole, "highest"}, {optionsRole, "options"},
-          {chosenRole, "chosen"}, {labelRole, "label"},     {dividedRole, "divided"}};
+          {chosenRole, "chosen"}, {labelRole, "label"},     {dividedRole, "divided"},
+          {symbolRole, "symbol"}};
 }
 
 const ShownRow* FormModel::rowAt(int index) const {
@@ -174,6 +178,8 @@ QString controlName(FormControl control) {
     return QStringLiteral("colourWell");
   case FormControl::segments:
     return QStringLiteral("segments");
+  case FormControl::note:
+    return QStringLiteral("note");
   }
   return {};
 }

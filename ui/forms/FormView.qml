@@ -29,6 +29,7 @@ Column {
             required property int chosen
             required property string label
             required property bool divided
+            required property string symbol
 
             spacing: form.spacing
 
@@ -50,7 +51,8 @@ Column {
                     "stepper": stepperRow,
                     "toggle": toggleRow,
                     "colourWell": colourRow,
-                    "segments": segmentsRow
+                    "segments": segmentsRow,
+                    "note": noteRow
                 })[row.control]
             }
             Component {
@@ -119,6 +121,13 @@ Column {
                     options: row.options
                     chosen: row.chosen
                     onChose: option => form.rows.choose(row.index, option)
+                }
+            }
+            Component {
+                id: noteRow
+                NoteRow {
+                    symbol: row.symbol
+                    words: row.title
                 }
             }
         }

@@ -17,7 +17,8 @@ struct FamilyWords {
   Q_GADGET
   QML_VALUE_TYPE(familyWords)
   Q_PROPERTY(QString name MEMBER name CONSTANT)
-  Q_PROPERTY(QString entryScreen MEMBER entryScreen CONSTANT)
+  /// Which leads into the family.
+  Q_PROPERTY(QString firstScreen MEMBER firstScreen CONSTANT)
   Q_PROPERTY(QString entryTitle MEMBER entryTitle CONSTANT)
   Q_PROPERTY(QString entrySymbol MEMBER entrySymbol CONSTANT)
   Q_PROPERTY(QString galleryTitle MEMBER galleryTitle CONSTANT)
@@ -29,7 +30,7 @@ struct FamilyWords {
  public:
   explicit FamilyWords(const FamilyDescription& words)
       : name(qText(words.name)),
-        entryScreen(qText(words.entryScreen)),
+        firstScreen(qText(words.firstScreen())),
         entryTitle(qText(words.entryTitle)),
         entrySymbol(qText(words.entrySymbol)),
         galleryTitle(qText(words.galleryTitle)),
@@ -40,7 +41,7 @@ struct FamilyWords {
   FamilyWords() = default;
 
   QString name;
-  QString entryScreen;
+  QString firstScreen;
   QString entryTitle;
   QString entrySymbol;
   QString galleryTitle;

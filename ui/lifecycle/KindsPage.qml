@@ -61,4 +61,15 @@ SheetPage {
             }
         }
     }
+    Loader {
+        anchors.horizontalCenter: parent.horizontalCenter
+        active: page.screen.foot !== ""
+        sourceComponent: TextLink {
+            objectName: "kindsFoot"
+            name: page.screen.foot
+            textSize: 13
+            colour: Theme.quietSymbol
+            onPressed: page.screen.pressFoot()
+        }
+    }
 }

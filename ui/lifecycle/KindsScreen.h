@@ -20,6 +20,8 @@ class KindsScreen : public vitrelle::ui::StyleScreen {
   Q_PROPERTY(QStringList captions READ captions CONSTANT)
   /// The live samples, in the same order.
   Q_PROPERTY(QList<vitrelle::ui::Face> samples READ samples NOTIFY changed)
+  /// The line below them; empty where there is none.
+  Q_PROPERTY(QString foot READ foot CONSTANT)
   Q_PROPERTY(qreal sampleWidth READ sampleWidth CONSTANT)
   Q_PROPERTY(qreal sampleHeight READ sampleHeight CONSTANT)
 
@@ -41,6 +43,11 @@ class KindsScreen : public vitrelle::ui::StyleScreen {
       samples += Face::of(screen_->sample(kind));
     return samples;
   }
+  /// Without the platform's logo, which no face here has.
+  QString foot() const {
+    return qText(screen_->foot().value_or(FootLink{}).words).remove(QChar(0xF8FF));
+  }
+  Q_INVOKABLE void pressFoot() const { screen_->pressFoot(); }
   qreal sampleWidth() const { return screen_->sampleSize().width; }
   qreal sampleHeight() const { return screen_->sampleSize().height; }
 

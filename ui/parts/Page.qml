@@ -8,6 +8,7 @@ FocusScope {
     property string title
     property string backTitle: "Back"
     property bool hasBack: true
+    property bool black: false // the ground, else in the program's colours
     property bool covered: false // by what lies above it and takes the keys
     default property alias content: body.data
     property alias overlay: over.data // above everything else
@@ -26,8 +27,8 @@ FocusScope {
     Rectangle {
         anchors.fill: parent
         gradient: Gradient {
-            GradientStop { position: 0; color: Theme.screenTop }
-            GradientStop { position: 1; color: Theme.screenBottom }
+            GradientStop { position: 0; color: page.black ? "black" : Theme.screenTop }
+            GradientStop { position: 1; color: page.black ? "black" : Theme.screenBottom }
         }
     }
     Item {

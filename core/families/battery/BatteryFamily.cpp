@@ -35,6 +35,7 @@ double side(const Platform& platform, FaceUse use) {
   case FaceUse::gallery:
   case FaceUse::preview:
   case FaceUse::widget:
+  case FaceUse::wideWidget:
     return width / 3.5;
   }
   return 0;

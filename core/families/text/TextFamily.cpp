@@ -27,6 +27,7 @@ View TextFamily::face(const Platform& platform, const StyleRecord& record, FaceU
     return padded(words, {inset, inset, inset, inset});
   case FaceUse::preview:
   case FaceUse::widget:
+  case FaceUse::wideWidget:
     return words;
   case FaceUse::setup:
   case FaceUse::second:
