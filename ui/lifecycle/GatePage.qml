@@ -167,6 +167,7 @@ Page {
         }
     }
     overlay: Loader {
+        id: entry
         anchors.fill: parent
         active: page.gate.family !== null
         focus: active
@@ -175,6 +176,6 @@ Page {
             family: page.gate.family
             onClosed: page.closed()
         }
-        onLoaded: if (page.activeFocus) item.forceActiveFocus()
+        onLoaded: if (page.activeFocus) entry.forceActiveFocus()
     }
 }
