@@ -20,6 +20,7 @@ inline host::HostOptions hostOptions(const Options& options) {
       .dark = options.appearance == Appearance::dark,
       .now = options.now ? std::optional(momentOf(*options.now)) : std::nullopt,
       .battery = options.battery,
+      .weatherUrl = options.weatherUrl,
       .verbose = options.verbose};
 }
 

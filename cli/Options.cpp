@@ -8,6 +8,7 @@
 #include <cctype>
 #include <charconv>
 #include <cstdlib>
+#include <string_view>
 
 namespace vitrelle::cli {
 
@@ -82,6 +83,19 @@ float takeBattery(const char* name, const std::string& text) {
   return static_cast<float>(*level);
 }
 
+/// An address that begins as one of the web and names a server, without blanks and the like.
+std::string takeWebAddress(const char* name, const std::string& text) {
+  for (const std::string_view scheme : {"https://", "http://"}) {
+    if (!text.starts_with(scheme)) continue;
+    const std::string_view rest = std::string_view(text).substr(scheme.size());
+    const bool namesServer =
+        !rest.empty() && std::isalnum(static_cast<unsigned char>(rest[0])) != 0;
+    const bool isPlain = std::ranges::all_of(rest, [](char c) { return c > ' ' && c <= '~'; });
+    if ((namesServer || rest.starts_with('[')) && isPlain) return text;
+  }
+  throw CLI::ValidationError(name, "'" + text + "' is no address such as https://example.org/path");
+}
+
 } // namespace
 
 void addOptions(CLI::App& program, Options& options) {
@@ -153,6 +167,16 @@ void addOptions(CLI::App& program, Options& options) {
           "Take the battery to be so full, from 0 to 1, or -1 for unknown ($VITRELLE_BATTERY)")
       ->type_name("LEVEL")
       ->group(group);
+  program
+      .add_option_function<std::string>(
+          "--weather-url",
+          [&](const std::string& text) {
+            options.weatherUrl = takeWebAddress("--weather-url", text);
+          },
+          "Ask this service for the weather, one that answers as api.met.no does "
+          "($VITRELLE_WEATHER_URL)")
+      ->type_name("URL")
+      ->group(group);
   program.add_flag("--verbose", options.verbose, "Show the debug console on stderr")->group(group);
 }
 
@@ -174,6 +198,9 @@ void readEnvironment(Options& options) {
   }
   if (const auto text = environment("VITRELLE_BATTERY"); text && !options.battery) {
     options.battery = takeBattery("VITRELLE_BATTERY", *text);
+  }
+  if (const auto text = environment("VITRELLE_WEATHER_URL"); text && !options.weatherUrl) {
+    options.weatherUrl = takeWebAddress("VITRELLE_WEATHER_URL", *text);
   }
   // The host reads VITRELLE_HOME.
 }

@@ -19,8 +19,9 @@ struct Options {
   std::optional<OsVersion> os;
   std::optional<bool> zoomed;
   std::optional<Appearance> appearance;
-  std::optional<ToldTime> now;  ///< at which the time stands still
-  std::optional<float> battery; ///< as full as it is taken to be, from 0 to 1; or -1
+  std::optional<ToldTime> now;           ///< at which the time stands still
+  std::optional<float> battery;          ///< as full as it is taken to be, from 0 to 1; or -1
+  std::optional<std::string> weatherUrl; ///< of another weather service of the same kind
   bool verbose = false;
 
   /// Whether --standard stood on the command line, which `defaults` takes for its own.

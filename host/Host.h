@@ -7,6 +7,7 @@
 #include "host/phone/PhoneSettings.h"
 
 #include <optional>
+#include <string>
 
 namespace vitrelle::host {
 
@@ -17,6 +18,8 @@ struct HostOptions {
   /// What is taken for the present moment and for the battery's level, instead of the real ones.
   std::optional<Date> now = {};
   std::optional<float> battery = {};
+  /// The weather service's address, instead of the real one's.
+  std::optional<std::string> weatherUrl = {};
   /// How long another program's lock on a store is waited for, in milliseconds.
   int storePatience = 5000;
   bool verbose = false; ///< the debug console goes to stderr, else nowhere

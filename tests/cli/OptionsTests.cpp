@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace vitrelle::cli {
 namespace {
@@ -58,14 +60,19 @@ TEST(Times, otherTexts_areNone) {
 
 class ToldWorldTest : public test::ProgramTest {
  protected:
-  /// What a program with these words on its command line takes for its world.
-  Platform platformOf(std::vector<std::string> words) {
+  /// What a program with these words on its command line is told.
+  static Options optionsOf(std::vector<std::string> words) {
     std::reverse(words.begin(), words.end()); // as the parser wants them
     CLI::App program;
     Options options;
     addOptions(program, options);
     program.parse(words);
     readEnvironment(options);
+    return options;
+  }
+  /// What it takes for its world then.
+  Platform platformOf(std::vector<std::string> words) {
+    Options options = optionsOf(std::move(words));
     options.home = home();
     return hostPlatform(options, loop.operations()).value();
   }
@@ -95,6 +102,19 @@ TEST_F(ToldWorldTest, battery_isAsFullWhetherItIsMonitoredOrNot) {
     const Subscription watch = battery.watch([&](float now) { told = now; });
     EXPECT_EQ(told, level) << text;
   }
+}
+
+TEST_F(ToldWorldTest, weatherService_hasAnAddressOfTheWeb) {
+  const test::Environment twin("VITRELLE_WEATHER_URL", "http://127.0.0.1:8080/w?key=1");
+  EXPECT_EQ(hostOptions(optionsOf({})).weatherUrl, "http://127.0.0.1:8080/w?key=1");
+  for (const char* url : {"https://example.org/", "http://localhost", "https://[::1]:80/a"})
+    EXPECT_EQ(hostOptions(optionsOf({"--weather-url", url})).weatherUrl, url);
+  for (const char* url :
+       {"", "example.org", "ftp://example.org/", "file:///etc/passwd", "https://", "https:///path",
+        "https://?a=b", "HTTPS//x", "http://a b", "http://a\n"}) {
+    EXPECT_EQ(run({"phones", "--weather-url", url}).status, 2) << url;
+  }
+  EXPECT_EQ(run({"phone"}, {{"VITRELLE_WEATHER_URL", "here"}}).status, 2);
 }
 
 TEST_F(ToldWorldTest, wrongValues_areWrongUsage) {
