@@ -70,12 +70,11 @@ Files HomeFolder::files() const {
       .lock = [home = *this](double patienceSeconds) { return lockHome(home, patienceSeconds); }};
 }
 
-std::optional<std::string> readSmallFile(const std::string& path) {
-  constexpr std::size_t most = 4096;
+std::optional<std::string> readSmallFile(const std::string& path, std::size_t mostBytes) {
   const Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
   struct stat status {};
   if (!file || fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
-  std::string text(most, '\0');
+  std::string text(mostBytes, '\0');
   const ssize_t size = read(file.get(), text.data(), text.size());
   if (size < 0) return std::nullopt;
   text.resize(static_cast<std::size_t>(size));

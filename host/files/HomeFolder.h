@@ -4,6 +4,7 @@
 #include "core/platform/Files.h"
 #include "core/platform/Result.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -24,6 +25,8 @@ class HomeFolder final {
   std::string groupFolder() const;
   /// Files on their way. On the same file system, so that they can be renamed into place.
   std::string pendingFolder() const { return path_ + "/tmp"; }
+  /// What can be had again from elsewhere.
+  std::string cacheFolder() const { return path_ + "/cache"; }
   /// Rewritten at each request that the widgets be drawn anew.
   std::string timelinesFile() const { return path_ + "/timelines"; }
   /// Locked by whoever changes what belongs together.
@@ -43,9 +46,9 @@ class HomeFolder final {
   std::string path_;
 };
 
-/// What a file of a few lines holds; nothing when there is none, or no plain file, or when it can't
-/// be read. Never waits.
-std::optional<std::string> readSmallFile(const std::string& path);
+/// What a file of a few lines holds, or so much of it; nothing when there is none, or no plain
+/// file, or when it can't be read. Never waits.
+std::optional<std::string> readSmallFile(const std::string& path, std::size_t mostBytes = 4096);
 
 /// Makes the folder and those above it, by default for the user alone; existing ones stay as they
 /// are.
