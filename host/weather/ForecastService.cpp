@@ -7,7 +7,8 @@
 #include <QThread>
 #include <QUrl>
 
-#include <cstdint>
+#include <csignal>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -15,7 +16,6 @@
 #include <vector>
 
 #include <sys/eventfd.h>
-#include <unistd.h>
 
 namespace vitrelle::host {
 
@@ -52,6 +52,16 @@ class Mailbox final {
   std::mutex mutex_;
   std::vector<Letter> letters_;
 };
+
+/// Signals that end a program are the main thread's, whose loop may wait for them.
+void startWithoutSignals(QThread& thread) {
+  sigset_t all;
+  sigset_t before;
+  sigfillset(&all);
+  pthread_sigmask(SIG_SETMASK, &all, &before);
+  thread.start(); // which inherits the mask
+  pthread_sigmask(SIG_SETMASK, &before, nullptr);
+}
 
 class ForecastService final {
  public:
@@ -93,7 +103,7 @@ class ForecastService final {
         });
     fetcher_->moveToThread(&thread_);
     QObject::connect(&thread_, &QThread::finished, fetcher_, &QObject::deleteLater);
-    thread_.start();
+    startWithoutSignals(thread_);
     delivery_ = loop_.whenReadable(mailbox_->descriptor(),
                                    [mailbox = mailbox_, waiting = std::weak_ptr(waiting_)] {
                                      if (const auto held = waiting.lock()) deliver(*mailbox, *held);
