@@ -21,6 +21,7 @@ inline host::HostOptions hostOptions(const Options& options) {
       .now = options.now ? std::optional(momentOf(*options.now)) : std::nullopt,
       .battery = options.battery,
       .weatherUrl = options.weatherUrl,
+      .location = options.location,
       .verbose = options.verbose};
 }
 

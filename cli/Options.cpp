@@ -1,5 +1,6 @@
 #include "cli/Options.h"
 
+#include "cli/CoordinateArgument.h"
 #include "cli/Numbers.h"
 #include "core/platform/Battery.h"
 #include "core/slicing/DeviceNames.h"
@@ -96,6 +97,14 @@ std::string takeWebAddress(const char* name, const std::string& text) {
   throw CLI::ValidationError(name, "'" + text + "' is no address such as https://example.org/path");
 }
 
+Coordinate takeLocation(const char* name, const std::string& text) {
+  const auto position = parseCoordinate(text);
+  if (!position)
+    throw CLI::ValidationError(name,
+                               "'" + text + "' is no position in degrees, such as 52.52,13.4");
+  return *position;
+}
+
 } // namespace
 
 void addOptions(CLI::App& program, Options& options) {
@@ -177,6 +186,13 @@ void addOptions(CLI::App& program, Options& options) {
           "($VITRELLE_WEATHER_URL)")
       ->type_name("URL")
       ->group(group);
+  program
+      .add_option_function<std::string>(
+          "--location",
+          [&](const std::string& text) { options.location = takeLocation("--location", text); },
+          "Take the device to be there, in degrees, north and east positive ($VITRELLE_LOCATION)")
+      ->type_name("LAT,LON")
+      ->group(group);
   program.add_flag("--verbose", options.verbose, "Show the debug console on stderr")->group(group);
 }
 
@@ -201,6 +217,9 @@ void readEnvironment(Options& options) {
   }
   if (const auto text = environment("VITRELLE_WEATHER_URL"); text && !options.weatherUrl) {
     options.weatherUrl = takeWebAddress("VITRELLE_WEATHER_URL", *text);
+  }
+  if (const auto text = environment("VITRELLE_LOCATION"); text && !options.location) {
+    options.location = takeLocation("VITRELLE_LOCATION", *text);
   }
   // The host reads VITRELLE_HOME.
 }

@@ -3,6 +3,7 @@
 
 #include "cli/ToldTime.h"
 #include "core/platform/Device.h"
+#include "core/platform/Location.h"
 
 #include <CLI/CLI.hpp>
 
@@ -21,6 +22,7 @@ struct Options {
   std::optional<Appearance> appearance;
   std::optional<ToldTime> now;           ///< at which the time stands still
   std::optional<float> battery;          ///< as full as it is taken to be, from 0 to 1; or -1
+  std::optional<Coordinate> location;    ///< where the device is taken to be
   std::optional<std::string> weatherUrl; ///< of another weather service of the same kind
   bool verbose = false;
 

@@ -68,6 +68,24 @@ Battery toldBattery(float level) {
               }};
 }
 
+/// The same of a position.
+Location toldLocation(const Coordinate& position) {
+  constexpr AuthorizationStatus status = AuthorizationStatus::authorizedWhenInUse;
+  return {.authorizationStatus = [] { return status; },
+          .watchAuthorization =
+              [](const std::function<void(AuthorizationStatus)>& subscriber) {
+                subscriber(status);
+                return Subscription();
+              },
+          .requestWhenInUseAuthorization = [] {},
+          .startUpdatingLocation =
+              [position](const std::function<void(const std::vector<Coordinate>&)>& subscriber) {
+                subscriber({position});
+                return Subscription();
+              },
+          .openSettings = [] {}};
+}
+
 } // namespace
 
 Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
@@ -97,7 +115,7 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .fonts = {.families = [] { return std::vector<FontFamily>(); }},
       .dateTime = makeClock(options.now),
       .battery = toldBattery(options.battery.value_or(unknownBatteryLevel)),
-      .location = noLocation(),
+      .location = options.location ? toldLocation(*options.location) : noLocation(),
       .locationSettings = noLocationSettings(),
       .geocoder = noGeocoder(),
       .weatherService = noWeatherService(),

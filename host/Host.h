@@ -15,11 +15,13 @@ struct HostOptions {
   HomeFolder home;
   PhoneOverrides phone;
   bool dark = false; ///< the appearance
-  /// What is taken for the present moment and for the battery's level, instead of the real ones.
+  /// What is taken for the present moment, the battery's level and the device's position, instead
+  /// of the real ones.
   std::optional<Date> now = {};
   std::optional<float> battery = {};
   /// The weather service's address, instead of the real one's.
   std::optional<std::string> weatherUrl = {};
+  std::optional<Coordinate> location = {};
   /// How long another program's lock on a store is waited for, in milliseconds.
   int storePatience = 5000;
   bool verbose = false; ///< the debug console goes to stderr, else nowhere

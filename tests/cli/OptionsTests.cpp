@@ -117,10 +117,34 @@ TEST_F(ToldWorldTest, weatherService_hasAnAddressOfTheWeb) {
   EXPECT_EQ(run({"phone"}, {{"VITRELLE_WEATHER_URL", "here"}}).status, 2);
 }
 
+TEST_F(ToldWorldTest, location_isAllowedAndThere) {
+  const test::Environment twin("VITRELLE_LOCATION", "1,2");
+  const std::pair<std::vector<std::string>, Coordinate> cases[] = {
+      {{}, {1, 2}},
+      {{"--location", "52.52,13.405"}, {52.52, 13.405}},
+      {{"--location", "-33.86,151.2"}, {-33.86, 151.2}},
+      {{"--location", "51.5,-0.12"}, {51.5, -0.12}},
+      {{"--location", "-90,180.0"}, {-90, 180}},
+      {{"--location=-0,-180"}, {0, -180}}};
+  for (const auto& [words, position] : cases) {
+    const Location location = platformOf(words).location;
+    EXPECT_EQ(location.authorizationStatus(), AuthorizationStatus::authorizedWhenInUse);
+    std::vector<Coordinate> told;
+    const Subscription updates =
+        location.startUpdatingLocation([&](const auto& positions) { told = positions; });
+    EXPECT_EQ(told, std::vector{position}) << position.latitude << "," << position.longitude;
+  }
+}
+
 TEST_F(ToldWorldTest, wrongValues_areWrongUsage) {
   for (const char* level : {"", "73%", "1.01", "-0.5", "-2", "-0", ".5", "1.", "1e-1", "0x1", "nan",
                             "0,5", " 1", "00.5", "inf"}) {
     EXPECT_EQ(run({"phones", "--battery", level}).status, 2) << level;
+  }
+  for (const char* place :
+       {"", "Berlin", "52.5", "52.5,", ",13.4", "52.5 13.4", "52.5, 13.4", "52,5,13,4", "90.1,0",
+        "0,-180.5", "--1,0", "nan,0", "0,inf", "1e1,0", "+1,0", "5.,5", "52.5N,13.4E"}) {
+    EXPECT_EQ(run({"phones", "--location", place}).status, 2) << place;
   }
   const test::Outcome outcome = run({"--now", "noon", "phones"});
   EXPECT_EQ(outcome.status, 2);
@@ -128,6 +152,7 @@ TEST_F(ToldWorldTest, wrongValues_areWrongUsage) {
                                 "(see 'vitrelle --help')\n");
   EXPECT_EQ(run({"phone"}, {{"VITRELLE_NOW", "2026-02-30T00:00"}}).status, 2);
   EXPECT_EQ(run({"phone"}, {{"VITRELLE_BATTERY", "full"}}).status, 2);
+  EXPECT_EQ(run({"phone"}, {{"VITRELLE_LOCATION", "here"}}).status, 2);
   EXPECT_EQ(run({"phone"}, {{"VITRELLE_BATTERY", ""}}).status, 0) << "unset";
 }
 

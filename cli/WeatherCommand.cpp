@@ -1,0 +1,175 @@
+#include "cli/Command.h"
+#include "cli/OneLine.h"
+
+#include "core/families/weather/WeatherFetcher.h"
+#include "core/store/GroupStore.h"
+#include "core/store/Keys.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cmath>
+#include <cstdio>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace vitrelle::cli {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct WeatherArguments {
+  bool json = false;
+  bool rain = false;
+};
+
+/// What is stored, by the names that the fetcher has for it; null where it never was.
+Json storedWeather(const Platform& platform) {
+  const GroupStore store(platform);
+  Json weather;
+  const auto add = [&](const char* name, const auto& key) {
+    const auto value = store.value(key);
+    weather[name] = value ? Json(*value) : Json();
+  };
+  add("weatherImage", keys::storedWeatherImage);
+  add("weatherTemp", keys::storedWeatherTemperature);
+  add("rawWeatherTemp", keys::storedWeatherTemperatureRaw);
+  add("weatherDesc", keys::storedCurrentWeatherDescription);
+  add("weatherComplexDesc", keys::storedCurrentWeatherComplexDescription);
+  add("weatherHumidity", keys::storedHumidity);
+  add("weatherPressure", keys::storedPressure);
+  add("weatherUVIndex", keys::storedUVIndex);
+  add("cityName", keys::storedCityName);
+  add("lastLat", keys::lastKnownLat);
+  add("lastLon", keys::lastKnownLon);
+  add("nextTempUpdateTime", keys::nextCurrentTempUpdateTime);
+  add("nextRainUpdateTime", keys::nextRainDataUpdateTime);
+  const auto rain = store.value(keys::currentLocationRainData);
+  const auto hours = rain ? decodeRain(*rain) : std::nullopt;
+  weather["hourlyRain"] = hours ? Json::array() : Json();
+  for (const TodaysRain& hour : hours.value_or(std::vector<TodaysRain>())) {
+    weather["hourlyRain"].push_back(
+        {{"hour", hour.hour.secondsSinceReferenceDate}, {"max", hour.max}});
+  }
+  return weather;
+}
+
+Exit print(const Platform& platform, bool json) {
+  if (const Status readable = GroupStore(platform).check(Suite::group); !readable) {
+    complain(readable.failure());
+    return Exit::failed;
+  }
+  const Json weather = storedWeather(platform);
+  if (json) {
+    std::cout << weather.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+    return Exit::done;
+  }
+  for (const auto& [name, value] : weather.items()) {
+    if (value.is_null()) continue;
+    const std::string words = value.is_string()
+                                  ? quotedLine(value.get<std::string>())
+                                  : value.dump(-1, ' ', false, Json::error_handler_t::replace);
+    std::cout << name << " = " << words << '\n';
+  }
+  return Exit::done;
+}
+
+/// The platform, with an eye on what the fetcher swallows.
+struct Watched {
+  explicit Watched(const Platform& whole) : platform(whole) {
+    platform.weatherService.weather = [this, ask = whole.weatherService.weather](
+                                          const Coordinate& place, const auto& completion) {
+      asked = true;
+      return ask(place, [this, completion](const Result<Weather>& weather) {
+        if (!weather) failure = weather.failure();
+        completion(weather);
+      });
+    };
+    platform.defaults.set = [this, set = whole.defaults.set](Suite suite, const std::string& key,
+                                                             const StoreValue& value) {
+      Status stored = set(suite, key, value);
+      if (!stored) failure = stored.failure();
+      return stored;
+    };
+  }
+
+  Platform platform;
+  bool asked = false;
+  std::optional<Failure> failure;
+};
+
+/// Runs the program's loop until the work says that it is done; whether it did.
+bool waitFor(const CommandContext& context,
+             const std::function<void(std::function<void()> done)>& work) {
+  bool done = false;
+  bool waits = false;
+  work([&] {
+    done = true;
+    if (waits) context.endLoop();
+  });
+  waits = true;
+  if (!done) context.runLoop();
+  return done;
+}
+
+void tellCooldown(const Platform& platform, bool rain) {
+  const auto& key = rain ? keys::nextRainDataUpdateTime : keys::nextCurrentTempUpdateTime;
+  constexpr double referenceUnixTime = 978307200; // from 1970 to the reference date, seconds
+  const double now = platform.dateTime.now().secondsSinceReferenceDate + referenceUnixTime;
+  const double minutes = std::ceil((GroupStore(platform).value(key).value_or(0) - now) / 60);
+  std::fprintf(stderr,
+               "vitrelle: nothing is fetched yet: the %s was fetched less than three hours "
+               "ago, and is again in %.0f minutes\n",
+               rain ? "rain" : "weather", minutes);
+}
+
+/// By the rules of the widgets. The name of the place follows, of where the weather now is.
+Exit fetch(const CommandContext& context, const WeatherArguments& arguments) {
+  Watched watched(context.platform());
+  WeatherFetcher fetcher(watched.platform);
+  Subscription city;
+  const bool done = waitFor(context, [&](const std::function<void()>& finished) {
+    if (arguments.rain) {
+      fetcher.getRainData(finished);
+    } else {
+      fetcher.getCurrentWeather(finished);
+    }
+  });
+  if (watched.failure) complain(*watched.failure);
+  if (!done || watched.failure) return Exit::failed;
+  if (!watched.asked) {
+    tellCooldown(watched.platform, arguments.rain);
+    return Exit::done;
+  }
+  const bool named = waitFor(context, [&](std::function<void()> finished) {
+    city = resolveCityName(watched.platform, std::move(finished));
+  });
+  return named ? print(watched.platform, arguments.json) : Exit::failed;
+}
+
+} // namespace
+
+void addWeatherCommand(CLI::App& program, CommandContext& context) {
+  const auto told = std::make_shared<WeatherArguments>();
+  CLI::App* command =
+      program.add_subcommand("weather", "Print the weather that is stored, or fetch it");
+  command->add_flag("--json", told->json, "Print it as JSON");
+  CLI::App* fetching = command->add_subcommand(
+      "fetch", "Fetch the weather of where the device is, unless that was done lately");
+  fetching->add_flag("--rain", told->rain, "The rain of the next hours instead");
+  fetching->add_flag("--json", told->json, "Print what is stored then as JSON");
+  command->callback([told, fetching, &context] {
+    if (!*fetching) {
+      context.exit = print(context.platform(), told->json);
+    } else if (context.handOver) {
+      context.handOver();
+      context.exit = Exit::failed;
+    } else {
+      context.exit = fetch(context, *told);
+    }
+  });
+}
+
+} // namespace vitrelle::cli
