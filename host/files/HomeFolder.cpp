@@ -46,8 +46,8 @@ Status HomeFolder::check() const {
   };
   for (const auto& [path, isFolder] :
        {Part{path_, true}, Part{groupFolder(), true}, Part{pendingFolder(), true},
-        Part{timelinesFile(), false}, Part{phoneFile(), false}, Part{lockFile(), false},
-        Part{applicationLockFile(), false}}) {
+        Part{timelinesFile(), false}, Part{phoneFile(), false}, Part{locationFile(), false},
+        Part{lockFile(), false}, Part{applicationLockFile(), false}}) {
     struct stat status {};
     if (stat(path.c_str(), &status) != 0) {
       if (errno == ENOENT) continue;

@@ -33,6 +33,8 @@ class HomeFolder final {
   std::string lockFile() const { return path_ + "/lock"; }
   /// The phone that is stood for.
   std::string phoneFile() const { return path_ + "/phone"; }
+  /// Whether the application may know where the device is, and from whom.
+  std::string locationFile() const { return path_ + "/location"; }
   /// Locked by the application while it runs.
   std::string applicationLockFile() const { return path_ + "/app.lock"; }
 

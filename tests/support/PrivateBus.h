@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <utility>
 
 namespace vitrelle::test {
@@ -45,6 +46,10 @@ class PrivateBus final {
     names_ += name;
     return QDBusConnection::connectToBus(address_, name);
   }
+  QString address() const { return address_; }
+  /// It then takes no more messages, though it stays there.
+  void suspend() const { kill(static_cast<pid_t>(daemon_.processId()), SIGSTOP); }
+  void resume() const { kill(static_cast<pid_t>(daemon_.processId()), SIGCONT); }
   QString servicesFolder() const { return folder_.filePath(QStringLiteral("services")); }
 
  private:
