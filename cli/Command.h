@@ -25,10 +25,12 @@ struct CommandContext {
   const Options& options;
   /// Made at the first call, from the options and the environment.
   std::function<const Platform&()> platform;
-  /// Delivers what the platform watches; returns when the user interrupts the program.
+  /// Delivers what the platform watches and answers; returns when the user interrupts the program,
+  /// or something that is delivered calls `endLoop`.
   std::function<void()> runLoop;
-  /// Set where commands that draw belong to another program: becomes that one, with the same
-  /// arguments, and returns only when it can't.
+  std::function<void()> endLoop;
+  /// Set where commands that draw or name places belong to another program: becomes that one, with
+  /// the same arguments, and returns only when it can't.
   std::function<void()> handOver;
   Exit exit = Exit::done;
 };
@@ -53,6 +55,7 @@ void addOpenCommand(CLI::App& program, CommandContext& context);
 void addPaletteCommand(CLI::App& program, CommandContext& context);
 void addPhoneCommand(CLI::App& program, CommandContext& context);
 void addPhonesCommand(CLI::App& program, CommandContext& context);
+void addPlaceCommand(CLI::App& program, CommandContext& context);
 void addRecordsCommand(CLI::App& program, CommandContext& context);
 void addShortcutCommand(CLI::App& program, CommandContext& context);
 void addStyleCommand(CLI::App& program, CommandContext& context);

@@ -50,6 +50,7 @@ int run(int argc, char** argv, const Program& program) {
                            return *platform;
                          },
                          .runLoop = program.runLoop,
+                         .endLoop = program.endLoop,
                          .handOver = program.handOver};
   for (const auto& add : program.commands)
     add(parser, context);

@@ -13,6 +13,7 @@ struct Program {
   std::vector<void (*)(CLI::App&, CommandContext&)> commands;
   std::function<Result<Platform>(const Options&)> makePlatform;
   std::function<void()> runLoop;
+  std::function<void()> endLoop;
   std::function<void()> handOver; ///< see `CommandContext`
 };
 

@@ -1,5 +1,6 @@
 // The command line: puts the platform together and runs one command over it. It loads nothing that
-// draws, since starting counts; commands that draw run in the program beside it.
+// draws or knows languages, since starting counts; commands that need such run in the program
+// beside it.
 
 #include "cli/HostOptions.h"
 #include "cli/Program.h"
@@ -16,8 +17,8 @@ namespace {
 
 using namespace vitrelle;
 
-/// Becomes the program that draws, with the same arguments. Returns only when that is not there.
-void becomeDrawingProgram(char** argv) {
+/// Becomes that other program, with the same arguments. Returns only when that is not there.
+void becomeOtherProgram(char** argv) {
   std::error_code none;
   const auto own = std::filesystem::read_symlink("/proc/self/exe", none);
   const std::string other = own.parent_path() / "vitrelle-face";
@@ -36,11 +37,12 @@ int main(int argc, char** argv) {
                     cli::addPhoneCommand, cli::addDefaultsCommand, cli::addRecordsCommand,
                     cli::addStyleCommand, cli::addShortcutCommand, cli::addFaceCommand,
                     cli::addSymbolsCommand, cli::addDateCommand, cli::addBackgroundCommand,
-                    cli::addOpenCommand},
+                    cli::addPlaceCommand, cli::addOpenCommand},
        .makePlatform =
            [&](const cli::Options& options) {
              return cli::hostPlatform(options, loop.operations());
            },
        .runLoop = [&] { loop.run(); },
-       .handOver = [argv] { becomeDrawingProgram(argv); }});
+       .endLoop = [&] { loop.stop(); },
+       .handOver = [argv] { becomeOtherProgram(argv); }});
 }
