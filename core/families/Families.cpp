@@ -2,6 +2,7 @@
 
 #include "core/families/battery/BatteryFamily.h"
 #include "core/families/clock/ClockFamily.h"
+#include "core/families/music/MusicFamily.h"
 #include "core/families/text/TextFamily.h"
 #include "core/families/weather/WeatherFamily.h"
 #include "core/platform/FatalError.h"
@@ -28,7 +29,7 @@ class FacelessFamily final : public StyleFamily {
 
 const StyleFamily& styleFamily(std::string_view name) {
   static const TextFamily text;
-  static const FacelessFamily music("music");
+  static const MusicFamily music;
   static const FacelessFamily image("image");
   static const BatteryFamily battery;
   static const WeatherFamily weather;
