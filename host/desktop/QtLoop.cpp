@@ -1,5 +1,8 @@
 #include "host/desktop/QtLoop.h"
 
+#include "host/desktop/EndSignals.h"
+
+#include <QCoreApplication>
 #include <QSocketNotifier>
 #include <QTimer>
 
@@ -43,6 +46,11 @@ EventLoop makeQtLoop() {
                 timer->start(static_cast<int>(seconds * 1000));
                 return owned(timer);
               }};
+}
+
+void runQtLoop() {
+  const EndSignals end(makeQtLoop(), [] { QCoreApplication::quit(); });
+  QCoreApplication::exec();
 }
 
 } // namespace vitrelle::host

@@ -1,4 +1,4 @@
-// The event loop of programs with a window.
+// The event loop of programs with a window, and of others that need Qt.
 #pragma once
 
 #include "host/desktop/EventLoop.h"
@@ -7,5 +7,8 @@ namespace vitrelle::host {
 
 /// Qt's, of the thread that has the application object.
 EventLoop makeQtLoop();
+
+/// Runs it until a signal asks the program to end.
+void runQtLoop();
 
 } // namespace vitrelle::host
