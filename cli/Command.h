@@ -51,6 +51,7 @@ void addCutCommand(CLI::App& program, CommandContext& context);
 void addDateCommand(CLI::App& program, CommandContext& context);
 void addDefaultsCommand(CLI::App& program, CommandContext& context);
 void addFaceCommand(CLI::App& program, CommandContext& context);
+void addMusicCommand(CLI::App& program, CommandContext& context);
 void addOpenCommand(CLI::App& program, CommandContext& context);
 void addPaletteCommand(CLI::App& program, CommandContext& context);
 void addPhoneCommand(CLI::App& program, CommandContext& context);

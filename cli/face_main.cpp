@@ -1,31 +1,36 @@
-// The command line's other program: the commands that draw or name places.
+// The command line's other program: the commands that draw, or listen to the desktop.
 
 #include "cli/HostOptions.h"
 #include "cli/Program.h"
-#include "host/desktop/PollLoop.h"
+#include "host/desktop/QtLoop.h"
 #include "host/drawing/DrawingProcess.h"
+#include "host/music/SystemMusic.h"
 #include "host/places/PlaceNames.h"
 #include "host/power/SystemBattery.h"
 #include "host/time/DateWords.h"
 
+#include <QCoreApplication>
+
 int main(int argc, char** argv) {
   using namespace vitrelle;
-  host::PollLoop loop;
   const host::DrawingProcess drawing;
+  const host::EventLoop loop = host::makeQtLoop();
   return cli::runProgram(
       argc, argv,
-      {.commands = {cli::addFaceCommand, cli::addSymbolsCommand, cli::addPlaceCommand},
+      {.commands = {cli::addFaceCommand, cli::addMusicCommand, cli::addPlaceCommand,
+                     cli::addSymbolsCommand},
        .makePlatform = [&](const cli::Options& options) -> Result<Platform> {
-         Result<Platform> made = cli::hostPlatform(options, loop.operations());
+         Result<Platform> made = cli::hostPlatform(options, loop);
          if (!made) return made;
          Platform platform = *std::move(made);
          drawing.use(platform);
          host::useDateWords(platform);
-         host::useBattery(platform, cli::hostOptions(options), loop.operations());
-         host::useGeocoder(platform, loop.operations());
+         host::useBattery(platform, cli::hostOptions(options), loop);
+         host::useGeocoder(platform, loop);
+         host::useMusicAtOnce(platform);
          return platform;
        },
-       .runLoop = [&] { loop.run(); },
-       .endLoop = [&] { loop.stop(); },
+       .runLoop = host::runQtLoop,
+       .endLoop = [] { QCoreApplication::quit(); },
        .handOver = {}});
 }

@@ -1,6 +1,5 @@
-// The command line: puts the platform together and runs one command over it. It loads nothing that
-// draws or knows languages, since starting counts; commands that need such run in the program
-// beside it.
+// The command line: puts the platform together and runs one command over it. It loads no Qt,
+// since starting counts; commands that draw or listen to the desktop run in the program beside it.
 
 #include "cli/HostOptions.h"
 #include "cli/Program.h"
@@ -37,7 +36,7 @@ int main(int argc, char** argv) {
                     cli::addPhoneCommand, cli::addDefaultsCommand, cli::addRecordsCommand,
                     cli::addStyleCommand, cli::addShortcutCommand, cli::addFaceCommand,
                     cli::addSymbolsCommand, cli::addDateCommand, cli::addBackgroundCommand,
-                    cli::addPlaceCommand, cli::addOpenCommand},
+                    cli::addMusicCommand, cli::addPlaceCommand, cli::addOpenCommand},
        .makePlatform =
            [&](const cli::Options& options) {
              return cli::hostPlatform(options, loop.operations());
