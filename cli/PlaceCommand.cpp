@@ -69,7 +69,11 @@ void print(const std::vector<Placemark>& placemarks, bool json) {
   auto list = nlohmann::ordered_json::array();
   for (const Placemark& placemark : placemarks) {
     const std::string locality = placemark.locality.value_or("");
-    json ? list.push_back({{"locality", locality}}) : void(std::cout << oneLine(locality) << '\n');
+    if (json) {
+      list.push_back({{"locality", locality}});
+    } else {
+      std::cout << oneLine(locality) << '\n';
+    }
   }
   if (json) print({{"placemarks", std::move(list)}});
 }
