@@ -10,8 +10,12 @@
 #include "host/desktop/EndSignals.h"
 #include "host/desktop/QtLoop.h"
 #include "host/drawing/DrawingProcess.h"
+#include "host/location/SystemLocation.h"
+#include "host/music/SystemMusic.h"
+#include "host/places/PlaceNames.h"
 #include "host/power/SystemBattery.h"
 #include "host/time/DateWords.h"
+#include "host/weather/ForecastService.h"
 #include "ui/Shell.h"
 #include "ui/Trouble.h"
 #include "ui/Unwritten.h"
@@ -39,6 +43,8 @@
 namespace {
 
 using namespace vitrelle;
+
+const QString locationSettings = QStringLiteral("LocationSettingsView");
 
 struct Arguments {
   cli::Options options;
@@ -178,6 +184,19 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
   host::useDrawing(platform);
   host::useDateWords(platform);
   host::useBattery(platform, options, loop);
+  host::useMusic(platform);
+  host::useGeocoder(platform, loop);
+  host::useLocation(platform, options, loop,
+                    {.ask =
+                         [&] {
+                           if (shell != nullptr) shell->locationQuestion()->ask();
+                         },
+                     .openSettings =
+                         [&] {
+                           if (shell != nullptr) shell->navigator()->open(locationSettings);
+                         }});
+  // A screenshot asks nobody for the weather: it would not wait for the answer.
+  if (interactive) host::useWeatherService(platform, options, loop);
 
   AppDelegate(platform).didFinishLaunching();
   const SceneDelegate scene(platform);

@@ -126,7 +126,7 @@ TEST_F(FamilyPageTest, limits_areTold) {
 }
 
 TEST_F(FamilyPageTest, familyWithoutAnEditor_makesNothing) {
-  openAt("CustomNowPlayingView");
+  openAt("CustomImageView");
   driver->click("create");
   driver->click("gallery");
   EXPECT_TRUE(driver->isShown("galleryPage"));

@@ -53,7 +53,7 @@ TEST_F(GatePageTest, weather_isEnteredWhereThePositionMayBeKnown) {
   waitFor("widgetCentrePage");
 }
 
-TEST_F(GatePageTest, DISABLED_music_isWaitedForAndEntered) {
+TEST_F(GatePageTest, music_isWaitedForAndEntered) {
   openAt("AlphaViewForNowPlaying");
   waitFor("gateSpinner");
   music.authorisations.answer({});

@@ -183,9 +183,11 @@ TEST_F(MusicFamilyTest, screens_areToldOfTheNextSong) {
 TEST_F(MusicFamilyTest, editor_hasThreeSwitchesAndThreeColours) {
   StyleSetup setup(platform, family, {});
   setup.appear();
-  ASSERT_EQ(setup.rows().size(), 3U);
-  EXPECT_EQ(setup.rows()[2].row.title, "Show Artist Name");
-  setup.setValue(2, false);
+  ASSERT_EQ(setup.rows().size(), 4U);
+  EXPECT_EQ(setup.rows()[0].row.control, FormControl::note);
+  EXPECT_EQ(setup.rows()[3].row.title, "Show Artist Name");
+  setup.setValue(0, true); // a note takes nothing
+  setup.setValue(3, false);
   EXPECT_EQ(setup.save(), Saved::stored);
   EXPECT_EQ(stored()[0], (musicWidgetData{.musicShowArtistName = false}));
   const auto second = setup.next();
