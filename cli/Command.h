@@ -29,8 +29,8 @@ struct CommandContext {
   /// or something that is delivered calls `endLoop`.
   std::function<void()> runLoop;
   std::function<void()> endLoop;
-  /// Set where commands that draw or name places belong to another program: becomes that one, with
-  /// the same arguments, and returns only when it can't.
+  /// Set where commands that need Qt, ICU or the network belong to another program: becomes that
+  /// one, with the same arguments, and returns only when it can't.
   std::function<void()> handOver;
   Exit exit = Exit::done;
 };
@@ -61,5 +61,6 @@ void addRecordsCommand(CLI::App& program, CommandContext& context);
 void addShortcutCommand(CLI::App& program, CommandContext& context);
 void addStyleCommand(CLI::App& program, CommandContext& context);
 void addSymbolsCommand(CLI::App& program, CommandContext& context);
+void addWeatherCommand(CLI::App& program, CommandContext& context);
 
 } // namespace vitrelle::cli

@@ -1,13 +1,16 @@
-// The command line's other program: the commands that draw, or listen to the desktop.
+// The command line's other program: the commands that draw, listen to the desktop or ask the
+// network.
 
 #include "cli/HostOptions.h"
 #include "cli/Program.h"
 #include "host/desktop/QtLoop.h"
 #include "host/drawing/DrawingProcess.h"
+#include "host/location/SystemLocation.h"
 #include "host/music/SystemMusic.h"
 #include "host/places/PlaceNames.h"
 #include "host/power/SystemBattery.h"
 #include "host/time/DateWords.h"
+#include "host/weather/ForecastService.h"
 
 #include <QCoreApplication>
 
@@ -18,7 +21,7 @@ int main(int argc, char** argv) {
   return cli::runProgram(
       argc, argv,
       {.commands = {cli::addFaceCommand, cli::addMusicCommand, cli::addPlaceCommand,
-                     cli::addSymbolsCommand},
+                    cli::addSymbolsCommand, cli::addWeatherCommand},
        .makePlatform = [&](const cli::Options& options) -> Result<Platform> {
          Result<Platform> made = cli::hostPlatform(options, loop);
          if (!made) return made;
@@ -27,6 +30,8 @@ int main(int argc, char** argv) {
          host::useDateWords(platform);
          host::useBattery(platform, cli::hostOptions(options), loop);
          host::useGeocoder(platform, loop);
+         host::useLocation(platform, cli::hostOptions(options), loop);
+         host::useWeatherService(platform, cli::hostOptions(options), loop);
          host::useMusicAtOnce(platform);
          return platform;
        },

@@ -36,7 +36,8 @@ int main(int argc, char** argv) {
                     cli::addPhoneCommand, cli::addDefaultsCommand, cli::addRecordsCommand,
                     cli::addStyleCommand, cli::addShortcutCommand, cli::addFaceCommand,
                     cli::addSymbolsCommand, cli::addDateCommand, cli::addBackgroundCommand,
-                    cli::addMusicCommand, cli::addPlaceCommand, cli::addOpenCommand},
+                    cli::addMusicCommand, cli::addPlaceCommand, cli::addWeatherCommand,
+                    cli::addOpenCommand},
        .makePlatform =
            [&](const cli::Options& options) {
              return cli::hostPlatform(options, loop.operations());
