@@ -184,7 +184,12 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
   host::useDrawing(platform);
   host::useDateWords(platform);
   host::useBattery(platform, options, loop);
-  host::useMusic(platform);
+  if (interactive) {
+    host::useMusic(platform);
+  } else {
+    host::useMusicAtOnce(platform);
+    platform.musicPlayer.playbackState(); // is waited for while no page is open yet
+  }
   host::useGeocoder(platform, loop);
   host::useLocation(platform, options, loop,
                     {.ask =

@@ -12,8 +12,8 @@ namespace {
 
 using Record = musicWidgetData;
 
-/// Between words and the edge of a small widget, points.
-constexpr double inset = 8;
+/// Between words and the edges of a widget, points.
+constexpr Insets besides{.leading = 8, .trailing = 8};
 
 /// What the system's screens leave free around a face on a page of the preview, points.
 double pageInset(const Platform& platform) {
@@ -52,15 +52,16 @@ View MusicFamily::face(const Platform& platform, const StyleRecord& record, Face
   switch (use) {
   case FaceUse::gallery:
   case FaceUse::widget:
-    return small({.leading = inset, .trailing = inset});
+    return small(besides);
   case FaceUse::assign: {
     const double around = pageInset(platform);
     return small({around, around, around, around});
   }
   case FaceUse::setup:
   case FaceUse::second:
-  case FaceUse::preview:
   case FaceUse::wideWidget:
+    return padded(NowPlayingView{fields}.view(song), besides);
+  case FaceUse::preview:
     break;
   }
   return NowPlayingView{fields}.view(song);

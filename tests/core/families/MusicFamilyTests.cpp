@@ -136,10 +136,10 @@ TEST_F(MusicFamilyTest, layouts_areThoseOfTheWidgetsSize) {
                           "24 12 room 142 29.75\n");
   EXPECT_EQ(medium(style), "symbol \"app\" FFFFFF at 92 24 size 110 110\n"
                            "text \"Aria\" in \"\" 18 weight 600 FF0000 at 210 48 size 36 18 "
-                           "room 220 47.333\n"
+                           "room 204 47.333\n"
                            "text \"Album\" in \"\" 14 weight 600 00FF00 at 210 74 size 35 14 "
-                           "room 220 62\n"
-                           "text \"Bach\" in \"\" 14 0000FF at 210 96 size 28 14 room 220 110\n");
+                           "room 204 62\n"
+                           "text \"Bach\" in \"\" 14 0000FF at 210 96 size 28 14 room 204 110\n");
 }
 
 TEST_F(MusicFamilyTest, switches_leaveAllButTheTitleOut) {
