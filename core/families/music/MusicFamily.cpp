@@ -46,17 +46,12 @@ struct FollowedSong {
 View MusicFamily::face(const Platform& platform, const StyleRecord& record, FaceUse use) const {
   const NowPlayingFields fields = fieldsOf(std::get<Record>(record));
   const Song song(platform);
-  const auto small = [&](const Insets& around) {
-    return padded(SmallNowPlaying{fields}.view(song, platform.device.screenBounds().width), around);
-  };
   switch (use) {
   case FaceUse::gallery:
   case FaceUse::widget:
-    return small(besides);
-  case FaceUse::assign: {
-    const double around = pageInset(platform);
-    return small({around, around, around, around});
-  }
+  case FaceUse::assign: // the system's inset of a page would leave no room in its preview
+    return padded(SmallNowPlaying{fields}.view(song, platform.device.screenBounds().width),
+                  besides);
   case FaceUse::setup:
   case FaceUse::second:
   case FaceUse::wideWidget:

@@ -42,10 +42,12 @@ StoredWeather storedWeather(const Platform& platform) {
                        : std::vector<TodaysRain>()};
 }
 
-/// The system's quieter label colour.
+/// The system's quieter label colour, on light and on dark grounds.
+constexpr PlatformColour secondaryOnLight{60 / 255.0, 60 / 255.0, 67 / 255.0, 0.6};
+constexpr PlatformColour secondaryOnDark{235 / 255.0, 235 / 255.0, 245 / 255.0, 0.6};
+
 PlatformColour secondaryColour(const Platform& platform) {
-  if (currentAppearance(platform) == darkStyle) return {235 / 255.0, 235 / 255.0, 245 / 255.0, 0.6};
-  return {60 / 255.0, 60 / 255.0, 67 / 255.0, 0.6};
+  return currentAppearance(platform) == darkStyle ? secondaryOnDark : secondaryOnLight;
 }
 
 bool isSupported(const Platform& platform) {
@@ -103,8 +105,10 @@ View currentWeatherSample(const Platform& platform) {
 View dynamicSample(const Platform& platform) {
   return isSupported(platform) ? dynamicWeather(platform) : unsupported();
 }
-View ringsSample(const Platform& platform) {
-  return isSupported(platform) ? rings(platform, FaceUse::setup) : unsupported();
+View ringsSample(const Platform& platform) { // its ground is dark in either appearance
+  return isSupported(platform)
+             ? CurrentWeatherRings{.colour = secondaryOnDark}.view(storedWeather(platform))
+             : unsupported();
 }
 
 constexpr std::array<StyleKind, 3> weatherKinds{
