@@ -12,8 +12,6 @@
 #include "host/time/DateWords.h"
 #include "host/weather/ForecastService.h"
 
-#include <QCoreApplication>
-
 int main(int argc, char** argv) {
   using namespace vitrelle;
   const host::DrawingProcess drawing;
@@ -36,6 +34,6 @@ int main(int argc, char** argv) {
          return platform;
        },
        .runLoop = host::runQtLoop,
-       .endLoop = [] { QCoreApplication::quit(); },
+       .endLoop = host::endQtLoop,
        .handOver = {}});
 }

@@ -53,4 +53,8 @@ void runQtLoop() {
   QCoreApplication::exec();
 }
 
+void endQtLoop() {
+  QCoreApplication::quit();
+}
+
 } // namespace vitrelle::host

@@ -8,7 +8,8 @@ namespace vitrelle::host {
 /// Qt's, of the thread that has the application object.
 EventLoop makeQtLoop();
 
-/// Runs it until a signal asks the program to end.
+/// Runs it until a signal asks the program to end, or `endQtLoop` is called.
 void runQtLoop();
+void endQtLoop();
 
 } // namespace vitrelle::host
