@@ -135,9 +135,9 @@ TEST_F(ArtworkLoaderTest, whatIsNoPictureWithinTheLimits_isNone) {
 }
 
 TEST_F(ArtworkLoaderTest, hangingServer_isGivenUp) {
-  ArtworkLimits short_ = limits;
-  short_.patience = std::chrono::milliseconds(100);
-  ArtworkLoader impatient(short_, [this] { ++ends; });
+  ArtworkLimits brief = limits;
+  brief.patience = std::chrono::milliseconds(100);
+  ArtworkLoader impatient(brief, [this] { ++ends; });
   QElapsedTimer timer;
   timer.start();
   impatient.show(server.address("/never"));
