@@ -25,7 +25,7 @@ class SystemMusic final {
 
   std::optional<MediaItem> item() {
     awaitFirst();
-    if (!shown_.hasItem()) return std::nullopt;
+    if (!hasItem_) return std::nullopt;
     MediaItem item{.title = shown_.title, .albumTitle = shown_.albumTitle, .artist = shown_.artist};
     if (picture_) {
       const PixelSize size = picture_->size();
@@ -112,11 +112,12 @@ class SystemMusic final {
     if (next != shown_) {
       const bool isOther = !isSamePiece(next, shown_);
       shown_ = std::move(next);
+      hasItem_ = hasItem_ || shown_.hasItem();
       if (isOther) {
         artwork_->show(shown_.artwork);
         picture_ = artwork_->picture();
       }
-      changes_.notify();
+      if (hasItem_) changes_.notify();
     }
     if (settled_ && isSettled()) settled_();
   }
@@ -135,6 +136,8 @@ class SystemMusic final {
   MusicSources sources_;
   Subscribers<> changes_;
   PlayerReport shown_;
+  bool hasItem_ =
+      false; ///< from the first on, for the last one stays, whether it has a name or not
   std::optional<Image> picture_;
   bool isAwaited_ = false;
   std::function<void()> settled_; ///< while the first answers are waited for

@@ -107,6 +107,18 @@ TEST_F(SystemMusicTest, player_isHeardFromItsStartToItsEnd) {
   EXPECT_TRUE(becomes("1 Gymnopédie by Satie"));
 }
 
+TEST_F(SystemMusicTest, playerThatNamesNothing_leavesAPieceWithoutATitle) {
+  listen();
+  one.put({{status, QStringLiteral("Playing")}, {QStringLiteral("Metadata"), QVariantMap()}});
+  one.start(QStringLiteral("one"));
+  EXPECT_TRUE(becomes("1 - by -"));
+  one.set({{status, QStringLiteral("Stopped")}});
+  EXPECT_TRUE(becomes("0 - by -")) << "a change is told of an item alone";
+  one.stop(QStringLiteral("one"));
+  QTest::qWait(50);
+  EXPECT_EQ(now(), "0 - by -");
+}
+
 TEST_F(SystemMusicTest, playerThatIsThere_isAskedOnce) {
   playOne();
   for (int i = 0; i < 5; ++i)
