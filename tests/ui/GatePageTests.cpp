@@ -80,6 +80,27 @@ TEST_F(GatePageTest, question_isAnsweredByKeys) {
   EXPECT_EQ(location.choice.permission, AuthorizationStatus::denied);
 }
 
+TEST_F(GatePageTest, questionBeforeTheGate_hasTheKeysAndLeavesThemToIt) {
+  platform.location.requestWhenInUseAuthorization = [this] { shell->locationQuestion()->ask(); };
+  setNumber("amountOfConfigs", 1);
+  addStyle(0);
+  open();
+  driver->click("widgetCentreButton");
+  driver->click("family weather");
+  waitFor("locationQuestion");
+  waitFor("gatePage");
+  EXPECT_TRUE(driver->find("alertButton")->hasActiveFocus());
+  driver->key(Qt::Key_Escape);
+  waitForEndOf("locationQuestion");
+  EXPECT_TRUE(driver->isShown("gatePage")) << "the question alone is left";
+  EXPECT_TRUE(driver->eventually([&] { return driver->find("gateButton")->hasActiveFocus(); }));
+  shell->locationQuestion()->ask();
+  waitFor("locationQuestion");
+  driver->key(Qt::Key_Return);
+  waitFor("familyPage");
+  EXPECT_TRUE(driver->eventually([&] { return driver->find("create")->hasActiveFocus(); }));
+}
+
 TEST_F(GatePageTest, settings_changePermissionSourceAndPlace) {
   openAt("LocationSettingsView");
   driver->click("permission4");

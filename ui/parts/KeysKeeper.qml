@@ -11,7 +11,7 @@ Item {
     property Item last
 
     enabled: !covered
-    onCoveredChanged: if (!covered && last && parent.activeFocus) last.forceActiveFocus()
+    onCoveredChanged: if (!covered && last && last.visible && parent.activeFocus) last.forceActiveFocus()
 
     /// Whether an item is on the page itself.
     function owns(item: Item): bool {

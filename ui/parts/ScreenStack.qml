@@ -29,7 +29,9 @@ StackView {
     }
 
     focus: true
-    onCurrentItemChanged: if (currentItem) currentItem.forceActiveFocus()
+    // While something lies above all pages, the keys are its own.
+    onCurrentItemChanged: if (currentItem && enabled) currentItem.forceActiveFocus()
+    onEnabledChanged: if (enabled && currentItem && !currentItem.activeFocus) currentItem.forceActiveFocus()
     onScreensChanged: follow()
     Component.onCompleted: follow()
 
