@@ -29,7 +29,7 @@ struct LocationChoice {
 
 struct LocationSettings {
   std::function<LocationChoice()> current;
-  /// Kept for later programs too.
+  /// Holds at once; fails where it can't be kept for later programs.
   std::function<Status(const LocationChoice&)> save;
   /// Calls with the present choice before it returns, then with each other one.
   std::function<Subscription(std::function<void(const LocationChoice&)> subscriber)> watch;

@@ -23,8 +23,8 @@ class SystemLocation final : public std::enable_shared_from_this<SystemLocation>
   Status save(const LocationChoice& chosen) {
     if (chosen.permission == AuthorizationStatus::restricted)
       return Failure{sources_.home.locationFile(), "a restriction is nobody's choice"};
-    if (Status kept = keepChoice(sources_.home, chosen); !kept) return kept;
-    if (chosen == choice_) return success();
+    const Status kept = keepChoice(sources_.home, chosen);
+    if (chosen == choice_) return kept;
     const std::optional<Coordinate> fixed = fixedPosition();
     choice_ = chosen;
     if (choice_.permission != AuthorizationStatus::notDetermined) asked_ = false;
@@ -33,7 +33,7 @@ class SystemLocation final : public std::enable_shared_from_this<SystemLocation>
     choices_.notify(chosen);
     statuses_.notify(status());
     if (const auto now = fixedPosition(); now && now != fixed) positions_.notify({*now});
-    return success();
+    return kept;
   }
 
   Subscription watchChoice(std::function<void(const LocationChoice&)> subscriber) {

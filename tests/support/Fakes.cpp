@@ -219,8 +219,8 @@ void FakeLocation::use(Platform& platform) {
                        .openSettings = [this] { ++settingsOpened; }};
   platform.locationSettings = {.current = [this] { return choice; },
                                .save = [this](const LocationChoice& told) -> Status {
-                                 if (full) return Failure{"location", "the disk is full"};
                                  settle(told);
+                                 if (full) return Failure{"location", "the disk is full"};
                                  return success();
                                },
                                .watch =

@@ -132,7 +132,7 @@ class FakeLocation final {
   void move(std::vector<Coordinate> positions);
 
   LocationChoice choice; ///< its permission is the status
-  bool full = false;     ///< nothing can be settled
+  bool full = false;     ///< what is settled can't be kept
   int requests = 0;
   int settingsOpened = 0;
 

@@ -236,13 +236,14 @@ TEST_F(SystemLocationTest, garbledFile_isAsNothingSettled) {
   }
 }
 
-TEST_F(SystemLocationTest, choiceThatCantBeKept_isNotMade) {
+TEST_F(SystemLocationTest, choiceThatCantBeKept_holdsForThisProgram) {
   std::ofstream(folder / "home") << "a file in its way";
   int calls = 0;
   const Subscription watch = own.settings.watch([&](const LocationChoice&) { ++calls; });
   EXPECT_FALSE(own.settings.save({inUse, LocationSource::place, berlin}));
-  EXPECT_EQ(own.settings.current(), LocationChoice());
-  EXPECT_EQ(calls, 1);
+  EXPECT_EQ(own.location.authorizationStatus(), inUse);
+  EXPECT_EQ(calls, 2);
+  EXPECT_EQ(made().settings.current(), LocationChoice());
 }
 
 TEST_F(SystemLocationTest, toldPosition_standsWhateverIsSettled) {
