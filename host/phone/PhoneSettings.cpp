@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <sstream>
 #include <string_view>
 
@@ -83,8 +84,9 @@ Device makeDevice(const PhoneChoice& choice, bool dark) {
   return {.machine = simulatorMachine,
           .environment = [identifier = choice.identifier](
                              const std::string& name) -> std::optional<std::string> {
-            if (name != "SIMULATOR_MODEL_IDENTIFIER") return std::nullopt;
-            return identifier;
+            if (name == "SIMULATOR_MODEL_IDENTIFIER") return identifier;
+            const char* const value = std::getenv(name.c_str());
+            return value == nullptr ? std::nullopt : std::optional<std::string>(value);
           },
           .isOperatingSystemAtLeast =
               [os = choice.os](const OsVersion& version) { return os >= version; },
