@@ -114,15 +114,18 @@ bool waitFor(const CommandContext& context,
   return done;
 }
 
+/// Why nothing was asked for.
 void tellCooldown(const Platform& platform, bool rain) {
   const auto& key = rain ? keys::nextRainDataUpdateTime : keys::nextCurrentTempUpdateTime;
   constexpr double referenceUnixTime = 978307200; // from 1970 to the reference date, seconds
   const double now = platform.dateTime.now().secondsSinceReferenceDate + referenceUnixTime;
-  const double minutes = std::ceil((GroupStore(platform).value(key).value_or(0) - now) / 60);
-  std::fprintf(stderr,
-               "vitrelle: nothing is fetched yet: the %s was fetched less than three hours "
-               "ago, and is again in %.0f minutes\n",
-               rain ? "rain" : "weather", minutes);
+  const double seconds = GroupStore(platform).value(key).value_or(0) - now;
+  if (seconds > 0) {
+    std::fprintf(stderr, "vitrelle: what is stored holds for another %.0f minutes\n",
+                 std::ceil(seconds / 60));
+  } else {
+    std::fprintf(stderr, "vitrelle: nothing is fetched for a preview\n");
+  }
 }
 
 /// By the rules of the widgets. The name of the place follows, of where the weather now is.
@@ -141,7 +144,7 @@ Exit fetch(const CommandContext& context, const WeatherArguments& arguments) {
   if (!done || watched.failure) return Exit::failed;
   if (!watched.asked) {
     tellCooldown(watched.platform, arguments.rain);
-    return Exit::done;
+    return print(watched.platform, arguments.json);
   }
   const bool named = waitFor(context, [&](std::function<void()> finished) {
     city = resolveCityName(watched.platform, std::move(finished));
