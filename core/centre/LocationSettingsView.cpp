@@ -52,6 +52,7 @@ void LocationSettingsView::pick(std::size_t index) {
     choice.permission = AuthorizationStatus::authorizedWhenInUse;
   words_.clear();
   found_.clear();
+  asked_.cancel();
   save(choice);
 }
 
