@@ -89,7 +89,10 @@ class Job final : public QObject {
 
   void follow(const QUrl& url) {
     if (redirectsLeft_-- == 0) return giveUp("it leads in circles");
-    if (url.scheme() != request_.url().scheme()) return giveUp("it leads elsewhere");
+    // What the address tells is for this server alone.
+    const QUrl from = request_.url();
+    if (url.scheme() != from.scheme() || url.host() != from.host())
+      return giveUp("it leads elsewhere");
     reply_->deleteLater();
     download_.body.clear();
     request_.setUrl(url);

@@ -33,7 +33,7 @@ struct Download {
 };
 
 /// Calls back from the event loop of the manager's thread, unless the manager goes before. Follows
-/// few redirections, and none to another scheme. Neither sends nor takes cookies.
+/// few redirections, and none to another server or scheme. Neither sends nor takes cookies.
 void download(QNetworkAccessManager& manager, const QNetworkRequest& request, DownloadLimits limits,
               std::function<void(const Download&)> done);
 
