@@ -17,6 +17,8 @@ namespace vitrelle::host {
 namespace {
 
 constexpr double reachMetres = 50'000;
+/// The kind of a part of a town, which would hide the town it is in.
+constexpr std::string_view section = "PPLX";
 
 /// The columns that are of use.
 namespace cityColumn {
@@ -25,6 +27,7 @@ constexpr std::size_t spelling = 2;
 constexpr std::size_t elsewhere = 3;
 constexpr std::size_t latitude = 4;
 constexpr std::size_t longitude = 5;
+constexpr std::size_t kind = 7;
 constexpr std::size_t country = 8;
 constexpr std::size_t population = 14;
 constexpr std::size_t count = 15;
@@ -90,6 +93,7 @@ Result<CityList> CityList::parse(std::string_view cities, std::string_view count
     const std::string_view name = columns[cityColumn::name];
     const std::string_view code = columns[cityColumn::country];
     if (!latitude || !longitude || !isSoundName(name) || !isSoundName(code)) return;
+    if (columns[cityColumn::kind] == section) return;
     const auto word = words.find(code);
     towns.push_back({.city = {.name = std::string(name),
                               .country = std::string(word == words.end() ? code : word->second),

@@ -53,6 +53,14 @@ TEST_F(CityListTest, search_takesNamesWithoutTheirAccents) {
     EXPECT_EQ(found(words), std::vector<std::string>{"Łódź"}) << words;
 }
 
+TEST_F(CityListTest, partOfATown_isNoTown) {
+  const std::string more =
+      cities + line({"Mitte", "Mitte", "", "52.52", "13.4", "DE", "79582", "PPLX"});
+  list = CityList::parse(more, countries).value();
+  EXPECT_EQ(list.nearest({52.52, 13.4})->name, "Neu Köln");
+  EXPECT_EQ(found("mitte"), std::vector<std::string>());
+}
+
 TEST_F(CityListTest, search_hasTheLikeliestFirst) {
   using Names = std::vector<std::string>;
   EXPECT_EQ(found("köln"), (Names{"Köln", "Neu Köln"})) << "the whole name, then the word";

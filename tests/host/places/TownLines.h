@@ -13,12 +13,13 @@ struct TownLine {
   std::string longitude;
   std::string country;
   std::string population;
+  std::string kind = "PPL";
 };
 
 inline std::string line(const TownLine& town) {
   return "1\t" + town.name + "\t" + town.spelling + "\t" + town.elsewhere + "\t" + town.latitude +
-         "\t" + town.longitude + "\tP\tPPL\t" + town.country + "\t\t01\t\t\t\t" + town.population +
-         "\t\t5\tEurope/Berlin\t2014-10-07\n";
+         "\t" + town.longitude + "\tP\t" + town.kind + "\t" + town.country + "\t\t01\t\t\t\t" +
+         town.population + "\t\t5\tEurope/Berlin\t2014-10-07\n";
 }
 
 inline std::string countryLine(const std::string& code, const std::string& name) {
