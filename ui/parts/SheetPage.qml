@@ -126,7 +126,7 @@ FocusScope {
             let within = item;
             while (within && within !== column)
                 within = within.parent;
-            if (!within)
+            if (!within || height <= 0)
                 return;
             const top = item.mapToItem(contentItem, 0, 0).y;
             if (top < contentY + 12)
