@@ -5,9 +5,11 @@
 #include "core/families/weather/WeatherFetcher.h"
 #include "core/families/weather/WeatherForms.h"
 #include "core/lifecycle/Backdrop.h"
+#include "core/lifecycle/StyleKinds.h"
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <memory>
 #include <string>
 #include <utility>
@@ -103,7 +105,11 @@ View currentWeatherSample(const Platform& platform) {
   return isSupported(platform) ? plainText(platform, {}) : unsupported();
 }
 View dynamicSample(const Platform& platform) {
-  return isSupported(platform) ? dynamicWeather(platform) : unsupported();
+  if (!isSupported(platform)) return unsupported();
+  const View whole = dynamicWeather(platform);
+  constexpr double anyRoom = std::numeric_limits<double>::infinity();
+  const double height = whole.node().size(platform.drawing, {anyRoom, anyRoom}).height;
+  return scaled(whole, std::min(1.0, (StyleKinds::sampleHeight - 2 * inset) / height));
 }
 View ringsSample(const Platform& platform) { // its ground is dark in either appearance
   return isSupported(platform)
@@ -143,8 +149,11 @@ class WeatherLife final {
            keys::storedCurrentWeatherDescription, keys::storedCurrentWeatherComplexDescription,
            keys::storedCityName, keys::storedHumidity, keys::storedPressure, keys::storedUVIndex,
            keys::currentLocationRainData);
+  }
+
+  void start() {
     following_ = true;
-    city_ = resolveCityName(platform);
+    city_ = resolveCityName(platform_);
     fetcher_.getCurrentWeather([this] {
       const auto now = stored(platform_, keys::storedCurrentWeatherDescription);
       if (isRaining(now.value_or(""))) fetcher_.getRainData();
@@ -219,6 +228,7 @@ View WeatherFamily::draftFace(const Platform& platform, const StyleDraft& draft,
 
 Subscription WeatherFamily::live(const Platform& platform, std::function<void()> changed) const {
   auto life = std::make_shared<WeatherLife>(platform, std::move(changed));
+  life->start();
   return Subscription([life = std::move(life)]() mutable { life.reset(); });
 }
 

@@ -147,7 +147,7 @@ CurrentTemperature WeatherFetcher::record(const CurrentWeather& weather) const {
           .id = platform_.identifiers.newUuid()};
 }
 
-void WeatherFetcher::getCurrentWeather(Done done) {
+void WeatherFetcher::getCurrentWeather(const Done& done) {
   if (!isDue(keys::nextCurrentTempUpdateTime)) {
     platform_.debugConsole.print("Youre on a Current Cooldown");
     // The unit may have been changed since.
@@ -168,7 +168,7 @@ void WeatherFetcher::getCurrentWeather(Done done) {
   });
 }
 
-void WeatherFetcher::getRainData(Done done) {
+void WeatherFetcher::getRainData(const Done& done) {
   if (!isDue(keys::nextRainDataUpdateTime)) {
     platform_.debugConsole.print("Youre on a Rain Data Cooldown");
     if (done) done();

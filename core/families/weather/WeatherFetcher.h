@@ -17,11 +17,11 @@ namespace vitrelle {
 
 struct CurrentTemperature {
   std::string symbolName = "sun";
-  double temperature = 2.0;   ///< degrees Celsius
-  std::string condition = {}; ///< raw value: "heavyRain"
-  double humidity = 0;        ///< of 1
-  double pressure = 0;        ///< hectopascals
-  std::int64_t UVIndex = 0;
+  double temperature = 2.0;            ///< degrees Celsius
+  std::string condition = {};          ///< raw value: "heavyRain"
+  double humidity = 0;                 ///< of 1
+  double pressure = 0;                 ///< hectopascals
+  std::int64_t UVIndex = 0;            // NOLINT(readability-identifier-naming): its known name
   std::string weatherDescription = {}; ///< the condition in words
   std::string id = {};                 ///< of each record its own
 };
@@ -46,8 +46,8 @@ class WeatherFetcher final : public Screen {
 
   /// `done` is called once what came is stored, or there is nothing to come; it may be called
   /// before this returns, and never after the fetcher is gone.
-  void getCurrentWeather(Done done = {});
-  void getRainData(Done done = {});
+  void getCurrentWeather(const Done& done = {});
+  void getRainData(const Done& done = {});
 
   const CurrentTemperature& currentTemperature() const { return values_->currentTemperature; }
   const std::vector<TodaysRain>& hourlyRain() const { return values_->hourlyRain; }
