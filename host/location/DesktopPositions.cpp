@@ -69,8 +69,11 @@ class Follower final {
   }
   ~Follower() {
     thread_->quit();
-    // One that hangs in a call of the service is left to itself, which ends when that gives up.
-    if (!thread_->wait(QDeadlineTimer(patience))) static_cast<void>(thread_.release());
+    if (thread_->wait(QDeadlineTimer(patience))) return;
+    // One that hangs in a call of the service is left to itself, and ends when that gives up.
+    QThread* left = thread_.release();
+    QObject::connect(left, &QThread::finished, left, &QObject::deleteLater);
+    if (left->isFinished()) left->deleteLater();
   }
   Follower(const Follower&) = delete;
   Follower& operator=(const Follower&) = delete;

@@ -99,7 +99,7 @@ TEST_F(DesktopPositionsTest, silentService_holdsNothingUp) {
   updates.cancel();
   EXPECT_LT(timer.elapsed(), 2000);
   service.stop(); // or the thread would wait on
-  QTest::qWait(50);
+  QTest::qWait(500);
 }
 
 TEST_F(DesktopPositionsTest, machineWithoutTheService_saysNothing) {
