@@ -117,8 +117,7 @@ bool waitFor(const CommandContext& context,
 /// Why nothing was asked for.
 void tellCooldown(const Platform& platform, bool rain) {
   const auto& key = rain ? keys::nextRainDataUpdateTime : keys::nextCurrentTempUpdateTime;
-  constexpr double referenceUnixTime = 978307200; // from 1970 to the reference date, seconds
-  const double now = platform.dateTime.now().secondsSinceReferenceDate + referenceUnixTime;
+  const double now = unixTime(platform.dateTime.now());
   const double seconds = GroupStore(platform).value(key).value_or(0) - now;
   if (seconds > 0) {
     std::fprintf(stderr, "vitrelle: what is stored holds for another %.0f minutes\n",

@@ -14,8 +14,6 @@ namespace vitrelle {
 
 namespace {
 
-/// From 1970 to the reference date, seconds.
-constexpr double referenceUnixTime = 978307200;
 constexpr std::size_t shownHours = 8;
 
 template <class T>
@@ -79,6 +77,11 @@ double decimalNumber(std::string_view text) {
 
 } // namespace
 
+double unixTime(const Date& moment) {
+  constexpr double referenceDate = 978307200;
+  return moment.secondsSinceReferenceDate + referenceDate;
+}
+
 std::string temperatureText(double celsius, bool fahrenheit) {
   const std::string text = shortestDecimal(fahrenheit ? celsius * 1.8 + 32.0 : celsius);
   return text.substr(0, text.find('.')) + "º";
@@ -90,7 +93,7 @@ WeatherFetcher::WeatherFetcher(const Platform& platform, CurrentTemperature curr
       values_(std::make_shared<Values>(
           Values{platform, std::move(currentTemperature), std::move(hourlyRain)})),
       locationManager_(platform),
-      currentUnixTime_(platform.dateTime.now().secondsSinceReferenceDate + referenceUnixTime) {}
+      currentUnixTime_(unixTime(platform.dateTime.now())) {}
 
 WeatherFetcher::~WeatherFetcher() = default;
 

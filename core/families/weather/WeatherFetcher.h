@@ -26,6 +26,9 @@ struct CurrentTemperature {
   std::string id = {};                 ///< of each record its own
 };
 
+/// Seconds since 1970, in which the cooldowns are stored.
+double unixTime(const Date& moment);
+
 /// A temperature as widgets show it: the number's text up to its point, so cut towards zero, and
 /// "º" without a unit.
 std::string temperatureText(double celsius, bool fahrenheit);
