@@ -20,8 +20,8 @@ namespace {
 
 using Record = weatherWidgetData;
 
-constexpr std::int64_t plain = 0;
-constexpr std::int64_t advanced = 1;
+using complexity::advanced;
+using complexity::plain;
 /// Between the rings and the edge of a narrow tile, points.
 constexpr double inset = 8;
 

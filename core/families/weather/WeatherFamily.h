@@ -12,6 +12,12 @@ namespace vitrelle {
 /// As the screens pass it on. The screens offer no forecast.
 enum class WeatherKind : std::uint8_t { currentWeather, dynamic, rings, forecast };
 
+/// How much the current weather tells, as records number it. Others are nothing.
+namespace complexity {
+inline constexpr std::int64_t plain = 0;
+inline constexpr std::int64_t advanced = 1;
+} // namespace complexity
+
 /// Of a `pickedStyle`; the current weather for any other word.
 WeatherKind weatherKind(std::string_view pickedStyle);
 /// Of a record's number; the current weather for any but 2 and 3.

@@ -10,8 +10,8 @@ namespace {
 
 using Record = weatherWidgetData;
 
-constexpr std::int64_t plain = 0;
-constexpr std::int64_t advanced = 1;
+using complexity::advanced;
+using complexity::plain;
 
 constexpr std::string_view dynamicNote =
     "The Dynamic Weather Widget Style changes throughout the day depending on the weather in your "
