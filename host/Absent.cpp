@@ -57,6 +57,10 @@ WeatherService noWeatherService() {
           .openAttribution = [] {}};
 }
 
+Pasteboard noPasteboard() {
+  return {.hasImages = [] { return false; }, .image = [] { return std::optional<Image>(); }};
+}
+
 MusicPlayer noMusicPlayer() {
   return {.nowPlayingItem = [] { return std::optional<MediaItem>(); },
           .playbackState = [] { return playback::stopped; },

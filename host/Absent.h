@@ -12,5 +12,6 @@ LocationSettings noLocationSettings();
 Geocoder noGeocoder();
 WeatherService noWeatherService();
 MusicPlayer noMusicPlayer();
+Pasteboard noPasteboard();
 
 } // namespace vitrelle::host

@@ -100,12 +100,15 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .widgetCenter = makeWidgetCenter(home, loop),
       .bundle = {
           .identifier = [] { return std::optional<std::string>("com.quillmeresoftware.vitrelle"); },
-          .shortVersion = [] { return std::optional<std::string>(VITRELLE_VERSION); }},
+          .shortVersion = [] { return std::optional<std::string>(VITRELLE_VERSION); },
+          .appStoreReceiptURL = [] { return std::optional<std::string>(); }},
       .debugConsole = makeDebugConsole(options.verbose),
       .mainQueue = makeMainQueue(loop),
       .notificationCentre = makeNotificationCentre(),
       // Programs with a window put their own in its place.
-      .application = {.suspend = [] {}, .rootViewController = [] { return std::nullopt; }},
+      .application = {.suspend = [] {},
+                      .rootViewController = [] { return std::nullopt; },
+                      .connectedScenes = [] { return std::vector<Scene>(); }},
       .links = makeLinks(home),
       // A desktop has nothing to be felt, and there is no advertising kit for it.
       .haptics = {.success = [] {}, .error = [] {}, .lightImpact = [] {}, .mediumImpact = [] {}},
@@ -120,6 +123,8 @@ Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
       .geocoder = noGeocoder(),
       .weatherService = noWeatherService(),
       .musicPlayer = noMusicPlayer(),
+      .pasteboard = noPasteboard(),
+      .reviewController = {.requestReview = [](const Scene&) {}},
       .identifiers = {.newUuid = newUuid}};
 }
 

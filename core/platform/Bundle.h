@@ -12,6 +12,9 @@ struct Bundle {
   std::function<std::optional<std::string>()> identifier;
   /// The version that users are told, "2.1".
   std::function<std::optional<std::string>()> shortVersion;
+  /// Where the store's receipt lies; a build for testers has one named "sandboxReceipt". Nothing
+  /// where no store is behind the application.
+  std::function<std::optional<std::string>()> appStoreReceiptURL;
 };
 
 } // namespace vitrelle

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/platform/ColourProfile.h"
+#include "core/platform/Data.h"
 #include "core/platform/Result.h"
 
 #include <cstddef>
@@ -61,6 +62,8 @@ class ImageSource {
   virtual Result<Bitmap> bitmap() const = 0;
   /// The file that they come from, if they come from one.
   virtual std::optional<FileIdentity> file() const { return std::nullopt; }
+  /// The bytes of that file, as they were when it was opened.
+  virtual Result<Data> fileData() const { return Failure{"picture", "it comes from no file"}; }
 };
 
 /// Two images are equal when they are the same object, or of the same file with the same content.
@@ -75,6 +78,8 @@ class Image final {
   /// The pixels, decoded if they are not yet, or why they can't be had.
   Result<Bitmap> bitmap() const { return source_->bitmap(); }
   std::optional<FileIdentity> file() const { return source_->file(); }
+  /// The bytes of the file that it was loaded from, as they were then.
+  Result<Data> fileData() const { return source_->fileData(); }
 
   /// The part of the image inside the rectangle, as a view: no pixel is copied. The rectangle is
   /// first cut to the bitmap. Nothing when there is no bitmap or nothing is left of the rectangle.

@@ -28,6 +28,10 @@ struct Images {
   /// the first failure, if any.
   std::function<Status(std::span<const Image>)> decode;
 
+  /// The image stretched to another size, as a picture with an alpha channel. Colours are weighted
+  /// by their alpha: what is transparent lends no colour to its neighbours. Keeps the profile.
+  std::function<Result<Image>(const Image&, const PixelSize&)> resized;
+
   /// The image as the bytes of a PNG file.
   std::function<Result<Data>(const Image&)> pngRepresentation;
 

@@ -23,7 +23,9 @@
 #include "core/platform/MainQueue.h"
 #include "core/platform/MusicPlayer.h"
 #include "core/platform/NotificationCentre.h"
+#include "core/platform/Pasteboard.h"
 #include "core/platform/PhoneBook.h"
+#include "core/platform/ReviewController.h"
 #include "core/platform/SharedInstances.h"
 #include "core/platform/Symbols.h"
 #include "core/platform/WeatherService.h"
@@ -56,6 +58,8 @@ struct Platform {
   Geocoder geocoder;
   WeatherService weatherService;
   MusicPlayer musicPlayer;
+  Pasteboard pasteboard;
+  ReviewController reviewController;
   Identifiers identifiers;
 
   /// What is made once per platform, such as the device name.

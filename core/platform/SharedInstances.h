@@ -28,6 +28,13 @@ class SharedInstances final {
     state_->instances[std::type_index(typeid(T))] = std::move(instance);
   }
 
+  /// The next call of `get` makes it anew. Whoever holds the present one keeps it.
+  template <class T>
+  void forget() const {
+    const std::lock_guard lock(state_->mutex);
+    state_->instances.erase(std::type_index(typeid(T)));
+  }
+
  private:
   struct State {
     std::recursive_mutex mutex;

@@ -100,6 +100,11 @@ class FileImage final : public ImageSource {
     if (!picture) return picture.failure();
     return picture->bitmap;
   }
+  Result<Data> fileData() const override {
+    const auto bytes = readWhole();
+    if (!bytes) return Failure{path_, std::strerror(errno)};
+    return Data(bytes->span().begin(), bytes->span().end());
+  }
 
  private:
   const Result<DecodedPicture>& decoded() const {
@@ -107,9 +112,12 @@ class FileImage final : public ImageSource {
     return *decoded_;
   }
 
+  std::optional<FileBytes> readWhole() const {
+    return readBytes(file_->file.get(), static_cast<std::size_t>(file_->identity.bytes));
+  }
+
   Result<DecodedPicture> decode() const {
-    const auto bytes =
-        readBytes(file_->file.get(), static_cast<std::size_t>(file_->identity.bytes));
+    const auto bytes = readWhole();
     if (!bytes) return Failure{path_, std::strerror(errno)};
     Result<DecodedPicture> picture = file_->format.decode(bytes->span());
     if (!picture) return ofFile(path_, picture.failure());
@@ -220,6 +228,9 @@ Images makeImages(const HomeFolder& home) {
   return {.load = [known = std::make_shared<KnownFiles>()](
                       const std::string& path) { return known->load(path); },
           .decode = decodeAll,
+          .resized = [](const Image&, const PixelSize&) -> Result<Image> {
+            return Failure{"picture", "it can't be resized yet"};
+          },
           .pngRepresentation = pngRepresentation,
           .writePngFiles =
               [home](std::span<const PngFile> files) { return writePngFiles(home, files); }};

@@ -75,7 +75,8 @@ PhoneChoice choosePhone(const HomeFolder& home, const PhoneOverrides& overrides)
 PhoneBook makePhoneBook(const HomeFolder& home, const PhoneChoice& choice) {
   return {.models = phoneModels,
           .current = [choice] { return choice; },
-          .save = [home](const PhoneChoice& chosen) { return saveChoice(home, chosen); }};
+          .save = [home](const PhoneChoice& chosen) { return saveChoice(home, chosen); },
+          .watch = [](const std::function<void(const PhoneChoice&)>&) { return Subscription(); }};
 }
 
 Device makeDevice(const PhoneChoice& choice, bool dark) {

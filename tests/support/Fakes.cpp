@@ -92,6 +92,9 @@ void FakeFolder::use(Platform& platform) {
     if (found == images.end()) return Failure{path, "no such file"};
     return found->second;
   };
+  platform.images.resized = [](const Image&, const PixelSize& size) -> Result<Image> {
+    return positionImage(size.width, size.height);
+  };
   platform.images.writePngFiles = [this](std::span<const PngFile> files) {
     std::vector<Result<std::size_t>> results;
     for (const PngFile& file : files) {
@@ -128,6 +131,33 @@ void FakePhone::use(Platform& platform) {
       .screenScale = [this] { return scale; },
       .screenNativeScale = [this] { return nativeScale; },
       .userInterfaceStyle = [this] { return userInterfaceStyle; }};
+  platform.phoneBook = {.models = [this] { return models; },
+                        .current = [this] { return choice; },
+                        .save = [this](const PhoneChoice& chosen) -> Status {
+                          choose(chosen);
+                          if (full) return Failure{"phone", "the disk is full"};
+                          return success();
+                        },
+                        .watch =
+                            [this](std::function<void(const PhoneChoice&)> subscriber) {
+                              return choices_.add(std::move(subscriber));
+                            }};
+}
+
+void FakePhone::choose(const PhoneChoice& chosen) {
+  choice = chosen;
+  machine = chosen.identifier;
+  os = chosen.os;
+  for (const PhoneModel& model : models) {
+    if (std::ranges::count(model.identifiers, chosen.identifier) == 0) continue;
+    const ScreenMode& screen = chosen.zoomed ? model.zoomed : model.standard;
+    bounds = screen.bounds;
+    scale = screen.scale;
+    nativeScale = screen.nativeScale;
+  }
+  if (chosen.appearance != AppearanceChoice::desktop)
+    userInterfaceStyle = chosen.appearance == AppearanceChoice::dark ? 2 : 1;
+  choices_.notify(chosen);
 }
 
 void FakeConsole::use(Platform& platform) {
@@ -142,8 +172,13 @@ void FakeSurroundings::use(Platform& platform) {
                       .mediumImpact = [this] { felt.emplace_back("medium impact"); }};
   platform.notificationCentre.post = [this](const Notification& note) { posted.push_back(note); };
   platform.application = {.suspend = [this] { ++suspensions; },
-                          .rootViewController = [this] { return rootViewController; }};
+                          .rootViewController = [this] { return rootViewController; },
+                          .connectedScenes = [this] { return scenes; }};
+  platform.reviewController.requestReview = [this](const Scene& scene) {
+    reviewsRequested.push_back(scene);
+  };
   platform.bundle.shortVersion = [this] { return version; };
+  platform.bundle.appStoreReceiptURL = [this] { return receipt; };
   platform.bannerKit = {.start = [this] { ++kitStarts; },
                         .load =
                             [this](const BannerRequest& request, BannerDelegate delegate) {
@@ -245,6 +280,11 @@ void FakeLocation::authorize(AuthorizationStatus status) {
 
 void FakeLocation::move(std::vector<Coordinate> positions) {
   positions_.notify(positions);
+}
+
+void FakePasteboard::use(Platform& platform) {
+  platform.pasteboard = {.hasImages = [this] { return hasImages; },
+                         .image = [this] { return image; }};
 }
 
 void FakeGeocoder::use(Platform& platform) {

@@ -47,7 +47,8 @@ class FakeFolder final {
   static constexpr const char* root = "/group";
 };
 
-/// A phone: a real machine identifier, or "x86_64" with a simulated one in the environment.
+/// A phone: a real machine identifier, or "x86_64" with a simulated one in the environment. Another
+/// one of its models may be chosen, whose screen it then has.
 class FakePhone final {
  public:
   void use(Platform& platform);
@@ -59,6 +60,14 @@ class FakePhone final {
   double scale = 3;
   double nativeScale = 3;
   std::int64_t userInterfaceStyle = 1;
+  std::vector<PhoneModel> models;
+  PhoneChoice choice{.identifier = "iPhone16,1", .os = {18, 0, 0}};
+  bool full = false; ///< a choice can't be kept
+
+ private:
+  void choose(const PhoneChoice& chosen);
+
+  Subscribers<const PhoneChoice&> choices_;
 };
 
 /// The debug lines in order, and how many reloads of the widgets were asked for.
@@ -70,7 +79,7 @@ class FakeConsole final {
 };
 
 /// What the application does around its screens: haptics by name, links that were passed on,
-/// suspensions, and a queue whose time is moved by hand.
+/// suspensions, requests for a review, and a queue whose time is moved by hand.
 class FakeSurroundings final {
  public:
   void use(Platform& platform);
@@ -81,7 +90,10 @@ class FakeSurroundings final {
   std::vector<Notification> posted;
   int suspensions = 0;
   std::optional<ViewController> rootViewController;
+  std::vector<Scene> scenes;
+  std::vector<Scene> reviewsRequested;
   std::optional<std::string> version = "2.2";
+  std::optional<std::string> receipt;
   std::vector<BannerRequest> banners;
   BannerDelegate bannerDelegate;
   int kitStarts = 0;
@@ -179,6 +191,15 @@ class Pending final {
     std::map<std::uint64_t, std::pair<Question, Completion>> waiting;
   };
   std::shared_ptr<State> state_ = std::make_shared<State>();
+};
+
+/// What lies in the clipboard: it may claim a picture that it has not.
+class FakePasteboard final {
+ public:
+  void use(Platform& platform);
+
+  bool hasImages = false;
+  std::optional<Image> image;
 };
 
 /// The names of places, and the weather there.

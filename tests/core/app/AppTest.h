@@ -27,6 +27,7 @@ class AppTest : public testing::Test {
     geocoder.use(platform);
     weather.use(platform);
     music.use(platform);
+    pasteboard.use(platform);
     platform.identifiers.newUuid = [this] { return "id" + std::to_string(++ids_); };
     platform.bundle.identifier = [] { return std::optional<std::string>("com.example.program"); };
   }
@@ -63,6 +64,7 @@ class AppTest : public testing::Test {
   FakeGeocoder geocoder;
   FakeWeatherService weather;
   FakeMusicPlayer music;
+  FakePasteboard pasteboard;
   Image screenshot = positionImage(1179, 2556);
 
  private:
