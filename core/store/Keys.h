@@ -78,6 +78,7 @@ inline constexpr Key<String> lastUsedAppVersion{standard, "last_used_app_version
 inline constexpr Key<Bool>   betaEnrollment{standard, "beta_enrollment", isAState};
 inline constexpr Key<Date>   appReviewAskDate{standard, "appReviewAskDate", isAState};
 inline constexpr Key<Int>    appStartUpsCountKey{standard, "appStartUpsCountKey", readsAsDefault};
+inline constexpr Key<Bool>   reviewClosed{standard, "reviewClosed", isAState};
 inline constexpr Key<Int>    styleInTheMaking{standard, "styleInTheMaking", isAState};
 inline constexpr Key<String> windowPlace{standard, "windowPlace", isAState};
 inline constexpr Key<String> pictureFolder{standard, "pictureFolder", isAState};
@@ -128,7 +129,7 @@ inline constexpr std::tuple groupKeys{selectedConfig,
 
 /// The keys of the standard defaults.
 inline constexpr std::tuple standardKeys{destination,      lastUsedAppVersion,  betaEnrollment,
-                                         appReviewAskDate, appStartUpsCountKey, styleInTheMaking,
-                                         windowPlace,      pictureFolder};
+                                         appReviewAskDate, appStartUpsCountKey, reviewClosed,
+                                         styleInTheMaking, windowPlace,         pictureFolder};
 
 } // namespace vitrelle::keys
