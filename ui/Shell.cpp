@@ -1,13 +1,14 @@
 #include "ui/Shell.h"
 
-#include "core/families/Families.h"
 #include "core/store/Keys.h"
 #include "core/store/StoredValue.h"
+#include "ui/Addresses.h"
 #include "ui/app/ScreenTable.h"
 #include "ui/app/WindowPlace.h"
 #include "ui/pickers/PictureFolder.h"
 
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QEvent>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -30,6 +31,7 @@ Shell::Shell(const Platform& platform, ShellOptions options)
       surroundings_(platform, options_.framed, options_.animated),
       notices_(this),
       locationQuestion_(platform),
+      reviewQuestion_(platform),
       navigator_(platform, notices_),
       root_(platform) {
   engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
@@ -76,12 +78,9 @@ void Shell::raise() {
   window_->requestActivate();
 }
 
-QList<FamilyWords> Shell::families() const {
-  QList<FamilyWords> families;
-  for (const FamilyDescription& words : familyTable) {
-    if (styleFamily(words.name).hasEditor()) families += FamilyWords(words);
-  }
-  return families;
+bool Shell::openReview() const {
+  const QUrl address = addresses::set(addresses::review);
+  return !address.isEmpty() && QDesktopServices::openUrl(address);
 }
 
 bool Shell::canPaste() const {

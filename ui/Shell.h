@@ -5,7 +5,7 @@
 #include "ui/app/Navigator.h"
 #include "ui/app/RootScreen.h"
 #include "ui/centre/LocationAnswer.h"
-#include "ui/lifecycle/FamilyWords.h"
+#include "ui/centre/ReviewAnswer.h"
 #include "ui/parts/Notices.h"
 #include "ui/parts/Surroundings.h"
 #include "ui/pickers/FontScreen.h"
@@ -34,9 +34,8 @@ class Shell final : public QObject {
   Q_PROPERTY(bool launches READ isLaunch CONSTANT)
   Q_PROPERTY(vitrelle::ui::RootScreen* root READ root CONSTANT)
   Q_PROPERTY(vitrelle::ui::LocationAnswer* locationQuestion READ locationQuestion CONSTANT)
+  Q_PROPERTY(vitrelle::ui::ReviewAnswer* reviewQuestion READ reviewQuestion CONSTANT)
   Q_PROPERTY(vitrelle::ui::Navigator* navigator READ navigator CONSTANT)
-  /// The families whose styles can be made.
-  Q_PROPERTY(QList<vitrelle::ui::FamilyWords> families READ families CONSTANT)
   /// Whether a picture lies in the clipboard.
   Q_PROPERTY(bool canPaste READ canPaste NOTIFY canPasteChanged)
 
@@ -62,8 +61,8 @@ class Shell final : public QObject {
   bool isLaunch() const { return options_.launches; }
   RootScreen* root() { return &root_; }
   LocationAnswer* locationQuestion() { return &locationQuestion_; }
+  ReviewAnswer* reviewQuestion() { return &reviewQuestion_; }
   Navigator* navigator() { return &navigator_; }
-  QList<FamilyWords> families() const;
   bool canPaste() const;
 
   /// Whether a screen is there; nothing leads to one that is not.
@@ -75,6 +74,8 @@ class Shell final : public QObject {
     return new FontScreen(platform_, storedFont(picker.toStdString()));
   }
   Q_INVOKABLE vitrelle::ui::SymbolScreen* symbols() const { return new SymbolScreen(platform_); }
+  /// Opens the page on which a user rates the program; false where none is set.
+  Q_INVOKABLE bool openReview() const;
   /// Where the choosing of a picture begins.
   Q_INVOKABLE QString pictureFolder() const;
   /// Lets the next choosing begin where this file lies.
@@ -92,6 +93,7 @@ class Shell final : public QObject {
   Surroundings surroundings_;
   Notices notices_;
   LocationAnswer locationQuestion_;
+  ReviewAnswer reviewQuestion_;
   Navigator navigator_;
   RootScreen root_;
   QQuickWindow* window_ = nullptr; ///< the engine's

@@ -145,6 +145,15 @@ std::function<std::int64_t()> appearanceOf(const Arguments& arguments) {
   };
 }
 
+/// The window as the system's scene of the application.
+Scene presentScene() {
+  const Qt::ApplicationState state = QGuiApplication::applicationState();
+  return {.activationState = state == Qt::ApplicationActive ? ActivationState::foregroundActive
+                             : state == Qt::ApplicationInactive
+                                 ? ActivationState::foregroundInactive
+                                 : ActivationState::background};
+}
+
 /// The window, from its start to its end. `instance` may be null: then no links come in.
 int runWindow(const Arguments& arguments, const host::EventLoop& loop,
               host::AppInstance* instance) {
@@ -176,6 +185,13 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
     suspended = true; // a hidden window does not end the program
     if (shell != nullptr && shell->window() != nullptr) shell->window()->hide();
   };
+
+  if (interactive) {
+    platform.application.connectedScenes = [] { return std::vector<Scene>{presentScene()}; };
+    platform.reviewController.requestReview = [&](const Scene&) {
+      if (shell != nullptr) shell->reviewQuestion()->ask();
+    };
+  }
 
   platform.debugConsole.print = [print = platform.debugConsole.print](const std::string& line) {
     print(cli::oneLine(line));

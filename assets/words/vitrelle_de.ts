@@ -35,6 +35,34 @@
         <source></source>
         <translation>Widget-Zentrale</translation>
     </message>
+    <message id="app.widgetsRefreshed">
+        <source></source>
+        <translation>Die Widgets zeichnen sich neu.</translation>
+    </message>
+    <message id="app.review.question">
+        <source></source>
+        <translation>Gefällt dir Vitrelle?</translation>
+    </message>
+    <message id="app.review.why">
+        <source></source>
+        <translation>Eine Bewertung hilft anderen, es zu finden. Sie dauert eine Minute.</translation>
+    </message>
+    <message id="app.review.open">
+        <source></source>
+        <translation>Bewertung schreiben</translation>
+    </message>
+    <message id="app.review.later">
+        <source></source>
+        <translation>Nicht jetzt</translation>
+    </message>
+    <message id="app.review.never">
+        <source></source>
+        <translation>Nicht mehr fragen</translation>
+    </message>
+    <message id="app.review.nowhere">
+        <source></source>
+        <translation>Diese Ausgabe von Vitrelle nennt keine Seite für Bewertungen.</translation>
+    </message>
     <message id="app.menu.choose">
         <source></source>
         <translation>Bildschirmfoto auswählen …</translation>

@@ -35,6 +35,34 @@
         <source></source>
         <translation>Widget Centre</translation>
     </message>
+    <message id="app.widgetsRefreshed">
+        <source></source>
+        <translation>The widgets draw themselves anew.</translation>
+    </message>
+    <message id="app.review.question">
+        <source></source>
+        <translation>Do you like Vitrelle?</translation>
+    </message>
+    <message id="app.review.why">
+        <source></source>
+        <translation>A review helps other people find it. It takes a minute.</translation>
+    </message>
+    <message id="app.review.open">
+        <source></source>
+        <translation>Leave a Review</translation>
+    </message>
+    <message id="app.review.later">
+        <source></source>
+        <translation>Not Now</translation>
+    </message>
+    <message id="app.review.never">
+        <source></source>
+        <translation>Don’t Ask Again</translation>
+    </message>
+    <message id="app.review.nowhere">
+        <source></source>
+        <translation>This build of Vitrelle names no page for reviews.</translation>
+    </message>
     <message id="app.menu.choose">
         <source></source>
         <translation>Choose a Screenshot…</translation>

@@ -52,7 +52,9 @@ TEST_F(FamilyPageTest, style_isMadeFromTheRootFoundAndEdited) {
   addStyle(0);
   open();
   driver->click("widgetCentreButton");
-  driver->click("family text");
+  driver->click("tile More");
+  driver->find("tile Text")->forceActiveFocus(); // scrolls there
+  driver->click("tile Text");
   driver->click("create");
   waitFor("setupPage");
   driver->click("textField");

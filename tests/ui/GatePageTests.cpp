@@ -26,7 +26,7 @@ TEST_F(GatePageTest, weather_isEnteredWhereThePositionMayBeKnown) {
   location.authorize(AuthorizationStatus::denied);
   open();
   driver->click("widgetCentreButton");
-  driver->click("family weather");
+  driver->click("tile Weather");
   waitFor("gateRefusal");
   EXPECT_FALSE(driver->isShown("gateSpinner"));
   EXPECT_EQ(driver->find("gateTitle")->property("text").toString(), "We can't get Weather Data");
@@ -86,7 +86,7 @@ TEST_F(GatePageTest, questionBeforeTheGate_hasTheKeysAndLeavesThemToIt) {
   addStyle(0);
   open();
   driver->click("widgetCentreButton");
-  driver->click("family weather");
+  driver->click("tile Weather");
   waitFor("locationQuestion");
   waitFor("gatePage");
   EXPECT_TRUE(driver->find("alertButton")->hasActiveFocus());

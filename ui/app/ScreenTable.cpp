@@ -5,6 +5,8 @@
 #include "ui/centre/DateTextScreen.h"
 #include "ui/centre/LocationScreen.h"
 #include "ui/centre/SolidBackgroundScreen.h"
+#include "ui/centre/WidgetCentreScreen.h"
+#include "ui/centre/WidgetSettingsScreen.h"
 #include "ui/lifecycle/FamilyScreen.h"
 #include "ui/lifecycle/GateScreen.h"
 #include "ui/pickers/FontScreen.h"
@@ -106,7 +108,8 @@ std::vector<ScreenEntry> makeTable() {
       {"ModernNewLightDark", "IntakePage", newStyle},
       {"ModernChangeLightDark", "IntakePage", changeStyle},
       {"PerspectiveZoomDescription", "PerspectiveZoomDescription", nothing},
-      {"ModernWidgetCentre", "WidgetCentrePage", nothing},
+      {"ModernWidgetCentre", "WidgetCentrePage", screenOver<WidgetCentreScreen>},
+      {"WidgetSettingsView", "WidgetSettingsPage", screenOver<WidgetSettingsScreen>},
       {"ModernFontPicker", "FontPickerPage", anyFont},
       {"FontPicker", "FontPickerPage", storedFontOf},
       {"DateFontPicker", "FontPickerPage", storedFontOf},

@@ -37,7 +37,7 @@ FocusScope {
     KeysKeeper {
         id: keys
         overlay: over
-        covered: Shell.root.showingAlert || Shell.locationQuestion.shown
+        covered: Shell.root.showingAlert || Shell.locationQuestion.shown || review.shown
     }
     ScreenStack {
         id: stack
@@ -73,6 +73,21 @@ FocusScope {
             shown: Shell.locationQuestion.shown
             onChosen: index => index === 0 ? Shell.locationQuestion.allow() : Shell.locationQuestion.deny()
             onDismissed: Shell.locationQuestion.dismiss()
+        }
+        AlertBox {
+            id: review
+            objectName: "reviewQuestion"
+            title: qsTrId("app.review.question")
+            message: qsTrId("app.review.why")
+            choices: [qsTrId("app.review.open"), qsTrId("app.review.later"), qsTrId("app.review.never")]
+            shown: Shell.reviewQuestion.shown && !Shell.root.showingAlert && !Shell.locationQuestion.shown
+            onChosen: index => {
+                if (index === 0 && !Shell.openReview())
+                    Notices.show(qsTrId("app.review.nowhere"));
+                if (index !== 1)
+                    Shell.reviewQuestion.close();
+            }
+            onDismissed: Shell.reviewQuestion.dismiss()
         }
     }
     NoticeBar {}

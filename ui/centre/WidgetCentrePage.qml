@@ -1,66 +1,102 @@
-// The widget families, each with the way to its styles.
+// The hub: the way to the widget families, to their settings and to the export of slices.
 import QtQuick
+import QtQuick.Controls
 import Vitrelle
 
 Page {
     id: page
     objectName: "widgetCentrePage"
 
+    required property WidgetCentreScreen screen
+    readonly property WidgetCentreScreen centre: screen
+
     signal opened(string screen)
 
-    title: qsTrId("app.widgetCentre")
+    function tap(index: int) {
+        const screen = centre.tap(index);
+        if (screen !== "")
+            opened(screen);
+    }
 
-    Column {
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: 24
-        spacing: 12
+    title: centre.title
+    symbol: centre.symbol
+    black: !centre.list
+    covered: centre.showSettings || centre.showExport
+    StackView.onActivated: centre.appear()
 
-        Repeater {
-            model: Shell.families
+    Flickable {
+        anchors.fill: parent
+        visible: page.centre.list
+        contentHeight: rows.height + 24
+        interactive: contentHeight > height
+        clip: interactive
+        boundsBehavior: Flickable.StopAtBounds
 
-            Pressable {
-                id: row
+        Column {
+            id: rows
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 12
+            spacing: 8
 
-                required property int index
-                required property familyWords modelData
+            Repeater {
+                model: page.centre.list ? page.centre.tiles : []
 
-                objectName: "family " + modelData.name
-                width: Surroundings.screenWidth - 60
-                height: 60
-                focus: index === 0
-                focusRadius: 22
-                name: modelData.entryTitle
-                onPressed: page.opened(modelData.firstScreen)
+                LongButton {
+                    required property int index
+                    required property hubTile modelData
 
-                Panel {
-                    anchors.fill: parent
-                    radius: 18
-                }
-                SymbolItem {
-                    anchors.verticalCenter: parent.verticalCenter
-                    x: 30 - size / 2
-                    name: row.modelData.entrySymbol
-                    size: 26
-                    colour: Theme.accent
-                }
-                Label {
-                    anchors.verticalCenter: parent.verticalCenter
-                    x: 60
-                    spoken: false
-                    font.pixelSize: 17
-                    font.weight: Font.DemiBold
-                    text: row.modelData.entryTitle
-                }
-                SymbolItem {
-                    anchors.right: parent.right
-                    anchors.rightMargin: 16
-                    anchors.verticalCenter: parent.verticalCenter
-                    name: "chevron.right"
-                    size: 14
-                    weight: 600
-                    colour: Theme.grey
+                    objectName: "tile " + modelData.text
+                    focus: index === 0
+                    colour: modelData.colour
+                    symbol: modelData.symbol
+                    text: modelData.text
+                    onPressed: page.tap(index)
+                    Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus()
+                    Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus()
                 }
             }
         }
     }
+    TileStrip {
+        id: strip
+        objectName: "tiles"
+        visible: !page.centre.list
+        y: page.centre.padding / 2
+        width: parent.width
+        tiles: page.centre.list ? [] : page.centre.tiles
+        side: page.centre.iconSide
+        spacing: page.centre.tileSpacing
+        padding: page.centre.padding
+        onTapped: index => page.tap(index)
+    }
+    StoredPicture { // what the widgets are to melt into
+        objectName: "styleInUse"
+        visible: !page.centre.list && page.centre.selectedStyle >= 0
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: strip.y + strip.height + page.centre.padding / 2
+        height: Math.min(parent.height - y - page.centre.padding / 2, Surroundings.screenHeight / 1.5)
+        width: height * Surroundings.screenWidth / Surroundings.screenHeight
+        styleNumber: page.centre.selectedStyle
+        dark: Surroundings.dark
+        radius: 38 * height / (Surroundings.screenHeight / 1.5)
+    }
+    overlay: [
+        Sheet {
+            id: settings
+            objectName: "settingsSheet"
+            shown: page.centre.showSettings
+            onDismissed: page.centre.dismissSheet()
+
+            Loader {
+                anchors.fill: parent
+                focus: true
+                active: settings.present
+                sourceComponent: WidgetSettingsPage {
+                    focus: true
+                    screen: page.centre.settings()
+                    onClosed: page.centre.dismissSheet()
+                }
+            }
+        }
+    ]
 }

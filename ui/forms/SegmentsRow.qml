@@ -7,7 +7,7 @@ Panel {
 
     required property string title
     required property string label // what is chosen, for those who do not see the title
-    required property var options // each with a symbol, and what it stands for
+    required property var options // each with a symbol, and what it stands for; the words where it has none
     required property int chosen // -1 where it is none of them
 
     signal chose(int option)
@@ -79,9 +79,18 @@ Panel {
 
                 SymbolItem {
                     anchors.centerIn: parent
+                    visible: name !== ""
                     name: segment.modelData.symbol
                     size: 17
                     colour: Theme.text
+                }
+                Label {
+                    anchors.centerIn: parent
+                    visible: segment.modelData.symbol === ""
+                    font.pixelSize: 15
+                    font.weight: Font.DemiBold
+                    spoken: false
+                    text: segment.modelData.spoken
                 }
             }
         }

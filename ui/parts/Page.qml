@@ -6,6 +6,7 @@ FocusScope {
     id: page
 
     property string title
+    property string symbol // before the title
     property string backTitle: "Back"
     property bool hasBack: true
     property bool black: false // the ground, else in the program's colours
@@ -49,9 +50,19 @@ FocusScope {
             bold: true
             onPressed: page.closed()
         }
+        SymbolItem {
+            visible: page.symbol !== ""
+            anchors.verticalCenter: parent.verticalCenter
+            x: heading.x + (heading.width - heading.contentWidth) / 2 - size - 8
+            name: page.symbol
+            size: 18
+            weight: 600
+            colour: Theme.accent
+        }
         Label {
+            id: heading
             // In the middle where there is room, else beside the way back.
-            readonly property real side: page.hasBack ? back.width + 24 : 12
+            readonly property real side: (page.hasBack ? back.width + 24 : 12) + (page.symbol !== "" ? 26 : 0)
             readonly property bool fits: implicitWidth <= parent.width - 2 * side
 
             anchors.verticalCenter: parent.verticalCenter
