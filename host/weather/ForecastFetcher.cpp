@@ -16,8 +16,6 @@ namespace vitrelle::host {
 
 namespace {
 
-constexpr std::chrono::seconds longestRest = std::chrono::hours(1);
-
 Failure failure(const std::string& why) {
   return {"the weather service", why};
 }
@@ -59,7 +57,10 @@ std::chrono::seconds retryAfter(const Download& reply) {
 } // namespace
 
 ForecastFetcher::ForecastFetcher(FetchRules rules, HomeFolder home, Answer answer)
-    : rules_(std::move(rules)), cache_(std::move(home)), answer_(std::move(answer)) {}
+    : rules_(std::move(rules)),
+      cache_(home),
+      rest_(std::move(home), rules_.url),
+      answer_(std::move(answer)) {}
 
 void ForecastFetcher::ask(Ticket ticket, const Coordinate& place, const Date& now) {
   Question question{.url = urlOf(place), .now = now, .kept = nullptr};
@@ -74,8 +75,7 @@ void ForecastFetcher::ask(Ticket ticket, const Coordinate& place, const Date& no
     if (known) question.known = *known;
   }
   if (question.known && question.kept->isFresh(now)) return answer(question.url, *question.known);
-  if (Clock::now() < restUntil_)
-    return answer(question.url, failure("it failed a short while ago"));
+  if (rest_.lasts()) return answer(question.url, failure("it failed a short while ago"));
   request(question);
 }
 
@@ -129,8 +129,8 @@ void ForecastFetcher::keep(KeptReply kept, const Date& now, const Download& repl
 }
 
 void ForecastFetcher::rest(const Download& reply) {
-  const std::chrono::milliseconds wanted = std::min(retryAfter(reply), longestRest);
-  restUntil_ = Clock::now() + std::max(wanted, rules_.restAfterFailure);
+  const std::chrono::milliseconds wanted = std::min(retryAfter(reply), ServiceRest::longest);
+  rest_.begin(std::max(wanted, rules_.restAfterFailure));
 }
 
 void ForecastFetcher::answer(const std::string& url, const Result<Weather>& weather) {

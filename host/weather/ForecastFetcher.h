@@ -6,6 +6,7 @@
 #include "core/platform/WeatherService.h"
 #include "host/weather/Download.h"
 #include "host/weather/ReplyCache.h"
+#include "host/weather/ServiceRest.h"
 
 #include <QNetworkAccessManager>
 #include <QObject>
@@ -40,7 +41,6 @@ class ForecastFetcher final : public QObject {
   void ask(Ticket ticket, const Coordinate& place, const Date& now);
 
  private:
-  using Clock = std::chrono::steady_clock;
   struct Question {
     std::string url;
     Date now;
@@ -57,10 +57,10 @@ class ForecastFetcher final : public QObject {
 
   FetchRules rules_;
   ReplyCache cache_;
+  ServiceRest rest_;
   Answer answer_;
   std::unique_ptr<QNetworkAccessManager> manager_;   ///< from the first request on
   std::map<std::string, std::vector<Ticket>> asked_; ///< by address
-  Clock::time_point restUntil_{};
 };
 
 } // namespace vitrelle::host

@@ -95,6 +95,21 @@ TEST_F(WeatherCommandTest, fetch_storesTheWeatherAndRestsThen) {
   EXPECT_EQ(Json::parse(run(rain).output).at("hourlyRain").size(), 4U);
 }
 
+TEST_F(WeatherCommandTest, serviceThatFailed_isNotAskedByTheNextCommand) {
+  serve("no forecast");
+  const FileServer server(folder.string());
+  const std::vector<std::string> fetch{"weather",       "fetch",
+                                       "--location",    "35.02,135.75",
+                                       "--now",         "2026-11-21T13:10:00Z",
+                                       "--weather-url", server.url("complete")};
+  EXPECT_EQ(run(fetch).status, 1);
+  serve(test::servedForecast().dump());
+  const Outcome again = run(fetch);
+  EXPECT_EQ(again.status, 1);
+  EXPECT_NE(again.complaints.find("it failed a short while ago"), std::string::npos)
+      << again.complaints;
+}
+
 TEST_F(WeatherCommandTest, failure_isToldAndStoresNothing) {
   serve("no forecast");
   const FileServer server(folder.string());

@@ -23,6 +23,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -47,6 +48,10 @@ QByteArray body() {
 
 Answer sound() {
   return {httpAnswer("200 OK", ages, body())};
+}
+
+Answer failed() {
+  return {httpAnswer("500 Internal Server Error", {}, {})};
 }
 
 Answer redirection(const std::string& to) {
@@ -358,23 +363,74 @@ TEST_F(ForecastServiceTest, placesOfLongAgo_areForgotten) {
 }
 
 TEST_F(ForecastServiceTest, serviceThatFailed_isLeftInPeaceForAWhile) {
-  const auto fail = [](const QByteArray&) {
-    return Answer{httpAnswer("500 Internal Server Error", {}, {})};
-  };
+  server.answer = [](const QByteArray&) { return failed(); };
   rest = std::chrono::hours(1);
   restart();
-  server.answer = fail;
   EXPECT_FALSE(ask());
   for (const Coordinate& place : {oslo, Coordinate{60, 10}})
     EXPECT_EQ(ask(place).failure().why, "it failed a short while ago");
+  restart();
+  EXPECT_EQ(ask().failure().why, "it failed a short while ago") << "by the next program too";
   EXPECT_EQ(server.requests.size(), 1U);
+  WeatherSources other = sources();
+  other.url = server.url("/other");
+  service = makeWeatherService(other, makeQtLoop());
+  EXPECT_FALSE(ask());
+  EXPECT_EQ(server.requests.size(), 2U) << "another service has not failed";
 
+  fs::remove_all(cache());
   rest = std::chrono::milliseconds(100);
   restart();
   EXPECT_FALSE(ask());
   QTest::qWait(200);
   server.answer = [](const QByteArray&) { return sound(); };
   EXPECT_TRUE(ask());
+}
+
+TEST_F(ForecastServiceTest, restOfAnotherProgram_isNotTakenForMoreThanItIs) {
+  using std::chrono::hours;
+  using std::chrono::milliseconds;
+  const auto since = std::chrono::system_clock::now().time_since_epoch();
+  const auto lines = [&](milliseconds begun, milliseconds end) {
+    const auto moment = [&](milliseconds distance) {
+      return std::to_string((std::chrono::duration_cast<milliseconds>(since) + distance).count());
+    };
+    return "vitrelle rest 1\n" + server.url() + "\n" + moment(begun) + " " + moment(end) + "\n";
+  };
+  const std::string sound = lines(hours(-1), hours(1));
+  const std::tuple<const char*, std::string, bool> cases[] = {
+      {"sound", sound, true},
+      {"over", lines(hours(-2), hours(-1)), false},
+      {"of a clock that was put back", lines(hours(1), hours(2)), false},
+      {"endless", lines(hours(-25), hours(100'000)), false},
+      {"long", lines(hours(-23), hours(100'000)), true},
+      {"before all times",
+       "vitrelle rest 1\n" + server.url() + "\n-9223372036854775808 9223372036854775807\n", false},
+      {"empty", "", false},
+      {"cut off", sound.substr(0, sound.size() - 20), false},
+      {"of another kind", "x" + sound, false},
+      {"no numbers", "vitrelle rest 1\n" + server.url() + "\n" + "soon later\n", false},
+      {"noise", std::string(5000, '\xA5'), false}};
+  server.answer = [](const QByteArray&) { return failed(); };
+  fs::create_directories(cache());
+  for (const auto& [name, text, rests] : cases) {
+    std::ofstream(cache() / "rest", std::ios::binary) << text;
+    restart();
+    const std::size_t asked = server.requests.size();
+    EXPECT_FALSE(ask()) << name;
+    EXPECT_EQ(server.requests.size(), rests ? asked : asked + 1) << name;
+  }
+}
+
+TEST_F(ForecastServiceTest, restThatCantBeKept_holdsForThisProgram) {
+  fs::create_directories(cache().parent_path());
+  std::ofstream(cache()) << "no folder";
+  server.answer = [](const QByteArray&) { return failed(); };
+  rest = std::chrono::hours(1);
+  restart();
+  EXPECT_FALSE(ask());
+  EXPECT_FALSE(ask());
+  EXPECT_EQ(server.requests.size(), 1U);
 }
 
 TEST_F(ForecastServiceTest, retryAfter_isHonoured) {
@@ -390,14 +446,17 @@ TEST_F(ForecastServiceTest, retryAfter_isHonoured) {
       {"Date: Sat, 21 Nov 2026 13:00:00 GMT\r\nRetry-After: Sat, 21 Nov 2026 12:00:00 GMT\r\n",
        false}};
   for (const auto& [headers, rests] : cases) {
-    restart();
+    fs::remove_all(cache());
     server.requests.clear();
     server.answer = [headers = headers](const QByteArray&) {
       return Answer{httpAnswer("429 Too Many Requests", headers, {})};
     };
-    EXPECT_FALSE(ask()) << headers;
-    EXPECT_FALSE(ask()) << headers;
-    EXPECT_EQ(server.requests.size(), rests ? 1U : 2U) << headers;
+    for (int i = 0; i < 2; ++i) {
+      restart();
+      EXPECT_FALSE(ask()) << headers;
+      EXPECT_FALSE(ask()) << headers;
+    }
+    EXPECT_EQ(server.requests.size(), rests ? 1U : 4U) << headers;
   }
 }
 
