@@ -2,10 +2,15 @@
 
 #include "host/store/SuiteFile.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <set>
+#include <string_view>
 #include <utility>
 
 #include <sys/inotify.h>
@@ -15,8 +20,9 @@ namespace vitrelle::host {
 
 namespace {
 
-/// Covers a writer that died before it could wake anyone, and a home folder that is yet to come.
-constexpr double slowPollSeconds = 1;
+/// After something happened to a store's files without a poke: by then a commit that began has come
+/// to its end. Also the distance of looks at what nothing tells of.
+constexpr double checkSeconds = 1;
 
 class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults> {
   struct Watched {
@@ -54,8 +60,12 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
   /// Runs a reading method of the suite's file, alone.
   template <class Method, class... Arguments>
   auto read(Suite suite, Method method, const Arguments&... arguments) {
-    const std::lock_guard lock(mutex_);
-    return readIn(watched(suite), method, arguments...);
+    auto result = [&] {
+      const std::lock_guard lock(mutex_);
+      return readIn(watched(suite), method, arguments...);
+    }();
+    if (!result) checkSoon();
+    return result;
   }
 
   Status write(Suite suite, const std::string& key, const StoreValue* value) {
@@ -66,7 +76,7 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
     Status written = value ? file.set(key, *value) : file.remove(key);
     file.setPatient(written.ok());
     if (written) {
-      watchHome(); // it may be new
+      static_cast<void>(watchHome()); // it may be new
       file.poke();
     }
     return written;
@@ -149,33 +159,70 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
         const std::lock_guard lock(mutex_);
         inotify_ = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
       }
-      const auto whileAlive = [weak = weak_from_this()](void (SqliteDefaults::*method)()) {
-        return [weak, method] {
-          if (const auto self = weak.lock()) ((*self).*method)();
-        };
-      };
-      slowPoll_ = loop_.every(slowPollSeconds, whileAlive(&SqliteDefaults::tick));
-      if (inotify_ < 0) return;
-      poked_ = loop_.whenReadable(inotify_, whileAlive(&SqliteDefaults::drain));
+      if (inotify_ >= 0) {
+        happened_ = loop_.whenReadable(inotify_, whileAlive(&SqliteDefaults::drain));
+      }
     }
-    watchHome();
+    isListening_ = true;
+    if (!watchHome()) checkSoon();
   }
 
-  /// Adding the folder again changes nothing, unless another one stands there now.
-  void watchHome() {
-    if (inotify_ >= 0) inotify_add_watch(inotify_, home_.c_str(), IN_CLOSE_WRITE | IN_ONLYDIR);
+  std::function<void()> whileAlive(void (SqliteDefaults::*method)()) {
+    return [weak = weak_from_this(), method] {
+      if (const auto self = weak.lock()) ((*self).*method)();
+    };
   }
 
+  /// Whether what happens in the home will be told. Adding the folder again changes nothing, unless
+  /// another one stands there now.
+  bool watchHome() const {
+    constexpr std::uint32_t told = IN_CLOSE_WRITE | IN_MODIFY | IN_CREATE | IN_DELETE |
+                                   IN_MOVED_FROM | IN_MOVED_TO | IN_MOVE_SELF | IN_ONLYDIR;
+    return inotify_ >= 0 && inotify_add_watch(inotify_, home_.c_str(), told) >= 0;
+  }
+
+  /// A poke tells of what can be read. All else is looked at a moment later: a log is written
+  /// before its change can be read, and a look at a store that is in trouble touches its files
+  /// itself.
   void drain() {
-    std::array<char, 4096> events{};
-    while (::read(inotify_, events.data(), events.size()) > 0) {
+    alignas(inotify_event) std::array<char, 4096> events{};
+    bool isPoked = false;
+    bool isTouched = false;
+    for (ssize_t size = 0; (size = ::read(inotify_, events.data(), events.size())) > 0;) {
+      for (const char* place = events.data(); place < events.data() + size;) {
+        inotify_event event{};
+        std::memcpy(&event, place, sizeof event);
+        const std::string_view name = event.len > 0 ? place + sizeof event : "";
+        place += sizeof event + event.len;
+        // What stands at the path is another folder now, or none.
+        if ((event.mask & IN_MOVE_SELF) != 0) inotify_rm_watch(inotify_, event.wd);
+        const bool isPoke = name.ends_with(".poke");
+        isPoked = isPoked || (isPoke && (event.mask & IN_CLOSE_WRITE) != 0);
+        isTouched = isTouched || name.empty() || name.find(".sqlite") != std::string_view::npos;
+      }
     }
-    deliverNews();
+    if (isTouched) checkSoon();
+    if (isPoked) deliverNews();
   }
 
-  void tick() {
-    watchHome();
+  /// One check is enough for all that happened no later than its distance before it.
+  void checkSoon() {
+    if (check_) {
+      isCheckWanted_ = true;
+    } else if (isListening_) {
+      check_ = loop_.every(checkSeconds, whileAlive(&SqliteDefaults::check));
+    }
+  }
+
+  /// Goes on as long as there is something of which nothing else would tell.
+  void check() {
+    const bool isWanted = std::exchange(isCheckWanted_, false);
+    const bool isWatched = watchHome();
     deliverNews();
+    const bool isTroubled = std::ranges::any_of(suites_, [](const Watched& watch) {
+      return !watch.subscribers.empty() && watch.unreadable;
+    });
+    if (isWatched && !isTroubled && !isWanted && !isCheckWanted_) check_.reset();
   }
 
   void stopListeningIfAlone() {
@@ -186,8 +233,9 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
   }
 
   void stopListening() {
-    poked_.cancel();
-    slowPoll_.cancel();
+    isListening_ = false;
+    happened_.cancel();
+    check_.reset();
     const std::lock_guard lock(mutex_);
     if (inotify_ >= 0) close(inotify_);
     inotify_ = -1;
@@ -198,8 +246,10 @@ class SqliteDefaults final : public std::enable_shared_from_this<SqliteDefaults>
   std::mutex mutex_; ///< guards the files and `inotify_`; all else is the main thread's
   std::array<Watched, 2> suites_;
   int inotify_ = -1; ///< changed by the main thread, under the mutex
-  Subscription poked_;
-  Subscription slowPoll_;
+  bool isListening_ = false;
+  bool isCheckWanted_ = false; ///< another one after the next
+  Subscription happened_;
+  std::optional<Subscription> check_; ///< while there is reason for one
 };
 
 } // namespace

@@ -10,6 +10,7 @@
 #include <random>
 #include <string>
 
+#include <sqlite3.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -256,6 +257,72 @@ TEST_F(SqliteDefaultsTest, watcher_learnsThatTheFileWasRemovedOrReplacedUnpoked)
   fs::create_directories(fs::path(path).parent_path());
   fs::rename(groupFile(), path);
   EXPECT_TRUE(runUntil([&] { return present == StoreValue(std::string("restored")); }));
+}
+
+/// Writes as a program does that knows nothing of pokes, or dies before its own.
+bool writeUnpoked(const std::string& path, int value) {
+  sqlite3* database = nullptr;
+  if (sqlite3_open(path.c_str(), &database) != SQLITE_OK) return false;
+  const std::string sql = "INSERT OR REPLACE INTO kv SELECT 'key', 'Int', " +
+                          std::to_string(value) + ", ifnull(max(rev), 0) + 1 FROM kv";
+  return sqlite3_exec(database, sql.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+TEST_F(SqliteDefaultsTest, commitWithoutAPoke_isNoticed) {
+  const Defaults defaults = open();
+  ASSERT_TRUE(defaults.set(Suite::group, "key", std::int64_t{0}));
+  StoreValue present;
+  const Subscription watch =
+      defaults.watch(Suite::group, "key", [&](const auto& value) { present = *value; });
+  for (const bool dies : {true, false}) {
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    const pid_t child = start([&] {
+      const bool written = writeUnpoked(groupFile(), dies ? 1 : 2);
+      if (dies) kill(getpid(), SIGKILL);
+      char end = 0;
+      return written && ::read(ends[0], &end, 1) == 1; // with the store open
+    });
+    EXPECT_TRUE(runUntil([&] { return present == StoreValue(std::int64_t{dies ? 1 : 2}); }))
+        << "of a writer that " << (dies ? "dies" : "lives on");
+    EXPECT_EQ(::write(ends[1], "e", 1), 1);
+    EXPECT_EQ(succeeded(child), !dies);
+    close(ends[0]);
+    close(ends[1]);
+  }
+}
+
+TEST_F(SqliteDefaultsTest, watcher_isNotWokenWhileNothingChanges) {
+  int timers = 0;
+  EventLoop counted = loop.operations();
+  counted.every = [&, every = counted.every](double seconds, const std::function<void()>& call) {
+    ++timers;
+    auto timer = std::make_shared<Subscription>(every(seconds, call));
+    return Subscription([&, timer] {
+      --timers;
+      timer->cancel();
+    });
+  };
+  const Defaults defaults = makeSqliteDefaults(home, counted);
+  const auto watch = [&](Suite suite) { return defaults.watch(suite, "key", [](const auto&) {}); };
+  const Subscription group = watch(Suite::group);
+  const Subscription standard = watch(Suite::standard);
+  EXPECT_EQ(timers, 1) << "a home that is yet to come is looked for";
+  ASSERT_TRUE(open().set(Suite::group, "key", true));
+  EXPECT_TRUE(runUntil([&] { return timers == 0; }));
+  ASSERT_TRUE(defaults.set(Suite::group, "key", false));
+  EXPECT_TRUE(runUntil([&] { return timers == 1; })) << "a commit is looked after";
+  EXPECT_TRUE(runUntil([&] { return timers == 0; })) << "once";
+  fs::rename(home, home + ".away");
+  EXPECT_TRUE(runUntil([&] { return timers == 1; }));
+  fs::rename(home + ".away", home);
+  EXPECT_TRUE(runUntil([&] { return timers == 0; }));
+  fs::rename(groupFile(), groupFile() + ".away");
+  std::ofstream(groupFile()) << "garbage";
+  const auto since = std::chrono::steady_clock::now();
+  EXPECT_TRUE(runUntil(
+      [&] { return std::chrono::steady_clock::now() - since > std::chrono::milliseconds(2500); }));
+  EXPECT_EQ(timers, 1) << "nothing tells of the end of all trouble";
 }
 
 TEST_F(SqliteDefaultsTest, killedWriter_losesNothingAcknowledged) {
