@@ -71,7 +71,9 @@ int run(int argc, char** argv, const Program& program) {
     complain({"standard output", "not all of it could be written"});
     return static_cast<int>(Exit::failed);
   }
-  return static_cast<int>(context.exit);
+  const int status = static_cast<int>(context.exit);
+  if (program.ending) program.ending(status);
+  return status;
 }
 
 } // namespace

@@ -15,6 +15,8 @@ struct Program {
   std::function<void()> runLoop;
   std::function<void()> endLoop;
   std::function<void()> handOver; ///< see `CommandContext`
+  /// Called at the end, when everything is written, with the exit status; may be empty.
+  std::function<void(int)> ending;
 };
 
 /// The exit status.

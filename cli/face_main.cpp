@@ -3,6 +3,7 @@
 
 #include "cli/HostOptions.h"
 #include "cli/Program.h"
+#include "host/desktop/EndInTime.h"
 #include "host/desktop/QtLoop.h"
 #include "host/drawing/DrawingProcess.h"
 #include "host/location/SystemLocation.h"
@@ -11,6 +12,8 @@
 #include "host/power/SystemBattery.h"
 #include "host/time/DateWords.h"
 #include "host/weather/ForecastService.h"
+
+#include <chrono>
 
 int main(int argc, char** argv) {
   using namespace vitrelle;
@@ -35,5 +38,6 @@ int main(int argc, char** argv) {
        },
        .runLoop = host::runQtLoop,
        .endLoop = host::endQtLoop,
-       .handOver = {}});
+       .handOver = {},
+       .ending = [](int status) { host::endInTime(std::chrono::seconds(1), status); }});
 }

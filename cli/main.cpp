@@ -44,5 +44,6 @@ int main(int argc, char** argv) {
            },
        .runLoop = [&] { loop.run(); },
        .endLoop = [&] { loop.stop(); },
-       .handOver = [argv] { becomeOtherProgram(argv); }});
+       .handOver = [argv] { becomeOtherProgram(argv); },
+       .ending = {}});
 }

@@ -7,6 +7,7 @@
 #include "core/slicing/WidgetLocation.h"
 #include "host/Host.h"
 #include "host/desktop/AppInstance.h"
+#include "host/desktop/EndInTime.h"
 #include "host/desktop/EndSignals.h"
 #include "host/desktop/QtLoop.h"
 #include "host/drawing/DrawingProcess.h"
@@ -30,6 +31,7 @@
 #include <QSGRendererInterface>
 #include <QTranslator>
 
+#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -228,6 +230,11 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
     scene.willConnect(links);
   }
 
+  // When the window is gone all is stored. What threads hang in then is nobody's concern.
+  struct Ending {
+    int status = 1;
+    ~Ending() { host::endInTime(std::chrono::seconds(1), status); }
+  } ending;
   ui::Shell theShell(platform, {.screen = QString::fromStdString(arguments.screen),
                                 .framed = interactive,
                                 .animated = interactive,
@@ -235,7 +242,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
   shell = &theShell;
   if (!told.isEmpty()) shell->notices().show(told, ui::Notices::Trouble);
   if (!theShell.open()) return 1;
-  if (!interactive) return takeScreenshot(theShell, arguments.screenshot);
+  if (!interactive) return ending.status = takeScreenshot(theShell, arguments.screenshot);
 
   if (suspended) theShell.window()->hide();
   QObject::connect(theShell.window(), &QQuickWindow::sceneGraphError, qGuiApp,
@@ -251,7 +258,7 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
     });
   }
   const host::EndSignals requests(loop, [] { QCoreApplication::exit(0); });
-  return QCoreApplication::exec();
+  return ending.status = QCoreApplication::exec();
 }
 
 int run(int argc, char** argv) {
