@@ -7,12 +7,14 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <iostream>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace vitrelle::cli {
 
@@ -114,23 +116,47 @@ bool waitFor(const CommandContext& context,
   return done;
 }
 
-/// Why nothing was asked for.
-void tellCooldown(const Platform& platform, bool rain) {
+/// For which what is stored holds; nothing where it has to be fetched.
+double secondsLeft(const Platform& platform, bool rain) {
   const auto& key = rain ? keys::nextRainDataUpdateTime : keys::nextCurrentTempUpdateTime;
   const double now = unixTime(platform.dateTime.now());
-  const double seconds = GroupStore(platform).value(key).value_or(0) - now;
-  if (seconds > 0) {
+  return std::max(GroupStore(platform).value(key).value_or(0) - now, 0.0);
+}
+
+/// Why nothing was asked for.
+void tellCooldown(double secondsLeft) {
+  if (secondsLeft > 0) {
     std::fprintf(stderr, "vitrelle: what is stored holds for another %.0f minutes\n",
-                 std::ceil(seconds / 60));
+                 std::ceil(secondsLeft / 60));
   } else {
     std::fprintf(stderr, "vitrelle: nothing is fetched for a preview\n");
   }
 }
 
+/// Until somebody tells where the device is, if he may, for a short while: a page fetches for the
+/// last known place and is there when the next fetch is due, but this program is not. Whether the
+/// loop was not ended by something else.
+bool waitForPosition(const CommandContext& context) {
+  constexpr double patienceSeconds = 3;
+  const Platform& platform = context.platform();
+  if (!isAuthorized(platform.location.authorizationStatus())) return true;
+  Subscription positions;
+  Subscription timeout;
+  return waitFor(context, [&](const std::function<void()>& finished) {
+    timeout = platform.mainQueue.asyncAfter(patienceSeconds, finished);
+    positions =
+        platform.location.startUpdatingLocation([finished](const std::vector<Coordinate>& told) {
+          if (!told.empty()) finished();
+        });
+  });
+}
+
 /// By the rules of the widgets. The name of the place follows, of where the weather now is.
 Exit fetch(const CommandContext& context, const WeatherArguments& arguments) {
   Watched watched(context.platform());
+  const double left = secondsLeft(watched.platform, arguments.rain);
   WeatherFetcher fetcher(watched.platform);
+  if (left == 0 && !waitForPosition(context)) return Exit::failed;
   Subscription city;
   const bool done = waitFor(context, [&](const std::function<void()>& finished) {
     if (arguments.rain) {
@@ -142,7 +168,7 @@ Exit fetch(const CommandContext& context, const WeatherArguments& arguments) {
   if (watched.failure) complain(*watched.failure);
   if (!done || watched.failure) return Exit::failed;
   if (!watched.asked) {
-    tellCooldown(watched.platform, arguments.rain);
+    tellCooldown(left);
     return print(watched.platform, arguments.json);
   }
   const bool named = waitFor(context, [&](std::function<void()> finished) {

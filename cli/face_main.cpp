@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
          host::useDateWords(platform);
          host::useBattery(platform, cli::hostOptions(options), loop);
          host::useGeocoder(platform, loop);
-         host::useLocation(platform, cli::hostOptions(options), loop);
+         host::useLocationAtOnce(platform, cli::hostOptions(options), loop);
          host::useWeatherService(platform, cli::hostOptions(options), loop);
          host::useMusicAtOnce(platform);
          return platform;

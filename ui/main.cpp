@@ -209,15 +209,19 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
     platform.musicPlayer.playbackState(); // is waited for while no page is open yet
   }
   host::useGeocoder(platform, loop);
-  host::useLocation(platform, options, loop,
-                    {.ask =
-                         [&] {
-                           if (shell != nullptr) shell->locationQuestion()->ask();
-                         },
-                     .openSettings =
-                         [&] {
-                           if (shell != nullptr) shell->navigator()->open(locationSettings);
-                         }});
+  if (interactive) {
+    host::useLocation(platform, options, loop,
+                      {.ask =
+                           [&] {
+                             if (shell != nullptr) shell->locationQuestion()->ask();
+                           },
+                       .openSettings =
+                           [&] {
+                             if (shell != nullptr) shell->navigator()->open(locationSettings);
+                           }});
+  } else {
+    host::useLocationAtOnce(platform, options, loop);
+  }
   // A screenshot asks nobody for the weather: it would not wait for the answer.
   if (interactive) host::useWeatherService(platform, options, loop);
 

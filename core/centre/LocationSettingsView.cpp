@@ -4,8 +4,7 @@
 
 namespace vitrelle {
 
-LocationSettingsView::LocationSettingsView(const Platform& platform)
-    : platform_(platform), hasDesktopService_(platform.locationSettings.hasDesktopService()) {
+LocationSettingsView::LocationSettingsView(const Platform& platform) : platform_(platform) {
   choices_ = platform.locationSettings.watch([this](const LocationChoice& choice) {
     choice_ = choice;
     changed();

@@ -21,7 +21,7 @@ class LocationSettingsView final : public Screen {
   explicit LocationSettingsView(const Platform& platform);
 
   const LocationChoice& choice() const { return choice_; }
-  bool hasDesktopService() const { return hasDesktopService_; }
+  bool hasDesktopService() const { return platform_.locationSettings.hasDesktopService(); }
   void setPermission(AuthorizationStatus permission);
   /// A place without a town is chosen by picking one.
   void setSource(LocationSource source);
@@ -44,7 +44,6 @@ class LocationSettingsView final : public Screen {
   void save(const LocationChoice& choice);
 
   const Platform& platform_;
-  bool hasDesktopService_;
   LocationChoice choice_;
   std::string words_;
   std::vector<City> found_;

@@ -52,22 +52,27 @@ void follow(const std::function<void(const Coordinate&)>& onPosition) {
   source->stopUpdates();
 }
 
-class Follower final {
+/// A thread that tells the main one something, until this goes.
+template <class Told>
+class Teller final {
  public:
-  Follower(const EventLoop& loop, std::function<void(const Coordinate&)> onPosition)
+  using Tell = std::function<void(const Told&)>;
+
+  /// `work` tells from the thread, `tell` is called on the main one.
+  Teller(const EventLoop& loop, std::function<void(const Tell&)> work, Tell tell)
       : calls_(loop),
-        onPosition_(
-            std::make_shared<std::function<void(const Coordinate&)>>(std::move(onPosition))),
-        thread_(QThread::create([post = calls_.poster(), weak = std::weak_ptr(onPosition_)] {
-          follow([&](const Coordinate& position) {
-            post([weak, position] {
-              if (const auto call = weak.lock()) (*call)(position);
-            });
-          });
-        })) {
+        tell_(std::make_shared<Tell>(std::move(tell))),
+        thread_(QThread::create(
+            [work = std::move(work), post = calls_.poster(), weak = std::weak_ptr(tell_)] {
+              work([&](const Told& told) {
+                post([weak, told] {
+                  if (const auto call = weak.lock()) (*call)(told);
+                });
+              });
+            })) {
     thread_->start();
   }
-  ~Follower() {
+  ~Teller() {
     thread_->quit();
     if (thread_->wait(QDeadlineTimer(patience))) return;
     // One that hangs in a call of the service is left to itself, and ends when that gives up.
@@ -75,15 +80,20 @@ class Follower final {
     QObject::connect(left, &QThread::finished, left, &QObject::deleteLater);
     if (left->isFinished()) left->deleteLater();
   }
-  Follower(const Follower&) = delete;
-  Follower& operator=(const Follower&) = delete;
+  Teller(const Teller&) = delete;
+  Teller& operator=(const Teller&) = delete;
 
  private:
   static constexpr std::chrono::milliseconds patience{250};
   MainCalls calls_;
-  std::shared_ptr<std::function<void(const Coordinate&)>> onPosition_;
+  std::shared_ptr<Tell> tell_;
   std::unique_ptr<QThread> thread_;
 };
+
+template <class Told>
+Subscription owned(std::shared_ptr<Teller<Told>> teller) {
+  return Subscription([teller = std::move(teller)]() mutable { teller.reset(); });
+}
 
 } // namespace
 
@@ -100,10 +110,19 @@ bool hasLocationService(const QDBusConnection& bus, std::chrono::milliseconds pa
          (startable.isValid() && startable.value().contains(service));
 }
 
+Subscription lookForService(const EventLoop& loop, std::chrono::milliseconds patience,
+                            std::function<void(bool)> done) {
+  return owned(std::make_shared<Teller<bool>>(
+      loop,
+      [patience](const std::function<void(const bool&)>& tell) {
+        tell(hasLocationService(QDBusConnection::systemBus(), patience));
+      },
+      std::move(done)));
+}
+
 Subscription followDesktop(const EventLoop& loop,
                            std::function<void(const Coordinate&)> onPosition) {
-  auto follower = std::make_shared<Follower>(loop, std::move(onPosition));
-  return Subscription([follower]() mutable { follower.reset(); });
+  return owned(std::make_shared<Teller<Coordinate>>(loop, follow, std::move(onPosition)));
 }
 
 } // namespace vitrelle::host

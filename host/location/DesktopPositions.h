@@ -16,6 +16,11 @@ namespace vitrelle::host {
 /// longer than so for the bus.
 bool hasLocationService(const QDBusConnection& bus, std::chrono::milliseconds patience);
 
+/// Looks for it on the system's bus and calls back once. Connecting to a bus may take longer than
+/// any answer of it, so that has a thread of its own too.
+Subscription lookForService(const EventLoop& loop, std::chrono::milliseconds patience,
+                            std::function<void(bool)> done);
+
 /// Calls back with each position that the service on the system's bus tells of; first with the last
 /// one that any program of this user was told by way of Qt, which keeps that in his data folder.
 /// The service is asked on a thread of its own: each question may take a while. Needs a

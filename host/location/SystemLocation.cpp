@@ -3,6 +3,9 @@
 #include "host/location/DesktopPositions.h"
 #include "host/location/KeptChoice.h"
 
+#include <QEventLoop>
+#include <QTimer>
+
 #include <chrono>
 #include <memory>
 #include <optional>
@@ -59,6 +62,9 @@ class SystemLocation final : public std::enable_shared_from_this<SystemLocation>
 
   void request() {
     if (asked_ || !sources_.pages.ask || status() != AuthorizationStatus::notDetermined) return;
+    // He is asked nothing that he might not be able to allow.
+    isRequestWaiting_ = choice_.source == LocationSource::desktop && !hasService_;
+    if (isRequestWaiting_) return;
     asked_ = true;
     sources_.pages.ask();
   }
@@ -74,8 +80,9 @@ class SystemLocation final : public std::enable_shared_from_this<SystemLocation>
   }
 
   bool hasService() {
-    if (!hasService_) hasService_ = sources_.hasService();
-    return *hasService_;
+    if (!std::exchange(isLookedFor_, true))
+      lookUp_ = sources_.lookForService([this](bool hasService) { know(hasService); });
+    return hasService_.value_or(true);
   }
 
   void openSettings() const {
@@ -83,8 +90,17 @@ class SystemLocation final : public std::enable_shared_from_this<SystemLocation>
   }
 
  private:
+  void know(bool hasService) {
+    hasService_ = hasService;
+    follow();
+    choices_.notify(LocationChoice(choice_));
+    statuses_.notify(status());
+    if (std::exchange(isRequestWaiting_, false)) request();
+  }
+
   bool followsDesktop() {
-    return choice_.source == LocationSource::desktop && isAuthorized(status());
+    return choice_.source == LocationSource::desktop && isAuthorized(status()) &&
+           hasService_.has_value();
   }
 
   std::optional<Coordinate> fixedPosition() {
@@ -108,14 +124,37 @@ class SystemLocation final : public std::enable_shared_from_this<SystemLocation>
 
   LocationSources sources_;
   LocationChoice choice_;
+  bool isLookedFor_ = false;
   std::optional<bool> hasService_;
+  bool isRequestWaiting_ = false; ///< until that is known
   bool asked_ = false;
   std::optional<Coordinate> last_; ///< that the desktop's service told
   Subscribers<const LocationChoice&> choices_;
   Subscribers<AuthorizationStatus> statuses_;
   Subscribers<const std::vector<Coordinate>&> positions_;
   std::optional<Subscription> desktop_;
+  Subscription lookUp_; ///< last, for it calls this
 };
+
+/// For the bus, which usually answers in a millisecond.
+constexpr std::chrono::milliseconds patience{250};
+
+void use(Platform& platform, const HostOptions& options, LocationSources sources) {
+  LocationOperations own = makeLocation(std::move(sources));
+  platform.locationSettings = std::move(own.settings);
+  if (options.location) {
+    platform.location.openSettings = std::move(own.location.openSettings);
+  } else {
+    platform.location = std::move(own.location);
+  }
+}
+
+std::function<Subscription(std::function<void(const Coordinate&)>)>
+follower(const EventLoop& loop) {
+  return [loop](std::function<void(const Coordinate&)> onPosition) {
+    return followDesktop(loop, std::move(onPosition));
+  };
+}
 
 } // namespace
 
@@ -143,22 +182,33 @@ LocationOperations makeLocation(LocationSources sources) {
 
 void useLocation(Platform& platform, const HostOptions& options, const EventLoop& loop,
                  LocationPages pages) {
-  constexpr std::chrono::milliseconds patience{250};
-  LocationOperations own = makeLocation(
+  use(platform, options,
       {.home = options.home,
-       .hasService =
-           [patience] { return hasLocationService(QDBusConnection::systemBus(), patience); },
-       .follow =
-           [loop](std::function<void(const Coordinate&)> onPosition) {
-             return followDesktop(loop, std::move(onPosition));
+       .lookForService =
+           [loop](std::function<void(bool)> done) {
+             return lookForService(loop, patience, std::move(done));
            },
+       .follow = follower(loop),
        .pages = std::move(pages)});
-  platform.locationSettings = std::move(own.settings);
-  if (options.location) {
-    platform.location.openSettings = std::move(own.location.openSettings);
-  } else {
-    platform.location = std::move(own.location);
-  }
+}
+
+void useLocationAtOnce(Platform& platform, const HostOptions& options, const EventLoop& loop) {
+  use(platform, options,
+      {.home = options.home,
+       .lookForService =
+           [loop](const std::function<void(bool)>& done) {
+             bool isThere = false;
+             QEventLoop waiting;
+             QTimer::singleShot(2 * patience, &waiting, &QEventLoop::quit);
+             Subscription look = lookForService(loop, patience, [&](bool found) {
+               isThere = found;
+               waiting.quit();
+             });
+             waiting.exec();
+             done(isThere);
+             return look;
+           },
+       .follow = follower(loop)});
 }
 
 } // namespace vitrelle::host

@@ -23,8 +23,10 @@ struct LocationPages {
 /// Where positions come from.
 struct LocationSources {
   HomeFolder home; ///< in which the choice is kept
-  /// Whether the desktop has a location service; asked once, when it first matters.
-  std::function<bool()> hasService;
+  /// Calls back once, sooner or later or before it returns, whether the desktop has a location
+  /// service. Asked once, when it first matters. Until then all is as if it had, but that nobody is
+  /// asked anything, for it most often has; then those who watch the choice or the status are told.
+  std::function<Subscription(std::function<void(bool)>)> lookForService;
   /// Has the service call back with positions, for as long as the subscription lives.
   std::function<Subscription(std::function<void(const Coordinate&)>)> follow;
   LocationPages pages = {};
@@ -41,6 +43,9 @@ LocationOperations makeLocation(LocationSources sources);
 /// Puts them into a platform; where the options tell a position, that stays, whatever the settings
 /// are. Needs a QCoreApplication for as long as they are used.
 void useLocation(Platform& platform, const HostOptions& options, const EventLoop& loop,
-                 LocationPages pages = {});
+                 LocationPages pages);
+/// The same in a program that ends at once: for half a second it waits, in its loop, until it
+/// knows.
+void useLocationAtOnce(Platform& platform, const HostOptions& options, const EventLoop& loop);
 
 } // namespace vitrelle::host

@@ -16,7 +16,7 @@ class LocationScreen : public QObject {
   QML_UNCREATABLE("the shell makes it")
   Q_PROPERTY(Permission permission READ permission WRITE setPermission NOTIFY changed)
   Q_PROPERTY(Source source READ source WRITE setSource NOTIFY changed)
-  Q_PROPERTY(bool hasDesktopService READ hasDesktopService CONSTANT)
+  Q_PROPERTY(bool hasDesktopService READ hasDesktopService NOTIFY changed)
   /// The fixed place; empty where none was picked.
   Q_PROPERTY(QString city READ city NOTIFY changed)
   Q_PROPERTY(QString words READ words NOTIFY changed)

@@ -66,6 +66,19 @@ TEST_F(LocationTest, town_isSearchedAsItIsTypedAndPicked) {
   EXPECT_EQ(settings.trouble()->why, "it is not there");
 }
 
+TEST_F(LocationTest, settings_followWhatIsKnownOfTheDesktop) {
+  bool hasService = true;
+  platform.locationSettings.hasDesktopService = [&] { return hasService; };
+  LocationSettingsView settings(platform);
+  int changes = 0;
+  const Subscription view = settings.onChange([&] { ++changes; });
+  EXPECT_TRUE(settings.hasDesktopService());
+  hasService = false;
+  location.authorize(choice.permission); // as those are told who watch the choice
+  EXPECT_EQ(changes, 1);
+  EXPECT_FALSE(settings.hasDesktopService());
+}
+
 TEST_F(LocationTest, settings_holdAtOnceAndFollowOtherWriters) {
   LocationSettingsView settings(platform);
   settings.setPermission(denied);

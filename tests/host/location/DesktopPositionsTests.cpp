@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace vitrelle::host {
@@ -106,6 +107,28 @@ TEST_F(DesktopPositionsTest, machineWithoutTheService_saysNothing) {
   const Subscription updates = follow();
   QTest::qWait(100);
   EXPECT_TRUE(told.empty());
+}
+
+TEST_F(DesktopPositionsTest, service_isLookedForAside) {
+  for (const bool runs : {false, true}) {
+    if (runs) service.start();
+    std::optional<bool> found;
+    const Subscription look =
+        lookForService(makeQtLoop(), patience, [&](bool isThere) { found = isThere; });
+    EXPECT_FALSE(found) << "before it returned";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return found.has_value(); }));
+    EXPECT_EQ(found, runs);
+  }
+  world->bus->suspend();
+  QElapsedTimer timer;
+  timer.start();
+  std::optional<bool> found;
+  const Subscription look = lookForService(makeQtLoop(), std::chrono::milliseconds(200),
+                                           [&](bool isThere) { found = isThere; });
+  EXPECT_LT(timer.elapsed(), 50) << "a silent bus holds no frame up";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return found.has_value(); }));
+  EXPECT_EQ(found, false);
+  world->bus->resume();
 }
 
 TEST(LocationService, isThereWhenItRunsOrCanBeStarted) {

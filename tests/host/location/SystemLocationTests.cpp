@@ -8,7 +8,10 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vitrelle::host {
@@ -39,10 +42,12 @@ class SystemLocationTest : public testing::Test {
   HomeFolder home() const { return HomeFolder(folder / "home"); }
   LocationOperations made() {
     return makeLocation({.home = home(),
-                         .hasService =
-                             [this] {
+                         .lookForService =
+                             [this](std::function<void(bool)> done) {
                                ++questions;
-                               return hasService;
+                               if (hasService) done(*hasService);
+                               known = std::move(done);
+                               return Subscription([this] { known = nullptr; });
                              },
                          .follow = [this](auto onPosition) { return desktop.add(onPosition); },
                          .pages = {.ask = [this] { ++asked; }}});
@@ -55,7 +60,8 @@ class SystemLocationTest : public testing::Test {
   void save(const LocationChoice& choice) const { EXPECT_TRUE(own.settings.save(choice)); }
 
   fs::path folder;
-  bool hasService = true;
+  std::optional<bool> hasService = true; ///< none while the bus has not answered
+  std::function<void(bool)> known;       ///< its answer
   int questions = 0;
   int asked = 0;
   Subscribers<const Coordinate&> desktop;
@@ -123,8 +129,54 @@ TEST_F(SystemLocationTest, user_isAskedOnceWhileNothingIsSettled) {
   save({undetermined, LocationSource::place, berlin});
   own.location.requestWhenInUseAuthorization();
   EXPECT_EQ(asked, 2) << "he has taken it back";
-  makeLocation({.home = home(), .hasService = [] { return true; }, .follow = {}})
+  makeLocation({.home = home(), .lookForService = {}, .follow = {}})
       .location.requestWhenInUseAuthorization(); // without anybody to ask him
+}
+
+TEST_F(SystemLocationTest, serviceThatIsLookedFor_isTakenForThereUntilItIsKnown) {
+  for (const bool isThere : {true, false}) {
+    hasService.reset();
+    asked = 0;
+    own = made();
+    save({inUse, LocationSource::place, berlin});
+    EXPECT_FALSE(known) << "it does not matter yet";
+    save({inUse, LocationSource::desktop});
+    std::vector<AuthorizationStatus> statuses;
+    const Subscription status =
+        own.location.watchAuthorization([&](AuthorizationStatus now) { statuses.push_back(now); });
+    int choices = 0;
+    const Subscription choice = own.settings.watch([&](const LocationChoice&) { ++choices; });
+    Positions told;
+    const Subscription updates = update(told);
+    EXPECT_TRUE(own.settings.hasDesktopService());
+    EXPECT_TRUE(desktop.empty()) << "there may be nothing to follow";
+    ASSERT_TRUE(known);
+    known(isThere);
+    EXPECT_EQ(statuses, isThere ? std::vector{inUse} : (std::vector{inUse, restricted}));
+    EXPECT_EQ(choices, 2) << "by which its readers know that it is known";
+    EXPECT_EQ(own.settings.hasDesktopService(), isThere);
+    EXPECT_EQ(desktop.empty(), !isThere);
+  }
+}
+
+TEST_F(SystemLocationTest, user_isAskedOnceTheServiceIsKnown) {
+  for (const bool isThere : {true, false}) {
+    hasService.reset();
+    asked = 0;
+    own = made();
+    own.location.requestWhenInUseAuthorization();
+    own.location.requestWhenInUseAuthorization();
+    EXPECT_EQ(asked, 0) << "he might be able to allow nothing";
+    known(isThere);
+    EXPECT_EQ(asked, isThere ? 1 : 0);
+  }
+  hasService.reset();
+  own = made();
+  own.location.requestWhenInUseAuthorization();
+  save({denied, LocationSource::desktop});
+  asked = 0;
+  known(true);
+  EXPECT_EQ(asked, 0) << "he has answered since";
 }
 
 TEST_F(SystemLocationTest, place_isToldAtOnceWhenItMayBe) {
