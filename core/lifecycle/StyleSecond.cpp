@@ -2,14 +2,32 @@
 
 #include "core/platform/FatalError.h"
 #include "core/slicing/ImageLoader.h"
+#include "core/store/RecordCoding.h"
 
+#include <type_traits>
 #include <utility>
+#include <variant>
+#include <vector>
 
 namespace vitrelle {
 
 namespace {
 
 constexpr RecordIndex nowhere{-1};
+
+/// Whether the store gives them back as the same: a colour may lose what its digits can't tell.
+bool areStoredAlike(const StyleRecord& one, const StyleRecord& other) {
+  return std::visit(
+      []<class Record, class Other>(const Record& first, const Other& second) {
+        if constexpr (std::is_same_v<Record, Other>) {
+          const Result<Data> firstStored = encodeRecords(std::vector{first});
+          const Result<Data> secondStored = encodeRecords(std::vector{second});
+          return firstStored && secondStored && *firstStored == *secondStored;
+        }
+        return false;
+      },
+      one, other);
+}
 
 } // namespace
 
@@ -52,7 +70,7 @@ RecordIndex StyleSecond::findRecord() {
   const bool editing = task().mode == EditorMode::edit;
   if (!saved_) return editing ? task().configNumber : RecordIndex{behindAll.value - 1};
   StyleRecord* there = stored_.at(saved_->index);
-  if (there != nullptr && *there == saved_->record) return saved_->index;
+  if (there != nullptr && areStoredAlike(*there, saved_->record)) return saved_->index;
   const StyleDraft before{.record = saved_->record, .kind = family().kindOf(saved_->record)};
   if (editing) {
     if (there != nullptr) family().copy(EditorStep::setup, before, *there);

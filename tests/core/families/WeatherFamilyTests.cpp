@@ -107,6 +107,17 @@ TEST_F(WeatherFamilyTest, recordsOfUnknownKinds_areEditedAsTheCurrentWeatherAndK
   EXPECT_TRUE(has(drawn(styles()[0]), "text \"21º\"")) << "elsewhere it is plain text";
 }
 
+TEST_F(WeatherFamilyTest, newStyle_isOneAlsoAfterItsColours) {
+  StyleSetup setup(platform, family, {.kind = "currentWeather"});
+  setup.appear();
+  EXPECT_EQ(setup.save(), Saved::stored);
+  // Its colours are not all of whole bytes, so they come back a little different.
+  const auto second = setup.next();
+  second->appear();
+  EXPECT_EQ(second->save(), Saved::stored);
+  EXPECT_EQ(styles().size(), 1U);
+}
+
 TEST_F(WeatherFamilyTest, kinds_haveLiveSamplesAndTellWhoseDataItIs) {
   storeWeather();
   StyleKinds kinds(platform, family);
