@@ -1,5 +1,6 @@
 #include "core/families/weather/Compositions.h"
 
+#include "core/drawing/LineLimit.h"
 #include "core/drawing/Shapes.h"
 #include "core/drawing/Trim.h"
 
@@ -33,8 +34,10 @@ std::string symbolName(const StoredWeather& weather) {
   return weather.weatherImage.value_or("sun.max");
 }
 
-View words(const std::optional<std::string>& words, double size, const PlatformColour& colour) {
-  return text(words.value_or(""), {.size = size, .weight = bold}, colour, TextAlignment::centre);
+View words(const std::optional<std::string>& words, double size, const PlatformColour& colour,
+           int mostLines = 1) {
+  const Font font{.size = size, .weight = bold};
+  return inLines(text(words.value_or(""), font, colour, TextAlignment::centre), mostLines);
 }
 
 View condition(const StoredWeather& weather, const PlatformColour& colour) {
@@ -43,7 +46,8 @@ View condition(const StoredWeather& weather, const PlatformColour& colour) {
 
 View place(const StoredWeather& weather, const PlatformColour& textColour,
            const std::optional<PlatformColour>& symbolColour) {
-  std::vector<View> parts{words(weather.cityName, headline, textColour)};
+  // More lines would drive what stands below out of a small widget.
+  std::vector<View> parts{words(weather.cityName, headline, textColour, 2)};
   if (symbolColour) parts.push_back(symbol("location.fill", headline, *symbolColour, bold));
   return hstack(std::move(parts));
 }

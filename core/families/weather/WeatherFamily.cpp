@@ -22,7 +22,7 @@ using Record = weatherWidgetData;
 
 using complexity::advanced;
 using complexity::plain;
-/// Between the rings and the edge of a narrow tile, points.
+/// Between a face and the edges of a tile or a widget, points.
 constexpr double inset = 8;
 
 template <class T>
@@ -84,6 +84,13 @@ View advancedText(const Platform& platform, const Record& style) {
 View dynamicWeather(const Platform& platform) {
   return CurrentWeatherDynamic{}.view(storedWeather(platform),
                                       platform.device.screenBounds().width);
+}
+
+/// A page of the preview has no edge beside the words, and makes them smaller itself.
+View besideEdges(const View& words, FaceUse use) {
+  constexpr double least = 0.8;
+  if (use == FaceUse::preview) return words;
+  return padded(shrunkToFit(words, least), {.leading = inset, .trailing = inset});
 }
 
 /// As wide as it is, unless the place is narrower.
@@ -198,12 +205,13 @@ View WeatherFamily::face(const Platform& platform, const StyleRecord& record, Fa
   if (!isSupported(platform)) return unsupported();
   switch (weatherKind(style.id)) {
   case WeatherKind::dynamic:
-    return dynamicWeather(platform);
+    return besideEdges(dynamicWeather(platform), use);
   case WeatherKind::rings:
     return rings(platform, use);
   case WeatherKind::currentWeather:
   case WeatherKind::forecast:
-    return style.id == advanced ? advancedText(platform, style) : plainText(platform, style);
+    return besideEdges(
+        style.id == advanced ? advancedText(platform, style) : plainText(platform, style), use);
   }
   return spacer();
 }
@@ -214,12 +222,12 @@ View WeatherFamily::draftFace(const Platform& platform, const StyleDraft& draft,
   if (!isSupported(platform)) return unsupported();
   switch (weatherKind(draft.kind)) {
   case WeatherKind::dynamic:
-    return dynamicWeather(platform);
+    return besideEdges(dynamicWeather(platform), use);
   case WeatherKind::rings:
     return rings(platform, use);
   case WeatherKind::currentWeather:
-    if (style.id == plain) return plainText(platform, style);
-    return style.id == advanced ? advancedText(platform, style) : spacer();
+    if (style.id == plain) return besideEdges(plainText(platform, style), use);
+    return style.id == advanced ? besideEdges(advancedText(platform, style), use) : spacer();
   case WeatherKind::forecast:
     return spacer();
   }

@@ -5,6 +5,9 @@
 #include "core/lifecycle/StyleKinds.h"
 #include "tests/core/families/WeatherTest.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace vitrelle {
 namespace {
 
@@ -177,6 +180,39 @@ TEST_F(WeatherFamilyTest, dynamic_turnsToRainByTheCondition) {
   EXPECT_FALSE(has(drawn({.id = 2}), "gradient")) << "damaged data are none";
   store(keys::storedCurrentWeatherDescription, std::string("sleet"));
   EXPECT_TRUE(has(drawn({.id = 2}), "Oslo"));
+}
+
+TEST_F(WeatherFamilyTest, extremeValues_stayInTheTile) {
+  storeWeather();
+  store(keys::storedWeatherTemperature, std::string("-100º"));
+  store(keys::storedCityName, std::string(58, 'l'));
+  store(keys::storedCurrentWeatherComplexDescription, std::string("isolatedThunderstorms"));
+  // Wherever there is room below, lines break, behind a sign of a number too.
+  platform.drawing.textSize = [](const std::string& text, const Font& font, const PointSize& room) {
+    const double width = static_cast<double>(text.size()) * font.size / 2;
+    const double lines =
+        std::min(std::ceil(width / room.width), std::floor(room.height / font.size));
+    return PointSize{std::min(width, room.width), std::max(lines, 1.0) * font.size};
+  };
+  for (const std::int64_t id : {0, 1, 2}) {
+    for (const double side : {110.0, 150.0}) {
+      const auto list = layOut(family.face(platform, weatherWidgetData{.id = id}, FaceUse::gallery),
+                               {side, side}, platform.drawing);
+      const std::string words = describe(list);
+      // Made smaller as a whole, or not at all.
+      const auto* group = std::get_if<DrawnGroup>(&list.at(0).content);
+      const Transform to = group != nullptr ? group->transform : Transform{};
+      for (const DisplayItem& item : group != nullptr ? group->items : list) {
+        const auto* text = std::get_if<DrawnText>(&item.content);
+        if (text == nullptr) continue;
+        EXPECT_GE(to.x + to.a * text->box.x, 0) << words;
+        EXPECT_LE(to.x + to.a * (text->box.x + text->box.width), side) << words;
+        EXPECT_GE(to.y + to.d * text->box.y, 0) << words;
+        const double lines = text->box.height / text->font.size;
+        EXPECT_LE(lines, text->text.starts_with('l') ? 2 : 1) << words;
+      }
+    }
+  }
 }
 
 TEST_F(WeatherFamilyTest, olderSystem_saysThatItCannot) {
