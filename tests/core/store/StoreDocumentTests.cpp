@@ -1,4 +1,5 @@
 // Holds the tables of the store's document against the tables in the code.
+#include "core/slicing/PositionIntents.h"
 #include "core/store/Family.h"
 #include "core/store/RecordFields.h"
 
@@ -15,9 +16,9 @@ namespace {
 
 using Rows = std::vector<std::string>;
 
-/// The rows of the table under the heading, each cut after its fourth column: what follows is for
+/// The rows of the table under the heading, each cut after so many columns: what follows is for
 /// readers alone.
-Rows documentedRows(const std::string& heading) {
+Rows documentedRows(const std::string& heading, int columns = 4) {
   std::ifstream document(VITRELLE_STORE_DOCUMENT);
   Rows rows;
   bool inside = false;
@@ -25,7 +26,7 @@ Rows documentedRows(const std::string& heading) {
     if (line.starts_with("#")) inside = line == heading;
     if (!inside || !line.starts_with("| `")) continue;
     std::size_t end = 0;
-    for (int column = 0; column < 4; ++column)
+    for (int column = 0; column < columns; ++column)
       end = line.find(" |", end + 1);
     rows.push_back(line.substr(0, end));
   }
@@ -124,6 +125,38 @@ TEST(StoreDocument, records_areThoseOfTheCode) {
         std::string("### `") + family.recordName + "`, under `" + family.records.name + "`";
     EXPECT_EQ(documentedRows(heading), rows) << heading;
   });
+}
+
+/// "0 to 2, 6 to 10"
+template <class Enumeration>
+std::string rangesOf() {
+  std::ostringstream text;
+  const auto isValue = [](std::int64_t raw) { return fromRawValue<Enumeration>(raw).has_value(); };
+  for (std::int64_t raw = 0; raw < 64; ++raw) {
+    if (isValue(raw) && !isValue(raw - 1)) text << (raw == 0 ? "" : ", ") << raw;
+    if (isValue(raw) && !isValue(raw + 1)) text << " to " << raw;
+  }
+  return text.str();
+}
+
+TEST(StoreDocument, positions_areThoseOfTheCode) {
+  const Rows enumerations{
+      row("PositionEnumSmall", rangesOf<PositionEnumSmall>()),
+      row("PositionEnumMedium", rangesOf<PositionEnumMedium>()),
+      row("PositionEnumLarge", rangesOf<PositionEnumLarge>()),
+      row("WidgetInformationOptions", rangesOf<WidgetInformationOptions>()),
+      row("PositionIntentResponseCode", rangesOf<PositionIntentResponseCode>())};
+  EXPECT_EQ(documentedRows("### Enumerations", 2), enumerations);
+
+  Rows slots;
+  const auto add = [&]<class Position>(const char* name, WidgetFamily size, Position first) {
+    for (auto raw = static_cast<std::int64_t>(first); fromRawValue<Position>(raw); ++raw)
+      slots.push_back(row(name, raw, "`" + std::string(rawValue(slotAt(size, raw))) + "`"));
+  };
+  add("PositionEnumSmall", WidgetFamily::small, PositionEnumSmall::topLeft);
+  add("PositionEnumMedium", WidgetFamily::medium, PositionEnumMedium::top);
+  add("PositionEnumLarge", WidgetFamily::large, PositionEnumLarge::top);
+  EXPECT_EQ(documentedRows("### Slots", 3), slots);
 }
 
 TEST(StoreDocument, everyKey_isOfItsSuiteAndNamedOnce) {
