@@ -82,6 +82,7 @@ inline constexpr Key<Bool>   reviewClosed{standard, "reviewClosed", isAState};
 inline constexpr Key<Int>    styleInTheMaking{standard, "styleInTheMaking", isAState};
 inline constexpr Key<String> windowPlace{standard, "windowPlace", isAState};
 inline constexpr Key<String> pictureFolder{standard, "pictureFolder", isAState};
+inline constexpr Key<String> saveFolder{standard, "saveFolder", isAState};
 
 // clang-format on
 
@@ -128,8 +129,8 @@ inline constexpr std::tuple groupKeys{selectedConfig,
                                       currentLocationRainData};
 
 /// The keys of the standard defaults.
-inline constexpr std::tuple standardKeys{destination,      lastUsedAppVersion,  betaEnrollment,
-                                         appReviewAskDate, appStartUpsCountKey, reviewClosed,
-                                         styleInTheMaking, windowPlace,         pictureFolder};
+inline constexpr std::tuple standardKeys{
+    destination,  lastUsedAppVersion, betaEnrollment, appReviewAskDate, appStartUpsCountKey,
+    reviewClosed, styleInTheMaking,   windowPlace,    pictureFolder,    saveFolder};
 
 } // namespace vitrelle::keys
