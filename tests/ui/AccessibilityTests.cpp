@@ -18,6 +18,7 @@ class AccessibilityTest : public test::UiTest {
   AccessibilityTest() {
     setNumber("amountOfConfigs", 1);
     addStyle(0);
+    addSlices(0);
   }
   void storeText() {
     std::vector<textWidgetData> records;

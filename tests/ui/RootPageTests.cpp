@@ -239,6 +239,7 @@ TEST_F(RootPageTest, window_comesBackAsItWasLeft) {
 
 TEST_F(RootPageTest, screenAskedFor_leavesTheLaunchToAnotherStart) {
   addStyles(1);
+  addSlices(0);
   folder.images.insert_or_assign("original.png", screenshot);
   folder.images.insert_or_assign("originalDark.png", screenshot);
   const auto expectUntouched = [&](const char* version) {
@@ -266,6 +267,7 @@ TEST_F(RootPageTest, screenAskedFor_leavesTheLaunchToAnotherStart) {
 
 TEST_F(RootPageTest, everyScreen_opensWithoutAWarning) {
   addStyles(1);
+  addSlices(0);
   for (const QString& name : ui::Shell::screenNames()) {
     SCOPED_TRACE(name.toStdString());
     open({.screen = name, .framed = true, .animated = false});

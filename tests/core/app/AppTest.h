@@ -48,6 +48,17 @@ class AppTest : public testing::Test {
     addOriginal(style, lightStyle);
     addOriginal(style, darkStyle);
   }
+  /// What is cut from both screenshots.
+  void addSlices(std::int64_t style) {
+    for (const WidgetFamily size :
+         {WidgetFamily::small, WidgetFamily::medium, WidgetFamily::large}) {
+      for (const WidgetLocationImageNames slot : slots(size)) {
+        for (const InterfaceStyle appearance : {lightStyle, darkStyle})
+          folder.images.insert_or_assign(sliceFileName({style}, rawValue(slot), appearance),
+                                         screenshot);
+      }
+    }
+  }
   bool printed(const std::string& line) const {
     return std::ranges::count(console.lines, line) != 0;
   }
