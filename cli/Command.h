@@ -32,6 +32,8 @@ struct CommandContext {
   /// Set where commands that need Qt, ICU or the network belong to another program: becomes that
   /// one, with the same arguments, and returns only when it can't.
   std::function<void()> handOver;
+  /// Puts a file of these bytes into place, whole, replacing what was there, and makes its folder.
+  std::function<Status(const std::string& path, const Data& bytes)> writeFile;
   Exit exit = Exit::done;
 };
 
@@ -50,6 +52,7 @@ void addBackgroundCommand(CLI::App& program, CommandContext& context);
 void addCutCommand(CLI::App& program, CommandContext& context);
 void addDateCommand(CLI::App& program, CommandContext& context);
 void addDefaultsCommand(CLI::App& program, CommandContext& context);
+void addExportCommand(CLI::App& program, CommandContext& context);
 void addFaceCommand(CLI::App& program, CommandContext& context);
 void addMusicCommand(CLI::App& program, CommandContext& context);
 void addOpenCommand(CLI::App& program, CommandContext& context);

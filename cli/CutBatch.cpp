@@ -3,6 +3,7 @@
 #include "cli/CutStyle.h"
 #include "cli/Interruption.h"
 #include "cli/OneLine.h"
+#include "cli/Progress.h"
 
 #include <nlohmann/json.hpp>
 
@@ -14,8 +15,6 @@
 #include <map>
 #include <string_view>
 #include <system_error>
-
-#include <unistd.h>
 
 namespace vitrelle::cli {
 
@@ -57,31 +56,6 @@ Result<Pairs> findPairs(const std::string& folder) {
   }
   return pairs;
 }
-
-/// A line that counts on while a person watches.
-class Progress final {
- public:
-  explicit Progress(std::size_t count) : count_(count), shown_(isatty(STDERR_FILENO) == 1) {}
-  ~Progress() { clear(); }
-  Progress(const Progress&) = delete;
-  Progress& operator=(const Progress&) = delete;
-
-  void show(std::size_t done, const std::string& name) const {
-    if (!shown_) return;
-    constexpr std::size_t width = 24;
-    const std::size_t filled = width * done / count_;
-    std::fprintf(stderr, "\r\x1b[K[%s%s] %zu of %zu  %s", std::string(filled, '#').c_str(),
-                 std::string(width - filled, '.').c_str(), done, count_, oneLine(name).c_str());
-    std::fflush(stderr);
-  }
-  void clear() const {
-    if (shown_) std::fprintf(stderr, "\r\x1b[K");
-  }
-
- private:
-  std::size_t count_;
-  bool shown_;
-};
 
 /// The same platform with another folder in the place of the group's.
 Platform intoFolder(const Platform& platform, const std::string& folder) {

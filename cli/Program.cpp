@@ -35,6 +35,9 @@ int run(int argc, char** argv, const Program& program) {
   addOptions(parser, options);
 
   std::optional<Platform> platform;
+  const auto writeFile = [&](const std::string& path, const Data& bytes) {
+    return program.writeFile(options, path, bytes);
+  };
   CommandContext context{.options = options,
                          .platform = [&]() -> const Platform& {
                            if (!platform) {
@@ -51,7 +54,8 @@ int run(int argc, char** argv, const Program& program) {
                          },
                          .runLoop = program.runLoop,
                          .endLoop = program.endLoop,
-                         .handOver = program.handOver};
+                         .handOver = program.handOver,
+                         .writeFile = writeFile};
   for (const auto& add : program.commands)
     add(parser, context);
   for (CLI::App* command : parser.get_subcommands({})) {

@@ -14,7 +14,9 @@ struct Program {
   std::function<Result<Platform>(const Options&)> makePlatform;
   std::function<void()> runLoop;
   std::function<void()> endLoop;
-  std::function<void()> handOver; ///< see `CommandContext`
+  // See `CommandContext`.
+  std::function<void()> handOver;
+  std::function<Status(const Options&, const std::string& path, const Data& bytes)> writeFile;
   /// Called at the end, when everything is written, with the exit status; may be empty.
   std::function<void(int)> ending;
 };

@@ -39,5 +39,6 @@ int main(int argc, char** argv) {
        .runLoop = host::runQtLoop,
        .endLoop = host::endQtLoop,
        .handOver = {},
+       .writeFile = {},
        .ending = [](int status) { host::endInTime(std::chrono::seconds(1), status); }});
 }

@@ -4,6 +4,7 @@
 #include "cli/HostOptions.h"
 #include "cli/Program.h"
 #include "host/desktop/PollLoop.h"
+#include "host/files/PendingFile.h"
 
 #include <unistd.h>
 
@@ -37,7 +38,7 @@ int main(int argc, char** argv) {
                     cli::addStyleCommand, cli::addShortcutCommand, cli::addFaceCommand,
                     cli::addSymbolsCommand, cli::addDateCommand, cli::addBackgroundCommand,
                     cli::addMusicCommand, cli::addPlaceCommand, cli::addWeatherCommand,
-                    cli::addOpenCommand},
+                    cli::addOpenCommand, cli::addExportCommand},
        .makePlatform =
            [&](const cli::Options& options) {
              return cli::hostPlatform(options, loop.operations());
@@ -45,5 +46,9 @@ int main(int argc, char** argv) {
        .runLoop = [&] { loop.run(); },
        .endLoop = [&] { loop.stop(); },
        .handOver = [argv] { becomeOtherProgram(argv); },
+       .writeFile =
+           [](const cli::Options& options, const std::string& path, const Data& bytes) {
+             return host::replaceFile(cli::hostOptions(options).home, path, bytes);
+           },
        .ending = {}});
 }
