@@ -30,7 +30,8 @@ class Portal : public QObject, protected QDBusContext {
   }
 
   Manner manner = Manner::asItShould;
-  QString path; ///< of the open request
+  QString method; ///< that was called
+  QString path;   ///< of the open request
   QString parent;
   QString title;
   QVariantMap options;
@@ -38,6 +39,17 @@ class Portal : public QObject, protected QDBusContext {
  public Q_SLOTS:
   Q_SCRIPTABLE QDBusObjectPath OpenFile(const QString& window, const QString& words,
                                         const QVariantMap& told) {
+    return take(QStringLiteral("OpenFile"), window, words, told);
+  }
+  Q_SCRIPTABLE QDBusObjectPath SaveFile(const QString& window, const QString& words,
+                                        const QVariantMap& told) {
+    return take(QStringLiteral("SaveFile"), window, words, told);
+  }
+
+ private:
+  QDBusObjectPath take(const QString& called, const QString& window, const QString& words,
+                       const QVariantMap& told) {
+    method = called;
     parent = window;
     title = words;
     options = told;
@@ -50,7 +62,6 @@ class Portal : public QObject, protected QDBusContext {
     return QDBusObjectPath(path);
   }
 
- private:
   QDBusConnection bus_;
 };
 

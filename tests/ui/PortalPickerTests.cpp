@@ -90,6 +90,7 @@ TEST_F(PortalPickerTest, answers_areToldOnce) {
 TEST_F(PortalPickerTest, dialog_isAskedForPicturesInTheFolder) {
   offer();
   openAndSee();
+  EXPECT_EQ(portal->method, "OpenFile");
   EXPECT_EQ(portal->parent, QString()) << "no window of X11";
   EXPECT_EQ(portal->title, "Choose");
   EXPECT_EQ(portal->options.value(QStringLiteral("current_folder")).toByteArray(),
@@ -116,6 +117,20 @@ TEST_F(PortalPickerTest, dialog_isAskedForPicturesInTheFolder) {
   filters.endArray();
   EXPECT_EQ(name, "Pictures");
   EXPECT_EQ(types, (QStringList{"image/png", "image/jpeg", "image/heic", "image/heif"}));
+}
+
+TEST_F(PortalPickerTest, place_isAskedForUnderAName) {
+  offer();
+  picker->save(nullptr, QStringLiteral("Save"), QStringLiteral("Pictures"), QStringLiteral("/tmp"),
+               QStringLiteral("0top Ä.png"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !portal->path.isEmpty(); }));
+  EXPECT_EQ(portal->method, "SaveFile");
+  EXPECT_EQ(portal->title, "Save");
+  EXPECT_EQ(portal->options.value(QStringLiteral("current_name")).toString(), "0top Ä.png");
+  EXPECT_EQ(portal->options.value(QStringLiteral("current_folder")).toByteArray(),
+            QByteArray("/tmp\0", 5));
+  portal->answer(0, {QStringLiteral("file:///tmp/0top%20%C3%84.png")});
+  EXPECT_TRUE(tells(QStringLiteral("accepted /tmp/0top Ä.png")));
 }
 
 TEST_F(PortalPickerTest, whatIsNoPortal_isUnavailable) {

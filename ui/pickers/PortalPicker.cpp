@@ -90,6 +90,25 @@ PortalPicker::PortalPicker(QDBusConnection bus, std::chrono::milliseconds patien
 
 void PortalPicker::open(QQuickWindow* window, const QString& title, const QString& kinds,
                         const QString& folder) {
+  const Filter pictures{kinds,
+                        {{.value = QStringLiteral("image/png")},
+                         {.value = QStringLiteral("image/jpeg")},
+                         {.value = QStringLiteral("image/heic")},
+                         {.value = QStringLiteral("image/heif")}}};
+  ask(QStringLiteral("OpenFile"), window, title, folder,
+      {{QStringLiteral("filters"), QVariant::fromValue(QList<Filter>{pictures})}});
+}
+
+void PortalPicker::save(QQuickWindow* window, const QString& title, const QString& kinds,
+                        const QString& folder, const QString& fileName) {
+  const Filter pictures{kinds, {{.value = QStringLiteral("image/png")}}};
+  ask(QStringLiteral("SaveFile"), window, title, folder,
+      {{QStringLiteral("filters"), QVariant::fromValue(QList<Filter>{pictures})},
+       {QStringLiteral("current_name"), fileName}});
+}
+
+void PortalPicker::ask(const QString& method, QQuickWindow* window, const QString& title,
+                       const QString& folder, QVariantMap options) {
   close();
   if (!bus_.isConnected()) return Q_EMIT unavailable();
   registerTypes();
@@ -97,18 +116,11 @@ void PortalPicker::open(QQuickWindow* window, const QString& title, const QStrin
   const QString sender = bus_.baseService().mid(1).replace(u'.', u'_');
   listenAt(portalPath + QStringLiteral("/request/") + sender + u'/' + token);
 
-  const Filter pictures{kinds,
-                        {{.value = QStringLiteral("image/png")},
-                         {.value = QStringLiteral("image/jpeg")},
-                         {.value = QStringLiteral("image/heic")},
-                         {.value = QStringLiteral("image/heif")}}};
-  QVariantMap options{{QStringLiteral("handle_token"), token},
-                      {QStringLiteral("modal"), true},
-                      {QStringLiteral("filters"), QVariant::fromValue(QList<Filter>{pictures})}};
+  options.insert(QStringLiteral("handle_token"), token);
+  options.insert(QStringLiteral("modal"), true);
   if (!folder.isEmpty()) // bytes that end with a zero
     options.insert(QStringLiteral("current_folder"), QFile::encodeName(folder).append('\0'));
-  QDBusMessage message =
-      QDBusMessage::createMethodCall(service, portalPath, chooser, QStringLiteral("OpenFile"));
+  QDBusMessage message = QDBusMessage::createMethodCall(service, portalPath, chooser, method);
   message << nameOf(window) << title << options;
   auto* call = new QDBusPendingCallWatcher(bus_.asyncCall(message), QCoreApplication::instance());
   connect(call, &QDBusPendingCallWatcher::finished, call,

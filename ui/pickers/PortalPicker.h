@@ -1,5 +1,6 @@
-// The desktop's own dialog for choosing a picture, asked for through the XDG desktop portal. It is
-// used first because it knows the desktop's places, bookmarks and looks.
+// The desktop's own dialogs for choosing a picture, and for choosing a place to save one, asked for
+// through the XDG desktop portal. They are used first because they know the desktop's places,
+// bookmarks and looks.
 #pragma once
 
 #include <QDBusConnection>
@@ -34,6 +35,10 @@ class PortalPicker : public QObject {
   /// offered; the dialog begins in the folder, and belongs to the window.
   Q_INVOKABLE void open(QQuickWindow* window, const QString& title, const QString& kinds,
                         const QString& folder);
+  /// The same for a file that is to be written, under this name if the user likes it. Whoever
+  /// chooses one that is there already has said that it may be replaced.
+  Q_INVOKABLE void save(QQuickWindow* window, const QString& title, const QString& kinds,
+                        const QString& folder, const QString& fileName);
   /// The dialog goes. Nothing is told.
   Q_INVOKABLE void close();
 
@@ -44,6 +49,8 @@ class PortalPicker : public QObject {
   void unavailable();
 
  private:
+  void ask(const QString& method, QQuickWindow* window, const QString& title, const QString& folder,
+           QVariantMap options);
   Q_SLOT void takeAnswer(uint response, const QVariantMap& results);
   void follow(const QDBusPendingReply<QDBusObjectPath>& reply);
   void listenAt(const QString& request);
