@@ -319,5 +319,125 @@
         <source></source>
         <translation>Keine Stadt dieses Namens ist bekannt.</translation>
     </message>
+    <message id="ExportWidgetError">
+        <source></source>
+        <translation>Das Bild dieses Widgets lässt sich nicht lesen und darum nicht teilen.</translation>
+    </message>
+    <message id="app.export.noStyles">
+        <source></source>
+        <translation>Noch gibt es keinen Stil. Sobald du einen angelegt hast, kannst du seine Widgets hier exportieren.</translation>
+    </message>
+    <message id="app.export.hint">
+        <source></source>
+        <translation>Klicke auf ein Widget, um sein Bild zu teilen.</translation>
+    </message>
+    <message id="app.slot.topLeft">
+        <source></source>
+        <translation>Oben links</translation>
+    </message>
+    <message id="app.slot.topRight">
+        <source></source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message id="app.slot.middleLeft">
+        <source></source>
+        <translation>Mitte links</translation>
+    </message>
+    <message id="app.slot.middleRight">
+        <source></source>
+        <translation>Mitte rechts</translation>
+    </message>
+    <message id="app.slot.bottomLeft">
+        <source></source>
+        <translation>Unten links</translation>
+    </message>
+    <message id="app.slot.bottomRight">
+        <source></source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message id="app.slot.top">
+        <source></source>
+        <translation>Oben</translation>
+    </message>
+    <message id="app.slot.middle">
+        <source></source>
+        <translation>Mitte</translation>
+    </message>
+    <message id="app.slot.bottom">
+        <source></source>
+        <translation>Unten</translation>
+    </message>
+    <message id="app.share.title">
+        <source></source>
+        <translation>Teilen</translation>
+    </message>
+    <message id="app.share.pixels">
+        <source></source>
+        <translation>%1 × %2 Pixel</translation>
+    </message>
+    <message id="app.share.drag">
+        <source></source>
+        <translation>Das Bild lässt sich auch in ein anderes Programm ziehen.</translation>
+    </message>
+    <message id="app.share.saveAs">
+        <source></source>
+        <translation>Speichern unter …</translation>
+    </message>
+    <message id="app.share.copy">
+        <source></source>
+        <translation>Kopieren</translation>
+    </message>
+    <message id="app.share.open">
+        <source></source>
+        <translation>In anderem Programm öffnen</translation>
+    </message>
+    <message id="app.share.copied">
+        <source></source>
+        <translation>Kopiert</translation>
+    </message>
+    <message id="app.share.saved">
+        <source></source>
+        <translation>Gespeichert als %1</translation>
+    </message>
+    <message id="app.share.unsaved">
+        <source></source>
+        <translation>%1 lässt sich nicht speichern. %2</translation>
+    </message>
+    <message id="app.share.noCopy">
+        <source></source>
+        <translation>Für die Kopie, die ein anderes Programm öffnen würde, ist kein Platz.</translation>
+    </message>
+    <message id="app.share.noOpener">
+        <source></source>
+        <translation>%1, das auf diesem Desktop Dateien öffnet, ist nicht installiert.</translation>
+    </message>
+    <message id="app.share.noProgram">
+        <source></source>
+        <translation>Kein Programm auf diesem Desktop öffnet solch eine Datei.</translation>
+    </message>
+    <message id="app.share.name">
+        <source></source>
+        <translation>Dateiname</translation>
+    </message>
+    <message id="app.share.save">
+        <source></source>
+        <translation>Speichern</translation>
+    </message>
+    <message id="app.share.replaceTitle">
+        <source></source>
+        <translation>„%1“ ersetzen?</translation>
+    </message>
+    <message id="app.share.replaceMessage">
+        <source></source>
+        <translation>Eine Datei dieses Namens gibt es dort schon.</translation>
+    </message>
+    <message id="app.share.replace">
+        <source></source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message id="app.share.cancel">
+        <source></source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 </TS>

@@ -319,5 +319,125 @@
         <source></source>
         <translation>No town of that name is known.</translation>
     </message>
+    <message id="ExportWidgetError">
+        <source></source>
+        <translation>This widget’s picture can’t be shared, for it can’t be read.</translation>
+    </message>
+    <message id="app.export.noStyles">
+        <source></source>
+        <translation>There is no style yet. Once you have made one, its widgets can be exported here.</translation>
+    </message>
+    <message id="app.export.hint">
+        <source></source>
+        <translation>Press a widget to share its picture.</translation>
+    </message>
+    <message id="app.slot.topLeft">
+        <source></source>
+        <translation>Top left</translation>
+    </message>
+    <message id="app.slot.topRight">
+        <source></source>
+        <translation>Top right</translation>
+    </message>
+    <message id="app.slot.middleLeft">
+        <source></source>
+        <translation>Middle left</translation>
+    </message>
+    <message id="app.slot.middleRight">
+        <source></source>
+        <translation>Middle right</translation>
+    </message>
+    <message id="app.slot.bottomLeft">
+        <source></source>
+        <translation>Bottom left</translation>
+    </message>
+    <message id="app.slot.bottomRight">
+        <source></source>
+        <translation>Bottom right</translation>
+    </message>
+    <message id="app.slot.top">
+        <source></source>
+        <translation>Top</translation>
+    </message>
+    <message id="app.slot.middle">
+        <source></source>
+        <translation>Middle</translation>
+    </message>
+    <message id="app.slot.bottom">
+        <source></source>
+        <translation>Bottom</translation>
+    </message>
+    <message id="app.share.title">
+        <source></source>
+        <translation>Share</translation>
+    </message>
+    <message id="app.share.pixels">
+        <source></source>
+        <translation>%1 × %2 pixels</translation>
+    </message>
+    <message id="app.share.drag">
+        <source></source>
+        <translation>The picture can also be dragged into another program.</translation>
+    </message>
+    <message id="app.share.saveAs">
+        <source></source>
+        <translation>Save As…</translation>
+    </message>
+    <message id="app.share.copy">
+        <source></source>
+        <translation>Copy</translation>
+    </message>
+    <message id="app.share.open">
+        <source></source>
+        <translation>Open in Another Program</translation>
+    </message>
+    <message id="app.share.copied">
+        <source></source>
+        <translation>Copied</translation>
+    </message>
+    <message id="app.share.saved">
+        <source></source>
+        <translation>Saved as %1</translation>
+    </message>
+    <message id="app.share.unsaved">
+        <source></source>
+        <translation>%1 can’t be saved. %2</translation>
+    </message>
+    <message id="app.share.noCopy">
+        <source></source>
+        <translation>There is no room for the copy that another program would open.</translation>
+    </message>
+    <message id="app.share.noOpener">
+        <source></source>
+        <translation>%1, which opens files on this desktop, is not installed.</translation>
+    </message>
+    <message id="app.share.noProgram">
+        <source></source>
+        <translation>No program on this desktop opens such a file.</translation>
+    </message>
+    <message id="app.share.name">
+        <source></source>
+        <translation>File name</translation>
+    </message>
+    <message id="app.share.save">
+        <source></source>
+        <translation>Save</translation>
+    </message>
+    <message id="app.share.replaceTitle">
+        <source></source>
+        <translation>Replace “%1”?</translation>
+    </message>
+    <message id="app.share.replaceMessage">
+        <source></source>
+        <translation>A file of this name is there already.</translation>
+    </message>
+    <message id="app.share.replace">
+        <source></source>
+        <translation>Replace</translation>
+    </message>
+    <message id="app.share.cancel">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
 </context>
 </TS>

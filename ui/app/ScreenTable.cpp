@@ -3,6 +3,7 @@
 #include "core/families/Families.h"
 #include "ui/app/Navigator.h"
 #include "ui/centre/DateTextScreen.h"
+#include "ui/centre/ExportScreen.h"
 #include "ui/centre/LocationScreen.h"
 #include "ui/centre/SolidBackgroundScreen.h"
 #include "ui/centre/WidgetCentreScreen.h"
@@ -117,6 +118,7 @@ std::vector<ScreenEntry> makeTable() {
       {"SFSymbolsPicker", "SymbolTrialPage", nothing},
       {"CustomDateTextView", "DateTextPage", screenOver<DateTextScreen>},
       {"SolidBackgroundView", "SolidBackgroundPage", screenOver<SolidBackgroundScreen>},
+      {"ModernImageExportView", "ExportPage", screenOver<ExportScreen>},
       {"LocationSettingsView", "LocationSettingsPage", screenOver<LocationScreen>},
   };
   for (const FamilyDescription& words : familyTable) {
