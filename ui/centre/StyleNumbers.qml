@@ -25,7 +25,7 @@ Item {
     implicitHeight: flow.height
     activeFocusOnTab: true
     Accessible.role: Accessible.List
-    Accessible.name: label + ", " + chosen
+    Accessible.name: label + ", " + (chosen + 1)
     Accessible.focusable: true
     Keys.onLeftPressed: move(-1)
     Keys.onRightPressed: move(1)
@@ -55,7 +55,7 @@ Item {
                 height: picture.height + 28
                 activeFocusOnTab: false
                 role: Accessible.RadioButton
-                name: index
+                name: index + 1
                 Accessible.checkable: true
                 Accessible.checked: isChosen
                 onPressed: row.chose(index)
@@ -91,7 +91,7 @@ Item {
                     font.pixelSize: 13
                     font.weight: cell.isChosen ? Font.Bold : Font.Normal
                     spoken: false
-                    text: cell.index
+                    text: cell.index + 1
                 }
             }
         }
