@@ -133,6 +133,11 @@ constexpr DeviceNameRow rows[] = {
 };
 // clang-format on
 
+/// A type of its own, to be shared by.
+struct DeviceName {
+  std::string value;
+};
+
 } // namespace
 
 std::span<const DeviceNameRow> deviceNameRows() {
@@ -160,15 +165,17 @@ std::string modelName(std::string_view identifier, const Device& device) {
   return std::string(identifier);
 }
 
-const std::string& deviceName(const Platform& platform) {
-  struct DeviceName {
-    std::string value;
-  };
+std::string deviceName(const Platform& platform) {
   const auto name = platform.shared.get<DeviceName>([&platform] {
     const std::string identifier = machineIdentifier(platform.device.machine());
     return new DeviceName{modelName(identifier, platform.device)};
   });
-  return name->value; // the platform's shared instances keep it alive
+  return name->value;
+}
+
+void forgetDevice(const Platform& platform) {
+  // The dictionaries of the measurements are the same for all phones.
+  platform.shared.forget<DeviceName>();
 }
 
 } // namespace vitrelle

@@ -28,6 +28,10 @@ std::string machineIdentifier(const MachineField& machine);
 std::string modelName(std::string_view identifier, const Device& device);
 
 /// The name of the device that the platform runs on, found once for each platform.
-const std::string& deviceName(const Platform& platform);
+std::string deviceName(const Platform& platform);
+
+/// What was made once for the device is made anew, as if the program began again: for a host that
+/// has begun to stand for another phone. Slices that are stored stay as they were cut.
+void forgetDevice(const Platform& platform);
 
 } // namespace vitrelle

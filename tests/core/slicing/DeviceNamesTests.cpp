@@ -77,6 +77,8 @@ TEST(DeviceNames, deviceName_isFoundOnceForAPlatform) {
   EXPECT_EQ(deviceName(platform), "iPhone 15 Pro");
   phone.machine = "iPhone17,3";
   EXPECT_EQ(deviceName(platform), "iPhone 15 Pro");
+  forgetDevice(platform);
+  EXPECT_EQ(deviceName(platform), "iPhone 16") << "another phone is stood for";
 }
 
 } // namespace
