@@ -1,9 +1,8 @@
 #include "cli/Command.h"
-#include "core/slicing/Measurements.h"
+#include "core/slicing/MeasurementTables.h"
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <memory>
@@ -14,8 +13,7 @@ namespace vitrelle::cli {
 namespace {
 
 bool isMeasured(const std::string& name, MeasurementTable table) {
-  return std::ranges::any_of(measurementRows(table),
-                             [&](const DeviceMeasurements& row) { return row.device == name; });
+  return findMeasurements(name, table) != nullptr;
 }
 
 std::string joined(const std::vector<std::string>& words) {

@@ -1,5 +1,7 @@
 #include "core/slicing/MeasurementTables.h"
 
+#include <algorithm>
+
 namespace vitrelle {
 
 namespace {
@@ -131,6 +133,12 @@ std::span<const DeviceMeasurements> measurementRows(MeasurementTable table) {
     return zoomedRows;
   }
   return {};
+}
+
+const DeviceMeasurements* findMeasurements(std::string_view device, MeasurementTable table) {
+  const auto rows = measurementRows(table);
+  const auto found = std::ranges::find(rows, device, &DeviceMeasurements::device);
+  return found == rows.end() ? nullptr : &*found;
 }
 
 } // namespace vitrelle

@@ -22,4 +22,7 @@ struct DeviceMeasurements {
 /// The rows of a table, in its own order. No device stands twice in one.
 std::span<const DeviceMeasurements> measurementRows(MeasurementTable table);
 
+/// A device's row of a table; null where it has none.
+const DeviceMeasurements* findMeasurements(std::string_view device, MeasurementTable table);
+
 } // namespace vitrelle
