@@ -99,7 +99,7 @@ void drawPlainShadowed(const PointSize& frame, double scale) {
 
 Platform platformOver(const QString& home) {
   Platform platform = host::makePlatform(
-      {.home = host::HomeFolder(home.toStdString()), .phone = {}, .dark = false, .verbose = false},
+      {.home = host::HomeFolder(home.toStdString()), .phone = {}, .verbose = false},
       host::makeQtLoop());
   host::useDrawing(platform);
   return platform;

@@ -14,15 +14,16 @@ inline Date momentOf(const ToldTime& told) {
 }
 
 inline host::HostOptions hostOptions(const Options& options) {
-  return {
-      .home = options.home ? host::HomeFolder(*options.home) : host::HomeFolder::ofUser(),
-      .phone = {.identifier = options.phoneIdentifier, .os = options.os, .zoomed = options.zoomed},
-      .dark = options.appearance == Appearance::dark,
-      .now = options.now ? std::optional(momentOf(*options.now)) : std::nullopt,
-      .battery = options.battery,
-      .weatherUrl = options.weatherUrl,
-      .location = options.location,
-      .verbose = options.verbose};
+  return {.home = options.home ? host::HomeFolder(*options.home) : host::HomeFolder::ofUser(),
+          .phone = {.identifier = options.phoneIdentifier,
+                    .os = options.os,
+                    .zoomed = options.zoomed,
+                    .appearance = options.appearance},
+          .now = options.now ? std::optional(momentOf(*options.now)) : std::nullopt,
+          .battery = options.battery,
+          .weatherUrl = options.weatherUrl,
+          .location = options.location,
+          .verbose = options.verbose};
 }
 
 /// Fails where something stands in the home that does not belong there.

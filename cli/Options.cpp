@@ -64,10 +64,12 @@ bool takeBool(const char* name, const std::string& text) {
   throw CLI::ValidationError(name, "'" + text + "' is neither true nor false");
 }
 
-Appearance takeAppearance(const char* name, const std::string& text) {
-  if (text == "light") return Appearance::light;
-  if (text == "dark") return Appearance::dark;
-  throw CLI::ValidationError(name, "'" + text + "' is neither light nor dark");
+AppearanceChoice takeAppearance(const char* name, const std::string& text) {
+  using enum AppearanceChoice;
+  for (const AppearanceChoice each : {desktop, light, dark}) {
+    if (text == describe(each)) return each;
+  }
+  throw CLI::ValidationError(name, "'" + text + "' is neither light nor dark nor desktop");
 }
 
 ToldTime takeTime(const char* name, const std::string& text) {
@@ -158,8 +160,9 @@ void addOptions(CLI::App& program, Options& options) {
           "--appearance",
           [&](const std::string& text) {
             options.appearance = takeAppearance("--appearance", text);
+            options.phoneTold = true;
           },
-          "light or dark ($VITRELLE_APPEARANCE)")
+          "light, dark or as the desktop is ($VITRELLE_APPEARANCE)")
       ->type_name("NAME")
       ->group(group);
   program
@@ -232,6 +235,18 @@ std::optional<std::string> phoneIdentifier(const std::string& nameOrIdentifier) 
   }
   if (looksLikeIdentifier(nameOrIdentifier)) return nameOrIdentifier;
   return std::nullopt;
+}
+
+std::string_view describe(AppearanceChoice appearance) {
+  switch (appearance) {
+  case AppearanceChoice::light:
+    return "light";
+  case AppearanceChoice::dark:
+    return "dark";
+  case AppearanceChoice::desktop:
+    return "desktop";
+  }
+  return {};
 }
 
 std::optional<OsVersion> parseOsVersion(const std::string& text) {

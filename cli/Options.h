@@ -4,22 +4,22 @@
 #include "cli/ToldTime.h"
 #include "core/platform/Device.h"
 #include "core/platform/Location.h"
+#include "core/platform/PhoneBook.h"
 
 #include <CLI/CLI.hpp>
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace vitrelle::cli {
-
-enum class Appearance { light, dark };
 
 struct Options {
   std::optional<std::string> home;
   std::optional<std::string> phoneIdentifier;
   std::optional<OsVersion> os;
   std::optional<bool> zoomed;
-  std::optional<Appearance> appearance;
+  std::optional<AppearanceChoice> appearance;
   std::optional<ToldTime> now;           ///< at which the time stands still
   std::optional<float> battery;          ///< as full as it is taken to be, from 0 to 1; or -1
   std::optional<Coordinate> location;    ///< where the device is taken to be
@@ -43,6 +43,9 @@ void readEnvironment(Options& options);
 /// The machine identifier of a phone told by name, in any case, or by identifier; nothing when it
 /// is neither. An identifier need not be a known one.
 std::optional<std::string> phoneIdentifier(const std::string& nameOrIdentifier);
+
+/// "desktop", "light" or "dark".
+std::string_view describe(AppearanceChoice appearance);
 
 /// "18", "18.1" or "18.1.2".
 std::optional<OsVersion> parseOsVersion(const std::string& text);

@@ -28,12 +28,16 @@ void show(const Platform& platform, const PhoneChoice& phone, bool json) {
                                              {"identifier", phone.identifier},
                                              {"os", describe(phone.os)},
                                              {"zoomed", phone.zoomed},
+                                             {"appearance", describe(phone.appearance)},
                                              {"measured", measured}};
     std::printf("%s\n", document.dump(2).c_str());
     return;
   }
-  std::printf("%s (%s), OS %s, %s display%s\n", name.c_str(), phone.identifier.c_str(),
-              describe(phone.os).c_str(), phone.zoomed ? "zoomed" : "standard",
+  const std::string appearance = phone.appearance == AppearanceChoice::desktop
+                                     ? ""
+                                     : ", always " + std::string(describe(phone.appearance));
+  std::printf("%s (%s), OS %s, %s display%s%s\n", name.c_str(), phone.identifier.c_str(),
+              describe(phone.os).c_str(), phone.zoomed ? "zoomed" : "standard", appearance.c_str(),
               measured ? "" : ", no measurements");
 }
 
@@ -63,7 +67,8 @@ Exit run(const CommandContext& context, const PhoneArguments& arguments) {
 
 void addPhoneCommand(CLI::App& program, CommandContext& context) {
   CLI::App* command = program.add_subcommand(
-      "phone", "Show the phone that is stood for, or save another with its --os and --zoomed");
+      "phone",
+      "Show the phone that is stood for, or save another with its --os, --zoomed and --appearance");
   const auto arguments = std::make_shared<PhoneArguments>();
   command->add_option("name", arguments->name, "Name or machine identifier")->type_name("NAME");
   command->add_flag("--json", arguments->json, "One JSON document");

@@ -90,13 +90,13 @@ Location toldLocation(const Coordinate& position) {
 
 Platform makePlatform(const HostOptions& options, const EventLoop& loop) {
   const HomeFolder& home = options.home;
-  const PhoneChoice phone = choosePhone(home, options.phone);
+  PhoneOperations phone = makePhone(home, options.phone, loop);
   return {
       .defaults = makeSqliteDefaults(home.path(), loop, options.storePatience),
       .files = home.files(),
       .images = makeImages(home),
-      .device = makeDevice(phone, options.dark),
-      .phoneBook = makePhoneBook(home, phone),
+      .device = std::move(phone.device),
+      .phoneBook = std::move(phone.phoneBook),
       .widgetCenter = makeWidgetCenter(home, loop),
       .bundle = {
           .identifier = [] { return std::optional<std::string>("com.quillmeresoftware.vitrelle"); },

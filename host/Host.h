@@ -14,7 +14,6 @@ namespace vitrelle::host {
 struct HostOptions {
   HomeFolder home;
   PhoneOverrides phone;
-  bool dark = false; ///< the appearance
   /// What is taken for the present moment, the battery's level and the device's position, instead
   /// of the real ones.
   std::optional<Date> now = {};

@@ -104,6 +104,9 @@ Platform withNothingWritten(Platform platform) {
       .reloadAllTimelines = [] {},
       .watchReloads = [](const std::function<void()>&) { return Subscription(); }};
   platform.phoneBook.save = [](const PhoneChoice&) { return success(); };
+  platform.phoneBook.watch = [](const std::function<void(const PhoneChoice&)>&) {
+    return Subscription();
+  };
   return platform;
 }
 

@@ -133,17 +133,16 @@ int handOver(const host::HomeFolder& home, std::vector<std::string> links) {
   return 0;
 }
 
-/// What was told, else light for a screenshot, else as the desktop is.
-std::function<std::int64_t()> appearanceOf(const Arguments& arguments) {
-  if (arguments.options.appearance || !arguments.screenshot.empty()) {
-    const bool dark = arguments.options.appearance == cli::Appearance::dark;
-    return [dark] { return dark ? darkStyle : lightStyle; };
-  }
-  return [] { // a desktop says so by its palette alone
+/// As it was chosen, or as the desktop is, which says so by its palette alone.
+std::function<std::int64_t()> appearanceOf(const PhoneBook& phones) {
+  return [current = phones.current] {
+    const AppearanceChoice chosen = current().appearance;
     const QPalette palette = QGuiApplication::palette();
-    const bool dark = palette.color(QPalette::Window).lightness() <
-                      palette.color(QPalette::WindowText).lightness();
-    return dark ? darkStyle : lightStyle;
+    const bool isDesktopDark = palette.color(QPalette::Window).lightness() <
+                               palette.color(QPalette::WindowText).lightness();
+    const bool isDark =
+        chosen == AppearanceChoice::dark || (chosen == AppearanceChoice::desktop && isDesktopDark);
+    return isDark ? darkStyle : lightStyle;
   };
 }
 
@@ -198,7 +197,8 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
   platform.debugConsole.print = [print = platform.debugConsole.print](const std::string& line) {
     print(cli::oneLine(line));
   };
-  platform.device.userInterfaceStyle = appearanceOf(arguments);
+  // A screenshot is the same on every desktop.
+  if (interactive) platform.device.userInterfaceStyle = appearanceOf(platform.phoneBook);
   host::useDrawing(platform);
   host::useDateWords(platform);
   host::useBattery(platform, options, loop);

@@ -1,19 +1,30 @@
 #include "host/phone/PhoneSettings.h"
 
+#include "host/desktop/FileWatch.h"
 #include "host/files/PendingFile.h"
 #include "host/phone/PhoneModels.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 namespace vitrelle::host {
 
 namespace {
 
 const PhoneChoice phoneOfToday{.identifier = "iPhone16,1", .os = {18, 0, 0}, .zoomed = false};
+
+struct AppearanceWord {
+  AppearanceChoice value;
+  std::string_view word;
+};
+constexpr AppearanceWord appearances[] = {{AppearanceChoice::desktop, "desktop"},
+                                          {AppearanceChoice::light, "light"},
+                                          {AppearanceChoice::dark, "dark"}};
 
 /// The saved choice: a line "key=value" for each field. What is missing or garbled is as today's.
 PhoneChoice savedChoice(const HomeFolder& home) {
@@ -30,6 +41,8 @@ PhoneChoice savedChoice(const HomeFolder& home) {
     const bool likely = printable && value.find(',') != std::string::npos;
     if (key == "identifier" && likely) choice.identifier = value;
     if (key == "zoomed") choice.zoomed = value == "true";
+    const auto known = std::ranges::find(appearances, value, &AppearanceWord::word);
+    if (key == "appearance" && known != std::end(appearances)) choice.appearance = known->value;
     long long major = 0;
     long long minor = 0;
     long long patch = 0;
@@ -42,10 +55,12 @@ PhoneChoice savedChoice(const HomeFolder& home) {
 }
 
 Status saveChoice(const HomeFolder& home, const PhoneChoice& choice) {
+  const auto appearance = std::ranges::find(appearances, choice.appearance, &AppearanceWord::value);
   const std::string text = "identifier=" + choice.identifier +
                            "\nos=" + std::to_string(choice.os.major) + "." +
                            std::to_string(choice.os.minor) + "." + std::to_string(choice.os.patch) +
-                           "\nzoomed=" + (choice.zoomed ? "true" : "false") + "\n";
+                           "\nzoomed=" + (choice.zoomed ? "true" : "false") +
+                           "\nappearance=" + std::string(appearance->word) + "\n";
   const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
   return replaceFile(home, home.phoneFile(), {bytes, text.size()});
 }
@@ -63,38 +78,93 @@ MachineField simulatorMachine() {
   return field;
 }
 
-} // namespace
-
-PhoneChoice choosePhone(const HomeFolder& home, const PhoneOverrides& overrides) {
-  const PhoneChoice saved = savedChoice(home);
+PhoneChoice overridden(const PhoneChoice& saved, const PhoneOverrides& overrides) {
   return {.identifier = overrides.identifier.value_or(saved.identifier),
           .os = overrides.os.value_or(saved.os),
-          .zoomed = overrides.zoomed.value_or(saved.zoomed)};
+          .zoomed = overrides.zoomed.value_or(saved.zoomed),
+          .appearance = overrides.appearance.value_or(saved.appearance)};
 }
 
-PhoneBook makePhoneBook(const HomeFolder& home, const PhoneChoice& choice) {
-  return {.models = phoneModels,
-          .current = [choice] { return choice; },
-          .save = [home](const PhoneChoice& chosen) { return saveChoice(home, chosen); },
-          .watch = [](const std::function<void(const PhoneChoice&)>&) { return Subscription(); }};
+class Phone final {
+ public:
+  Phone(HomeFolder home, PhoneOverrides overrides)
+      : home_(std::move(home)),
+        overrides_(std::move(overrides)),
+        saved_(savedChoice(home_)),
+        choice_(overridden(saved_, overrides_)) {}
+
+  const PhoneChoice& choice() const { return choice_; }
+
+  ScreenMode screen() const {
+    const PhoneModel model = phoneModel(choice_.identifier);
+    return choice_.zoomed ? model.zoomed : model.standard;
+  }
+
+  Status save(const PhoneChoice& chosen) {
+    Status kept = saveChoice(home_, chosen);
+    if (kept) saved_ = chosen;
+    overrides_ = {};
+    take(chosen);
+    return kept;
+  }
+
+  Subscription watch(const EventLoop& loop, std::function<void(const PhoneChoice&)> subscriber) {
+    if (!file_) {
+      file_ = std::make_unique<Subscription>(
+          watchFile(home_.phoneFile(), loop, [this] { readAgain(); }));
+    }
+    return watchers_.add(std::move(subscriber));
+  }
+
+ private:
+  void readAgain() {
+    const PhoneChoice now = savedChoice(home_);
+    if (std::exchange(saved_, now) == now) return; // what this program has written
+    take(overridden(now, overrides_));
+  }
+
+  void take(const PhoneChoice& choice) {
+    if (std::exchange(choice_, choice) != choice) watchers_.notify(choice);
+  }
+
+  const HomeFolder home_;
+  PhoneOverrides overrides_;
+  PhoneChoice saved_; ///< as the file was when it was last read or written
+  PhoneChoice choice_;
+  Subscribers<const PhoneChoice&> watchers_;
+  std::unique_ptr<Subscription> file_; ///< since somebody watches
+};
+
+std::optional<std::string> environmentOf(const Phone& phone, const std::string& name) {
+  if (name == "SIMULATOR_MODEL_IDENTIFIER") return phone.choice().identifier;
+  const char* const value = std::getenv(name.c_str());
+  return value == nullptr ? std::nullopt : std::optional<std::string>(value);
 }
 
-Device makeDevice(const PhoneChoice& choice, bool dark) {
-  const PhoneModel model = phoneModel(choice.identifier);
-  const ScreenMode screen = choice.zoomed ? model.zoomed : model.standard;
-  return {.machine = simulatorMachine,
-          .environment = [identifier = choice.identifier](
-                             const std::string& name) -> std::optional<std::string> {
-            if (name == "SIMULATOR_MODEL_IDENTIFIER") return identifier;
-            const char* const value = std::getenv(name.c_str());
-            return value == nullptr ? std::nullopt : std::optional<std::string>(value);
-          },
+} // namespace
+
+PhoneOperations makePhone(const HomeFolder& home, const PhoneOverrides& overrides,
+                          const EventLoop& loop) {
+  const auto phone = std::make_shared<Phone>(home, overrides);
+  return {
+      .device = {
+          .machine = simulatorMachine,
+          .environment = [phone](const std::string& name) { return environmentOf(*phone, name); },
           .isOperatingSystemAtLeast =
-              [os = choice.os](const OsVersion& version) { return os >= version; },
-          .screenBounds = [screen] { return screen.bounds; },
-          .screenScale = [screen] { return screen.scale; },
-          .screenNativeScale = [screen] { return screen.nativeScale; },
-          .userInterfaceStyle = [dark] { return std::int64_t{dark ? 2 : 1}; }};
+              [phone](const OsVersion& version) { return phone->choice().os >= version; },
+          .screenBounds = [phone] { return phone->screen().bounds; },
+          .screenScale = [phone] { return phone->screen().scale; },
+          .screenNativeScale = [phone] { return phone->screen().nativeScale; },
+          .userInterfaceStyle = [phone]() -> std::int64_t {
+            return phone->choice().appearance == AppearanceChoice::dark ? 2 : 1;
+          }},
+      .phoneBook = {.models = phoneModels,
+                    .current = [phone] { return phone->choice(); },
+                    .save = [phone](const PhoneChoice& chosen) { return phone->save(chosen); },
+                    .watch =
+                        [phone, loop](std::function<void(const PhoneChoice&)> subscriber) {
+                          return phone->watch(loop, std::move(subscriber));
+                        }}};
 }
 
 } // namespace vitrelle::host

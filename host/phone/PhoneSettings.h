@@ -4,6 +4,7 @@
 
 #include "core/platform/Device.h"
 #include "core/platform/PhoneBook.h"
+#include "host/desktop/EventLoop.h"
 #include "host/files/HomeFolder.h"
 
 #include <optional>
@@ -13,16 +14,23 @@ namespace vitrelle::host {
 
 /// What one program was told; the rest is as saved.
 struct PhoneOverrides {
-  std::optional<std::string> identifier;
-  std::optional<OsVersion> os;
-  std::optional<bool> zoomed;
+  std::optional<std::string> identifier = {};
+  std::optional<OsVersion> os = {};
+  std::optional<bool> zoomed = {};
+  std::optional<AppearanceChoice> appearance = {};
 };
 
-PhoneChoice choosePhone(const HomeFolder& home, const PhoneOverrides& overrides);
+/// Two groups of operations over one choice.
+struct PhoneOperations {
+  /// A simulator of the phone chosen, as the logic knows them. As the desktop is it is light:
+  /// programs with a window put the desktop's own in the place of that.
+  Device device;
+  /// What is saved holds at once, also instead of what this program was told. While somebody
+  /// watches, what other processes save holds as well, but for what this program was told.
+  PhoneBook phoneBook;
+};
 
-PhoneBook makePhoneBook(const HomeFolder& home, const PhoneChoice& choice);
-
-/// A simulator of the phone chosen, as the logic knows them.
-Device makeDevice(const PhoneChoice& choice, bool dark);
+PhoneOperations makePhone(const HomeFolder& home, const PhoneOverrides& overrides,
+                          const EventLoop& loop);
 
 } // namespace vitrelle::host

@@ -49,6 +49,23 @@ TEST_F(CommandTest, phone_isToldByOptionThenEnvironmentThenSavedChoice) {
   EXPECT_EQ(run({"phone", "No Phone"}).status, 2);
 }
 
+TEST_F(CommandTest, phone_keepsTheAppearanceForAllPrograms) {
+  const auto appearance = [&](const std::map<std::string, std::string>& environment = {}) {
+    return Json::parse(run({"phone", "--json"}, environment).output)["appearance"];
+  };
+  EXPECT_EQ(appearance(), "desktop");
+  ASSERT_EQ(run({"phone", "--appearance", "dark"}).status, 0);
+  EXPECT_EQ(appearance(), "dark");
+  EXPECT_EQ(run({"phone", "iPhone 14"}).output,
+            "iPhone 14 (iPhone14,7), OS 18.0, standard display, always dark\n");
+  EXPECT_EQ(appearance({{"VITRELLE_APPEARANCE", "light"}}), "light");
+  EXPECT_EQ(appearance(), "dark");
+  EXPECT_EQ(run({"phone", "--appearance", "grey"}).status, 2);
+  EXPECT_EQ(appearance(), "dark");
+  ASSERT_EQ(run({"phone", "--appearance", "desktop"}).status, 0);
+  EXPECT_EQ(appearance(), "desktop");
+}
+
 TEST_F(CommandTest, badVariable_isBlamedByItsName) {
   for (const char* name :
        {"VITRELLE_PHONE", "VITRELLE_OS", "VITRELLE_ZOOMED", "VITRELLE_APPEARANCE"}) {

@@ -81,6 +81,17 @@ class ToldWorldTest : public test::ProgramTest {
   const test::Environment zone{"TZ", "America/New_York"};
 };
 
+TEST_F(ToldWorldTest, appearance_isToldElseSavedElseLight) {
+  const auto style = [&](std::vector<std::string> words) {
+    return platformOf(std::move(words)).device.userInterfaceStyle();
+  };
+  EXPECT_EQ(style({}), 1);
+  ASSERT_EQ(run({"phone", "--appearance", "dark"}).status, 0);
+  EXPECT_EQ(style({}), 2);
+  EXPECT_EQ(style({"--appearance", "light"}), 1);
+  EXPECT_EQ(style({"--appearance", "desktop"}), 1);
+}
+
 TEST_F(ToldWorldTest, time_standsStill) {
   const test::Environment twin("VITRELLE_NOW", "2026-11-21T13:30Z");
   EXPECT_EQ(platformOf({}).dateTime.now(), Date{816960600});
