@@ -110,7 +110,7 @@ TEST_F(ExportPageTest, choosers_changeWhatTheyAreForAndNothingElse) {
   EXPECT_EQ(accessibleName("size"), "Widget Size, Small");
   driver->find("styles")->forceActiveFocus();
   driver->key(Qt::Key_Left);
-  EXPECT_EQ(accessibleName("styles"), "Select a Vitrelle Style, 1");
+  EXPECT_EQ(accessibleName("styles"), "Select a Vitrelle Style, 2");
   EXPECT_EQ(sliceOf("topLeftSmall", "styleNumber"), 1);
 }
 
