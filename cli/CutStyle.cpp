@@ -3,10 +3,10 @@
 #include "cli/Command.h"
 #include "cli/Interruption.h"
 #include "core/slicing/Measurements.h"
+#include "core/slicing/ScreenshotPhones.h"
 #include "core/slicing/WallpaperInterface.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 #include <utility>
 
@@ -43,15 +43,20 @@ Result<std::vector<Screenshot>> load(const Platform& platform, const Screenshots
 }
 
 std::optional<Failure> sizeRemark(const Platform& platform, const Screenshot& screenshot) {
-  const PointSize bounds = platform.device.screenBounds();
-  const double scale = platform.device.screenScale();
-  const PixelSize expected{static_cast<std::int32_t>(std::lround(bounds.width * scale)),
-                           static_cast<std::int32_t>(std::lround(bounds.height * scale))};
+  const PixelSize expected = screenshotSize(platform.device);
   const PixelSize size = screenshot.image.size();
   if (size == expected) return std::nullopt;
-  return Failure{screenshot.path, "its " + times(size.width, size.height) + " pixels are not the " +
-                                      times(expected.width, expected.height) +
-                                      " of this phone's screenshots; the slots may be off"};
+  std::string why = "its " + times(size.width, size.height) + " pixels are not the " +
+                    times(expected.width, expected.height) + " of this phone's screenshots";
+  const PhoneChoice present = platform.phoneBook.current();
+  const auto origins = screenshotOrigins(platform.phoneBook.models(), present, size);
+  if (!origins.empty()) {
+    const PhoneChoice& other = origins.front().choice;
+    why += ", but those of --phone \"" + origins.front().phones.front().name + "\"";
+    if (other.os != present.os) why += " --os " + describe(other.os);
+    if (other.zoomed != present.zoomed) why += other.zoomed ? " --zoomed" : " --standard";
+  }
+  return Failure{screenshot.path, why + "; the slots may be off"};
 }
 
 } // namespace

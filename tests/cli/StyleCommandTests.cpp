@@ -137,6 +137,18 @@ TEST_F(StyleCommandTest, slotsOutsideOfTheScreenshots_areSaidOfAStyleThatIsMade)
   EXPECT_EQ(amount(), "1\n");
 }
 
+TEST_F(StyleCommandTest, screenshotsOfAnotherPhone_areSaidToBeSo) {
+  const std::string foreign = writePicture("foreign.png", test::positionImage(640, 1136));
+  const auto complaints = [&](std::vector<std::string> options) {
+    options.insert(options.end(), {"style", "new", "--light", foreign, "--dark", foreign});
+    return run(options).complaints;
+  };
+  const std::string told = "--phone \"iPhone SE\" --os 17.0;";
+  const std::string said = complaints({});
+  EXPECT_NE(said.find(told), std::string::npos) << said;
+  EXPECT_EQ(complaints({"--phone", "iPhone SE", "--os", "17.0"}), "") << "what was told is right";
+}
+
 TEST_F(StyleCommandTest, homeOfTheFirstGeneration_isLeftToTheApplication) {
   ASSERT_EQ(
       run({"defaults", "write", "last_used_app_version", "-string", "1.9", "--standard"}).status,
