@@ -86,6 +86,16 @@ void ModernContentView::appearBeneath() {
   changed();
 }
 
+void ModernContentView::phoneChanged() {
+  const bool isMeasured = Measurements::current(platform_).widgetSize != 0;
+  if (activeAlert_ == ActiveAlert::incompatible && isMeasured) {
+    activeAlert_.reset();
+    const auto version = lastUsedAppVersion_.read();
+    if (version && !*version) lastUsedAppVersion_.set(currentVersion());
+  }
+  changed();
+}
+
 void ModernContentView::decideKindOfRun() {
   const auto stored = lastUsedAppVersion_.get();
   if (!stored) {

@@ -40,6 +40,9 @@ class ModernContentView final : public Screen {
   /// this is waits for a start that shows the root; where that would begin to count anew, nothing
   /// is offered that would be lost then.
   void appearBeneath();
+  /// Another phone is stood for. Where the launch stopped at one without measurements, the version
+  /// that it would have stored is stored now, or the next start would begin to count styles anew.
+  void phoneChanged();
   /// The pager appears, which the system may do before or after.
   void contentAppear() { reloadConfigs(); }
 

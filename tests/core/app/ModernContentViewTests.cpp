@@ -1,5 +1,6 @@
 #include "core/app/ModernContentView.h"
 #include "core/centre/BannerAd.h"
+#include "core/slicing/PhoneChoices.h"
 
 #include "tests/core/app/AppTest.h"
 
@@ -193,6 +194,22 @@ TEST_F(ModernContentViewTest, unmeasuredPhone_isFeltAndNotHeldAgainstTheVersion)
   EXPECT_EQ(storedVersion(), std::nullopt);
   EXPECT_FALSE(root.showOnboarding());
   EXPECT_EQ(console.reloads, 1);
+}
+
+TEST_F(ModernContentViewTest, phoneWithMeasurements_letsTheNextStartKeepTheStyles) {
+  phone.machine = "iPad1,1";
+  ModernContentView root(platform);
+  root.appear();
+  ASSERT_TRUE(choosePhone(platform, {.identifier = "iPad1,2", .os = {18, 0, 0}}));
+  root.phoneChanged();
+  EXPECT_EQ(storedVersion(), std::nullopt);
+  ASSERT_TRUE(choosePhone(platform, {.identifier = "iPhone14,6", .os = {18, 0, 0}}));
+  root.phoneChanged();
+  EXPECT_EQ(root.activeAlert(), std::nullopt);
+  EXPECT_EQ(storedVersion(), "2.2");
+  setNumber("amountOfConfigs", 3);
+  ModernContentView(platform).appear();
+  EXPECT_EQ(number("amountOfConfigs"), 3);
 }
 
 TEST_F(ModernContentViewTest, list_leavesOutWhatLacksAScreenshot) {
