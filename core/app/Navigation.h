@@ -31,6 +31,8 @@ class Navigation final : public Screen {
   /// From the root, which is never left; the last is shown.
   const std::vector<OpenScreen>& screens() const { return screens_; }
   void open(std::string_view name, std::optional<StyleNumber> style = std::nullopt);
+  /// Back to the topmost screen of that name; without one it is opened.
+  void reveal(std::string_view name);
   /// Back to the screen before.
   void back();
 

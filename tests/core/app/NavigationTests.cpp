@@ -25,5 +25,21 @@ TEST(Navigation, screens_standOnOneAnotherAboveTheRoot) {
   EXPECT_EQ(changes, 3);
 }
 
+TEST(Navigation, reveal_goesBackToWhatIsOpen) {
+  Navigation navigation;
+  int changes = 0;
+  const Subscription view = navigation.onChange([&] { ++changes; });
+  navigation.reveal("PhoneSettingsView");
+  const OpenScreen settings = navigation.screens().back();
+  navigation.reveal("PhoneSettingsView");
+  EXPECT_EQ(changes, 1);
+  navigation.open("LocationSettingsView");
+  navigation.reveal("PhoneSettingsView");
+  EXPECT_EQ(navigation.screens().size(), 2U);
+  EXPECT_EQ(navigation.screens().back(), settings) << "the same, as it was left";
+  navigation.reveal(Navigation::root);
+  EXPECT_EQ(navigation.screens().size(), 1U);
+}
+
 } // namespace
 } // namespace vitrelle
