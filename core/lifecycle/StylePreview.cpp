@@ -24,13 +24,13 @@ StylePreview::StylePreview(const Platform& platform, const StyleFamily& family)
       family_(family),
       storedDataArray_(platform, family.store()),
       amountOfConfigs_(platform, keys::amountOfConfigs),
-      selectedConfig_(platform, family.store().selected),
-      widgetSide_(smallWidgetSide(platform)) {
+      selectedConfig_(platform, family.store().selected) {
   bindings_.push_back(amountOfConfigs_.onChange([this](const auto&) { changed(); }));
   bindings_.push_back(family.live(platform, [this] { changed(); }));
 }
 
 void StylePreview::appear() {
+  widgetSide_ = smallWidgetSide(platform_);
   img_ = currentSlice(platform_, WidgetLocationImageNames::mediumTop);
   storedDataArray_.load();
   const RecordIndex current{selectedConfig_.getOrDefault()};

@@ -19,8 +19,8 @@ class StylePreview final : public Screen {
   /// The platform and the family must outlive it.
   StylePreview(const Platform& platform, const StyleFamily& family);
 
-  /// Reads the slice and the records anew. Of several records with the tag of the current style
-  /// the last is shown; without one nothing is.
+  /// Measures the screen, and reads the slice and the records anew. Of several records with the tag
+  /// of the current style the last is shown; without one nothing is.
   void appear();
   /// One for each wallpaper style: its light screenshot, else its dark one, if there is either.
   std::vector<std::optional<SliceName>> pages() const;
@@ -42,7 +42,7 @@ class StylePreview final : public Screen {
   StoredValue<std::int64_t> selectedConfig_;
   std::optional<SliceName> img_;
   std::optional<StyleRecord> shown_;
-  double widgetSide_;                  ///< of a small widget on the screen, points
+  double widgetSide_ = 0;              ///< of a small widget on the screen, points
   std::vector<Subscription> bindings_; ///< last, for they call this screen
 };
 

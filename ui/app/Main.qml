@@ -19,13 +19,31 @@ Window {
             item.goBack();
     }
 
+    /// The window stays as high as it is, for the user may have chosen that.
+    function refit() {
+        if (!Surroundings.framed) {
+            width = phoneWidth;
+            height = phoneHeight;
+        } else if (visibility === Window.Windowed) {
+            width = Math.round(Math.min(height * phoneWidth / phoneHeight, Screen.desktopAvailableWidth));
+        }
+    }
+
     title: Shell.root.title
-    width: phoneWidth * fit
-    height: phoneHeight * fit
     minimumWidth: phoneWidth / 3
     minimumHeight: phoneHeight / 3
     color: "black"
+    Component.onCompleted: {
+        width = phoneWidth * fit;
+        height = phoneHeight * fit;
+    }
 
+    Connections {
+        target: Surroundings
+        function onScreenChanged() {
+            window.refit();
+        }
+    }
     Item {
         anchors.centerIn: parent
         width: window.phoneWidth

@@ -20,7 +20,11 @@ RootScreen::RootScreen(const Platform& platform)
     : platform_(platform),
       screen_(platform),
       pager_(pagerFor(platform, screen_)),
-      view_(screen_.onChange([this] { update(); })) {}
+      view_(screen_.onChange([this] { update(); })),
+      phones_(platform.phoneBook.watch([this](const PhoneChoice&) {
+        screen_.phoneChanged();
+        layPagesOut();
+      })) {}
 
 void RootScreen::appear(bool launches) {
   launches ? screen_.appear() : screen_.appearBeneath();
@@ -55,13 +59,15 @@ void RootScreen::showStyle(int styleNumber) {
 
 void RootScreen::update() {
   styles_.refresh();
-  if (screen_.pageCount() != pager_.items()) {
-    const std::int64_t page = pager_.page();
-    pager_ = pagerFor(platform_, screen_);
-    pager_.showPage(page);
-    Q_EMIT pagerMoved();
-  }
+  if (screen_.pageCount() != pager_.items()) layPagesOut();
   Q_EMIT changed();
+}
+
+void RootScreen::layPagesOut() {
+  const std::int64_t page = pager_.page();
+  pager_ = pagerFor(platform_, screen_);
+  pager_.showPage(page);
+  Q_EMIT pagerMoved();
 }
 
 } // namespace vitrelle::ui

@@ -26,7 +26,7 @@ class RootScreen final : public QObject {
   Q_PROPERTY(bool canBeChanged READ canBeChanged NOTIFY changed)
   Q_PROPERTY(bool launchWaits READ launchWaits NOTIFY changed)
   Q_PROPERTY(bool showingAlert READ showingAlert NOTIFY changed)
-  Q_PROPERTY(qreal pageWidth READ pageWidth CONSTANT)
+  Q_PROPERTY(qreal pageWidth READ pageWidth NOTIFY pagerMoved)
   Q_PROPERTY(qreal pageSpacing READ pageSpacing CONSTANT)
   Q_PROPERTY(qreal minimumDragDistance READ minimumDragDistance CONSTANT)
   /// How far right of the screen's middle the pages' middle is drawn, in points.
@@ -78,13 +78,15 @@ class RootScreen final : public QObject {
     return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
   }
   void update();
+  /// When the pages, or the screen under them, are others.
+  void layPagesOut();
 
   const Platform& platform_;
   ModernContentView screen_;
   StyleList styles_{screen_};
   ScrollingHStackModifier pager_;
   bool dragging_ = false;
-  Subscription view_, reloads_;
+  Subscription view_, reloads_, phones_;
 };
 
 } // namespace vitrelle::ui

@@ -7,8 +7,8 @@ namespace vitrelle::ui {
 
 AssignScreen::AssignScreen(const Platform& platform, std::shared_ptr<StyleAssign> screen)
     : StyleScreen(screen->family(), "assign"),
+      platform_(platform),
       screen_(std::move(screen)),
-      previewSize_(mediumPreviewSize(platform)),
       view_(screen_->onChange([this] { Q_EMIT changed(); })) {}
 
 QStringList AssignScreen::options() const {

@@ -18,8 +18,8 @@ class AssignScreen : public vitrelle::ui::StyleScreen {
   QML_UNCREATABLE("the flow makes it")
   Q_PROPERTY(vitrelle::ui::Face face READ face NOTIFY changed)
   Q_PROPERTY(vitrelle::ui::BackdropName backdrop READ backdrop NOTIFY changed)
-  Q_PROPERTY(qreal previewWidth READ previewWidth CONSTANT)
-  Q_PROPERTY(qreal previewHeight READ previewHeight CONSTANT)
+  Q_PROPERTY(qreal previewWidth READ previewWidth NOTIFY changed)
+  Q_PROPERTY(qreal previewHeight READ previewHeight NOTIFY changed)
   Q_PROPERTY(QStringList options READ options NOTIFY changed)
   /// The wallpaper style's number of each option; -1 for the one that stands for none.
   Q_PROPERTY(QList<int> wallpapers READ wallpapers NOTIFY changed)
@@ -31,10 +31,10 @@ class AssignScreen : public vitrelle::ui::StyleScreen {
  public:
   AssignScreen(const Platform& platform, std::shared_ptr<StyleAssign> screen);
 
-  Face face() const { return Face::of(screen_->face(previewSize_)); }
+  Face face() const { return Face::of(screen_->face(mediumPreviewSize(platform_))); }
   BackdropName backdrop() const { return BackdropName::of(screen_->img()); }
-  qreal previewWidth() const { return previewSize_.width; }
-  qreal previewHeight() const { return previewSize_.height; }
+  qreal previewWidth() const { return mediumPreviewSize(platform_).width; }
+  qreal previewHeight() const { return mediumPreviewSize(platform_).height; }
   QStringList options() const;
   QList<int> wallpapers() const;
   int picked() const;
@@ -49,8 +49,8 @@ class AssignScreen : public vitrelle::ui::StyleScreen {
   void changed();
 
  private:
+  const Platform& platform_;
   std::shared_ptr<StyleAssign> screen_;
-  PointSize previewSize_;
   Subscription view_;
 };
 

@@ -22,7 +22,7 @@ SheetPage {
 
     Connections {
         target: Surroundings
-        function onDarkChanged() {
+        function onDarkChanged() { // also when another phone is stood for
             page.screen.takeSlice();
         }
     }

@@ -9,9 +9,9 @@ namespace vitrelle::ui {
 
 EditorScreen::EditorScreen(const Platform& platform, std::shared_ptr<StyleEditor> screen)
     : StyleScreen(screen->family(), "editor"),
+      platform_(platform),
       screen_(std::move(screen)),
       second_(dynamic_cast<StyleSecond*>(screen_.get())),
-      previewSize_(mediumPreviewSize(platform)),
       form_(*screen_),
       view_(screen_->onChange([this] {
         form_.refresh();

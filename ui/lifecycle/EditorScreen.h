@@ -21,8 +21,8 @@ class EditorScreen : public vitrelle::ui::StyleScreen {
   Q_PROPERTY(vitrelle::ui::FormModel* form READ form CONSTANT)
   Q_PROPERTY(vitrelle::ui::Face face READ face NOTIFY changed)
   Q_PROPERTY(vitrelle::ui::BackdropName backdrop READ backdrop NOTIFY changed)
-  Q_PROPERTY(qreal previewWidth READ previewWidth CONSTANT)
-  Q_PROPERTY(qreal previewHeight READ previewHeight CONSTANT)
+  Q_PROPERTY(qreal previewWidth READ previewWidth NOTIFY changed)
+  Q_PROPERTY(qreal previewHeight READ previewHeight NOTIFY changed)
   /// What the sheet over the form picks, "font" or "symbol"; empty while there is none.
   Q_PROPERTY(QString sheet READ sheet NOTIFY changed)
   Q_PROPERTY(QString sheetValue READ sheetValue NOTIFY changed)
@@ -37,10 +37,10 @@ class EditorScreen : public vitrelle::ui::StyleScreen {
 
   bool isSecond() const { return screen_->step() == EditorStep::second; }
   FormModel* form() { return &form_; }
-  Face face() const { return Face::of(screen_->face(previewSize_)); }
+  Face face() const { return Face::of(screen_->face(mediumPreviewSize(platform_))); }
   BackdropName backdrop() const { return BackdropName::of(screen_->img()); }
-  qreal previewWidth() const { return previewSize_.width; }
-  qreal previewHeight() const { return previewSize_.height; }
+  qreal previewWidth() const { return mediumPreviewSize(platform_).width; }
+  qreal previewHeight() const { return mediumPreviewSize(platform_).height; }
   QString sheet() const;
   QString sheetValue() const;
   bool hasSuggestions() const { return second_ != nullptr && second_->suggesting().has_value(); }
@@ -49,7 +49,7 @@ class EditorScreen : public vitrelle::ui::StyleScreen {
   QList<QColor> suggestedColours() const;
 
   Q_INVOKABLE void appear() { screen_->appear(); }
-  /// When the appearance has changed.
+  /// When the appearance or the screen has changed.
   Q_INVOKABLE void takeSlice() { screen_->takeSlice(); }
   /// When the screen has come to rest.
   Q_INVOKABLE void settle();
@@ -61,9 +61,9 @@ class EditorScreen : public vitrelle::ui::StyleScreen {
   void changed();
 
  private:
+  const Platform& platform_;
   std::shared_ptr<StyleEditor> screen_;
   StyleSecond* second_; ///< the same, if it is one
-  PointSize previewSize_;
   FormModel form_;
   bool settled_ = false;
   Subscription view_;

@@ -28,7 +28,7 @@ SheetPage {
 
     Connections {
         target: Surroundings
-        function onDarkChanged() {
+        function onDarkChanged() { // also when another phone is stood for
             page.screen.appear();
         }
     }

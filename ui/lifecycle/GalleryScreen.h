@@ -18,8 +18,8 @@ class GalleryScreen : public vitrelle::ui::StyleScreen {
   Q_PROPERTY(QString placeholder READ placeholder NOTIFY changed)
   Q_PROPERTY(int revision READ revision NOTIFY changed)
   Q_PROPERTY(int columns READ columns CONSTANT)
-  Q_PROPERTY(qreal tileSide READ tileSide CONSTANT)
-  Q_PROPERTY(qreal spacing READ spacing CONSTANT)
+  Q_PROPERTY(qreal tileSide READ tileSide NOTIFY changed)
+  Q_PROPERTY(qreal spacing READ spacing NOTIFY changed)
   Q_PROPERTY(qreal tickSize READ tickSize CONSTANT)
 
  public:

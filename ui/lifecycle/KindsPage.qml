@@ -14,6 +14,12 @@ SheetPage {
     symbol: SharedWords.kindsSymbol
     spacing: 16
 
+    Connections {
+        target: Surroundings
+        function onScreenChanged() {
+            page.screen.refresh();
+        }
+    }
     Label {
         objectName: "kindsNote"
         x: 30

@@ -22,8 +22,8 @@ class KindsScreen : public vitrelle::ui::StyleScreen {
   Q_PROPERTY(QList<vitrelle::ui::Face> samples READ samples NOTIFY changed)
   /// The line below them; empty where there is none.
   Q_PROPERTY(QString foot READ foot CONSTANT)
-  Q_PROPERTY(qreal sampleWidth READ sampleWidth CONSTANT)
-  Q_PROPERTY(qreal sampleHeight READ sampleHeight CONSTANT)
+  Q_PROPERTY(qreal sampleWidth READ sampleWidth NOTIFY changed)
+  Q_PROPERTY(qreal sampleHeight READ sampleHeight NOTIFY changed)
 
  public:
   explicit KindsScreen(std::shared_ptr<StyleKinds> screen)
@@ -47,6 +47,8 @@ class KindsScreen : public vitrelle::ui::StyleScreen {
   QString foot() const {
     return qText(screen_->foot().value_or(FootLink{}).words).remove(QChar(0xF8FF));
   }
+  /// When the screen has changed.
+  Q_INVOKABLE void refresh() { Q_EMIT changed(); }
   Q_INVOKABLE void pressFoot() const { screen_->pressFoot(); }
   qreal sampleWidth() const { return screen_->sampleSize().width; }
   qreal sampleHeight() const { return screen_->sampleSize().height; }

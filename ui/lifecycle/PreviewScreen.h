@@ -18,10 +18,10 @@ class PreviewScreen : public vitrelle::ui::StyleScreen {
   QML_UNCREATABLE("the flow makes it")
   Q_PROPERTY(vitrelle::ui::Face face READ face NOTIFY changed)
   Q_PROPERTY(QList<vitrelle::ui::BackdropName> pages READ pages NOTIFY changed)
-  Q_PROPERTY(qreal pageWidth READ pageWidth CONSTANT)
-  Q_PROPERTY(qreal pageHeight READ pageHeight CONSTANT)
+  Q_PROPERTY(qreal pageWidth READ pageWidth NOTIFY changed)
+  Q_PROPERTY(qreal pageHeight READ pageHeight NOTIFY changed)
   Q_PROPERTY(qreal pageSpacing READ pageSpacing CONSTANT)
-  Q_PROPERTY(QRectF widgetBox READ widgetBox CONSTANT)
+  Q_PROPERTY(QRectF widgetBox READ widgetBox NOTIFY changed)
 
  public:
   explicit PreviewScreen(std::shared_ptr<StylePreview> screen)

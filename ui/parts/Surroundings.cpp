@@ -1,5 +1,6 @@
 #include "ui/parts/Surroundings.h"
 
+#include "core/slicing/DeviceNames.h"
 #include "core/slicing/WidgetLocation.h"
 
 #include <QEvent>
@@ -18,6 +19,7 @@ constexpr char ownerProperty[] = "surroundings";
 Surroundings::Surroundings(const Platform& platform, bool framed, bool animated)
     : platform_(platform), framed_(framed), animated_(animated), pictures_(platform) {
   qGuiApp->installEventFilter(this);
+  phones_ = platform.phoneBook.watch([this](const PhoneChoice&) { followPhone(); });
 }
 
 void Surroundings::give(QQmlEngine& engine) {
@@ -50,6 +52,12 @@ bool Surroundings::eventFilter(QObject* watched, QEvent* event) {
     Q_EMIT keysInUseChanged();
   }
   return QObject::eventFilter(watched, event);
+}
+
+void Surroundings::followPhone() {
+  forgetDevice(platform_); // another program may have changed it
+  Q_EMIT screenChanged();
+  Q_EMIT darkChanged();
 }
 
 void Surroundings::noteKey(const QKeyEvent& event) {

@@ -15,8 +15,8 @@ class Surroundings final : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_SINGLETON
-  Q_PROPERTY(qreal screenWidth READ screenWidth CONSTANT)
-  Q_PROPERTY(qreal screenHeight READ screenHeight CONSTANT)
+  Q_PROPERTY(qreal screenWidth READ screenWidth NOTIFY screenChanged)
+  Q_PROPERTY(qreal screenHeight READ screenHeight NOTIFY screenChanged)
   /// Whether the screen lies in the frame of a phone.
   Q_PROPERTY(bool framed READ isFramed CONSTANT)
   Q_PROPERTY(bool animated READ isAnimated CONSTANT)
@@ -50,6 +50,8 @@ class Surroundings final : public QObject {
 
  Q_SIGNALS:
   void darkChanged();
+  /// Another phone is stood for.
+  void screenChanged();
   void keysInUseChanged();
 
  protected:
@@ -57,6 +59,7 @@ class Surroundings final : public QObject {
 
  private:
   void noteKey(const QKeyEvent& event);
+  void followPhone();
 
   const Platform& platform_;
   const bool framed_;
@@ -67,6 +70,7 @@ class Surroundings final : public QObject {
   bool keyHeld_ = false;
   int lastKey_ = 0;
   quint64 lastKeyTime_ = 0; ///< milliseconds, by the window system's clock
+  Subscription phones_;     ///< last, for it calls this object
 };
 
 } // namespace vitrelle::ui
