@@ -439,5 +439,105 @@
         <source></source>
         <translation>Abbrechen</translation>
     </message>
+    <message id="app.quit">
+        <source></source>
+        <translation>Beenden</translation>
+    </message>
+    <message id="app.phone.title">
+        <source></source>
+        <translation>Telefon</translation>
+    </message>
+    <message id="app.phone.menu">
+        <source></source>
+        <translation>Telefon einstellen …</translation>
+    </message>
+    <message id="app.phone.which">
+        <source></source>
+        <translation>Welches iPhone?</translation>
+    </message>
+    <message id="app.phone.search">
+        <source></source>
+        <translation>Suchen, etwa „SE 3“</translation>
+    </message>
+    <message id="app.phone.unknown">
+        <source></source>
+        <translation>Kein iPhone heißt so.</translation>
+    </message>
+    <message id="app.phone.bothDisplays">
+        <source></source>
+        <translation>Normale und vergrößerte Anzeige</translation>
+    </message>
+    <message id="app.phone.standardDisplay">
+        <source></source>
+        <translation>Normale Anzeige</translation>
+    </message>
+    <message id="app.phone.zoomedOnly">
+        <source></source>
+        <translation>Vergrößerte Anzeige</translation>
+    </message>
+    <message id="app.phone.unmeasured">
+        <source></source>
+        <translation>Nicht vermessen, also ohne Plätze</translation>
+    </message>
+    <message id="app.phone.onSystem">
+        <source></source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="app.phone.system">
+        <source></source>
+        <translation>System</translation>
+    </message>
+    <message id="app.phone.from18">
+        <source></source>
+        <translation>iOS 18 und neuer</translation>
+    </message>
+    <message id="app.phone.before18">
+        <source></source>
+        <translation>Vor iOS 18</translation>
+    </message>
+    <message id="app.phone.zoomed">
+        <source></source>
+        <translation>Vergrößerte Anzeige</translation>
+    </message>
+    <message id="app.phone.appearance">
+        <source></source>
+        <translation>Erscheinungsbild</translation>
+    </message>
+    <message id="app.phone.asDesktop">
+        <source></source>
+        <translation>Wie der Rechner</translation>
+    </message>
+    <message id="app.phone.light">
+        <source></source>
+        <translation>Hell</translation>
+    </message>
+    <message id="app.phone.dark">
+        <source></source>
+        <translation>Dunkel</translation>
+    </message>
+    <message id="app.phone.sources">
+        <source></source>
+        <translation>Wetter</translation>
+    </message>
+    <message id="app.phone.foreign">
+        <source></source>
+        <translation>Dieses Bildschirmfoto hat %1 Pixel, stammt also nicht vom eingestellten %2. Von welchem iPhone ist es?</translation>
+    </message>
+    <message id="app.phone.or">
+        <source></source>
+        <translation>oder %1</translation>
+    </message>
+    <message id="app.phone.isZoomed">
+        <source></source>
+        <translation>%1 (vergrößert)</translation>
+    </message>
+    <message id="app.phone.keep">
+        <source></source>
+        <translation>%1 beibehalten</translation>
+    </message>
+    <message id="app.phone.now">
+        <source></source>
+        <translation>Eingestellt: %1</translation>
+    </message>
 </context>
 </TS>

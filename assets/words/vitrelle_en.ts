@@ -439,5 +439,105 @@
         <source></source>
         <translation>Cancel</translation>
     </message>
+    <message id="app.quit">
+        <source></source>
+        <translation>Quit</translation>
+    </message>
+    <message id="app.phone.title">
+        <source></source>
+        <translation>Phone Settings</translation>
+    </message>
+    <message id="app.phone.menu">
+        <source></source>
+        <translation>Phone Settings …</translation>
+    </message>
+    <message id="app.phone.which">
+        <source></source>
+        <translation>Which iPhone?</translation>
+    </message>
+    <message id="app.phone.search">
+        <source></source>
+        <translation>Search, such as “SE 3”</translation>
+    </message>
+    <message id="app.phone.unknown">
+        <source></source>
+        <translation>No iPhone has these words in its name.</translation>
+    </message>
+    <message id="app.phone.bothDisplays">
+        <source></source>
+        <translation>Standard and zoomed display</translation>
+    </message>
+    <message id="app.phone.standardDisplay">
+        <source></source>
+        <translation>Standard display</translation>
+    </message>
+    <message id="app.phone.zoomedOnly">
+        <source></source>
+        <translation>Zoomed display</translation>
+    </message>
+    <message id="app.phone.unmeasured">
+        <source></source>
+        <translation>No measurements, so no slots</translation>
+    </message>
+    <message id="app.phone.onSystem">
+        <source></source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="app.phone.system">
+        <source></source>
+        <translation>System</translation>
+    </message>
+    <message id="app.phone.from18">
+        <source></source>
+        <translation>iOS 18 and later</translation>
+    </message>
+    <message id="app.phone.before18">
+        <source></source>
+        <translation>Before iOS 18</translation>
+    </message>
+    <message id="app.phone.zoomed">
+        <source></source>
+        <translation>Zoomed display</translation>
+    </message>
+    <message id="app.phone.appearance">
+        <source></source>
+        <translation>Appearance</translation>
+    </message>
+    <message id="app.phone.asDesktop">
+        <source></source>
+        <translation>As the desktop</translation>
+    </message>
+    <message id="app.phone.light">
+        <source></source>
+        <translation>Light</translation>
+    </message>
+    <message id="app.phone.dark">
+        <source></source>
+        <translation>Dark</translation>
+    </message>
+    <message id="app.phone.sources">
+        <source></source>
+        <translation>Weather</translation>
+    </message>
+    <message id="app.phone.foreign">
+        <source></source>
+        <translation>This screenshot has %1 pixels, so it is not from the %2 that Vitrelle is set to. Which iPhone is it from?</translation>
+    </message>
+    <message id="app.phone.or">
+        <source></source>
+        <translation>or %1</translation>
+    </message>
+    <message id="app.phone.isZoomed">
+        <source></source>
+        <translation>%1 (zoomed)</translation>
+    </message>
+    <message id="app.phone.keep">
+        <source></source>
+        <translation>Keep %1</translation>
+    </message>
+    <message id="app.phone.now">
+        <source></source>
+        <translation>Set to %1</translation>
+    </message>
 </context>
 </TS>

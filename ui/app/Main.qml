@@ -44,6 +44,19 @@ Window {
             window.refit();
         }
     }
+    Item { // beneath the phone: gets the presses that nothing on it takes
+        id: ground
+        anchors.fill: parent
+
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            gesturePolicy: TapHandler.ReleaseWithinBounds
+            onTapped: eventPoint => screens.openMenu(ground, eventPoint.position)
+        }
+        TapHandler {
+            onLongPressed: screens.openMenu(ground, point.position)
+        }
+    }
     Item {
         anchors.centerIn: parent
         width: window.phoneWidth
@@ -58,6 +71,7 @@ Window {
             height: Surroundings.screenHeight
             clip: true
             focus: true
+            onQuitAsked: window.close()
         }
         ContinuousRectangle { // the corners of the screen
             anchors.fill: screens
@@ -73,6 +87,15 @@ Window {
     Shortcut {
         sequences: [StandardKey.Quit]
         onActivated: window.close()
+    }
+    Shortcut {
+        sequences: [StandardKey.Preferences, "Ctrl+,"]
+        onActivated: screens.openSettings()
+        onActivatedAmbiguously: screens.openSettings() // where the two are the same
+    }
+    Shortcut {
+        sequence: "F10"
+        onActivated: screens.openMenu(screens, Qt.point(8, Theme.topInset))
     }
     Shortcut {
         sequences: [StandardKey.Back]

@@ -39,6 +39,10 @@ void Navigator::open(const QString& name) {
   if (findScreen(name.toStdString()) != nullptr) navigation_.open(name.toStdString());
 }
 
+void Navigator::reveal(const QString& name) {
+  if (findScreen(name.toStdString()) != nullptr) navigation_.reveal(name.toStdString());
+}
+
 void Navigator::openStyle(int styleNumber) {
   navigation_.open(Navigation::changeStyle, StyleNumber{styleNumber});
 }

@@ -55,6 +55,8 @@ class Navigator final : public QObject {
   QVariantList places() const;
   /// A name that no screen has opens nothing.
   Q_INVOKABLE void open(const QString& name);
+  /// The same, but a screen that is open already is gone back to.
+  Q_INVOKABLE void reveal(const QString& name);
   Q_INVOKABLE void openStyle(int styleNumber);
   Q_INVOKABLE void back() { navigation_.back(); }
 

@@ -5,6 +5,7 @@
 #include "ui/centre/DateTextScreen.h"
 #include "ui/centre/ExportScreen.h"
 #include "ui/centre/LocationScreen.h"
+#include "ui/centre/PhoneScreen.h"
 #include "ui/centre/SolidBackgroundScreen.h"
 #include "ui/centre/WidgetCentreScreen.h"
 #include "ui/centre/WidgetSettingsScreen.h"
@@ -120,6 +121,7 @@ std::vector<ScreenEntry> makeTable() {
       {"SolidBackgroundView", "SolidBackgroundPage", screenOver<SolidBackgroundScreen>},
       {"ModernImageExportView", "ExportPage", screenOver<ExportScreen>},
       {"LocationSettingsView", "LocationSettingsPage", screenOver<LocationScreen>},
+      {"PhoneSettingsView", "PhoneSettingsPage", screenOver<PhoneScreen>},
   };
   for (const FamilyDescription& words : familyTable) {
     const StyleFamily& family = styleFamily(words.name);

@@ -5,6 +5,10 @@ import Vitrelle
 FocusScope {
     id: screens
 
+    readonly property bool asked: Shell.root.showingAlert || Shell.locationQuestion.shown || review.shown // above all else
+
+    signal quitAsked
+
     function back() {
         const page = stack.currentItem as Page;
         if (stack.depth > 1 && page && !Surroundings.isKeyHeld()) // one press, one step
@@ -26,6 +30,17 @@ FocusScope {
         Shell.root.showStyle(intake.intake.styleNumber);
     }
 
+    function openSettings() {
+        if (!asked)
+            Shell.navigator.reveal("PhoneSettingsView");
+    }
+    /// At a point of an item, which may lie outside of the screens.
+    function openMenu(item: Item, position: point) {
+        if (!asked)
+            menu.open(item, position, Window.activeFocusItem ?? stack);
+    }
+
+    Keys.onMenuPressed: openMenu(screens, Qt.point(width / 2 - 125, Theme.topInset))
     Keys.onEscapePressed: back()
     Keys.onBackPressed: back()
     Component.onCompleted: {
@@ -37,7 +52,7 @@ FocusScope {
     KeysKeeper {
         id: keys
         overlay: over
-        covered: Shell.root.showingAlert || Shell.locationQuestion.shown || review.shown
+        covered: screens.asked || menu.shown
     }
     ScreenStack {
         id: stack
@@ -88,6 +103,11 @@ FocusScope {
                     Shell.reviewQuestion.close();
             }
             onDismissed: Shell.reviewQuestion.dismiss()
+        }
+        WindowMenu {
+            id: menu
+            onSettingsAsked: screens.openSettings()
+            onQuitAsked: screens.quitAsked()
         }
     }
     NoticeBar {}
