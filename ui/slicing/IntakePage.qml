@@ -10,14 +10,14 @@ Page {
 
     title: intake.title
     backTitle: intake.back
-    covered: sheet.shown || picker.shown
+    covered: sheet.shown || picker.shown || intake.asking
     onClosed: intake.disappear()
     Component.onCompleted: {
         intake.appear();
         focusNext();
     }
     Keys.onPressed: event => {
-        if (!event.matches(StandardKey.Paste))
+        if (covered || !event.matches(StandardKey.Paste))
             return;
         event.accepted = true;
         intake.paste(nextIsDark);
@@ -26,7 +26,15 @@ Page {
     readonly property bool nextIsDark: intake.lightSet && !intake.darkSet // what will be used next
 
     function focusNext() {
+        if (intake.asking) // it is done after the answer
+            return;
         halves.itemAt(nextIsDark ? 1 : 0).focus = true;
+    }
+
+    /// From the question, which may have come before the page had them.
+    function takeKeysBack() {
+        forceActiveFocus();
+        focusNext();
     }
 
     Label {
@@ -119,6 +127,24 @@ Page {
                     onClosed: sheet.dismissed()
                 }
             }
+        },
+        Sheet {
+            id: question
+            objectName: "questionSheet"
+            shown: page.intake.asking
+            onDismissed: page.intake.cancelQuestion()
+            onShownChanged: if (!shown) Qt.callLater(page.takeKeysBack)
+
+            Loader {
+                anchors.fill: parent
+                focus: true
+                active: question.present
+                sourceComponent: ScreenshotOriginPage {
+                    focus: true
+                    intake: page.intake
+                    onClosed: question.dismissed()
+                }
+            }
         }
     ]
     Timer {
@@ -130,8 +156,11 @@ Page {
     function followPicker() {
         if (intake.pickerOpen && !picker.shown)
             picker.open();
-        else if (!intake.pickerOpen && picker.shown)
+        else if (!intake.pickerOpen && picker.shown) {
             picker.close();
+            if (intake.asking) // and not what the picker gave the keys back to
+                question.forceActiveFocus();
+        }
     }
     Connections {
         target: page.intake

@@ -1,11 +1,13 @@
 #include "ui/slicing/IntakeScreen.h"
 
+#include "core/slicing/PhoneChoices.h"
 #include "ui/parts/Notices.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
+#include <QStringList>
 
 #include <utility>
 
@@ -23,6 +25,11 @@ Image imageOf(const QImage& picture) {
                       .owner = pixels});
 }
 
+QString marked(const std::string& phone, bool zoomed) {
+  const QString name = QString::fromStdString(phone);
+  return zoomed ? qtTrId("app.phone.isZoomed").arg(name) : name;
+}
+
 } // namespace
 
 IntakeScreen::IntakeScreen(const Platform& platform, Notices& notices,
@@ -30,7 +37,37 @@ IntakeScreen::IntakeScreen(const Platform& platform, Notices& notices,
     : platform_(platform),
       notices_(notices),
       screen_(std::move(screen)),
-      view_(screen_->onChange([this] { Q_EMIT changed(); })) {}
+      incoming_(platform,
+                [this](InterfaceStyle style, const Image& picture) {
+                  if (choose(style == darkStyle)) take(picture);
+                }),
+      view_(screen_->onChange([this] { Q_EMIT changed(); })),
+      question_(incoming_.onChange([this] { Q_EMIT changed(); })) {}
+
+QString IntakeScreen::askedSize() const {
+  const PixelSize& size = incoming_.size();
+  return QStringLiteral("%1\u00A0×\u00A0%2").arg(size.width).arg(size.height);
+}
+
+QList<ScreenshotPhones> IntakeScreen::origins() const {
+  QList<ScreenshotPhones> origins;
+  for (const ScreenshotOrigin& origin : incoming_.origins()) {
+    const ScreenshotOrigin::Phone& first = origin.phones.front();
+    QStringList others; // marked where they are unlike the first
+    for (auto other = origin.phones.begin() + 1; other != origin.phones.end(); ++other)
+      others += marked(other->name, other->zoomed && !first.zoomed);
+    QStringList notes;
+    if (!others.isEmpty()) notes += qtTrId("app.phone.or").arg(others.join(u", "));
+    if (!origin.isMeasured) notes += qtTrId("app.phone.unmeasured");
+    origins += {marked(first.name, first.zoomed), notes.join(u'\n')};
+  }
+  return origins;
+}
+
+QString IntakeScreen::presentPhone() const {
+  const PhoneChoice present = platform_.phoneBook.current();
+  return marked(phoneName(platform_, present.identifier), present.zoomed);
+}
 
 void IntakeScreen::appear() {
   appeared_ = true;
@@ -38,6 +75,7 @@ void IntakeScreen::appear() {
 }
 
 void IntakeScreen::disappear() {
+  incoming_.cancel();
   if (std::exchange(appeared_, false)) screen_->disappear();
 }
 
@@ -65,8 +103,30 @@ bool IntakeScreen::pick(const QUrl& file) {
                                   : platform_.images.load(path);
   if (!image) return refuse(image.failure());
   if (const auto bitmap = image->bitmap(); !bitmap) return refuse(bitmap.failure());
-  take(*image);
+  receive(*image);
   return true;
+}
+
+void IntakeScreen::receive(const Image& picture) {
+  if (const auto style = screen_->interfaceStyle())
+    incoming_.receive(*style, picture);
+  else
+    take(picture); // which is for no half
+}
+
+void IntakeScreen::answer(int origin) {
+  const Status kept = incoming_.pick(static_cast<std::size_t>(origin));
+  if (!kept) {
+    const auto& [what, why] = kept.failure();
+    notices_.show(qtTrId("app.store.readOnly").arg(QString::fromStdString(what + ": " + why)));
+  } else if (notices_.text().isEmpty()) {
+    notices_.show(qtTrId("app.phone.now").arg(presentPhone()), Notices::Done);
+  }
+}
+
+void IntakeScreen::cancelQuestion() {
+  incoming_.cancel();
+  take({});
 }
 
 void IntakeScreen::paste(bool dark) {
@@ -80,7 +140,7 @@ void IntakeScreen::paste(bool dark) {
   if (picture.isNull())
     refuse({"the clipboard", "it holds no picture"});
   else
-    take(imageOf(picture));
+    receive(imageOf(picture));
 }
 
 void IntakeScreen::pasteAll() {

@@ -1,6 +1,7 @@
 // The screens that take a style's screenshots in, as QML sees them.
 #pragma once
 
+#include "core/slicing/ScreenshotPhones.h"
 #include "core/slicing/WallpaperIntake.h"
 
 #include <QList>
@@ -14,6 +15,19 @@
 namespace vitrelle::ui {
 
 class Notices;
+
+/// Phones that a screenshot may be from and that need not be told apart.
+struct ScreenshotPhones {
+  Q_GADGET
+  QML_VALUE_TYPE(screenshotPhones)
+  Q_PROPERTY(QString name MEMBER name)
+  Q_PROPERTY(QString note MEMBER note)
+
+ public:
+  QString name; ///< of the first
+  QString note; ///< the others
+  bool operator==(const ScreenshotPhones&) const = default;
+};
 
 class IntakeScreen final : public QObject {
   Q_OBJECT
@@ -35,6 +49,11 @@ class IntakeScreen final : public QObject {
   Q_PROPERTY(bool pickerOpen READ isPickerOpen NOTIFY changed)
   /// Type name of the screen on the sheet that is open; empty when none is, or the picker.
   Q_PROPERTY(QString sheet READ sheet NOTIFY changed)
+  /// Whether the user is asked about a screenshot of another phone's size.
+  Q_PROPERTY(bool asking READ isAsking NOTIFY changed)
+  Q_PROPERTY(QString askedSize READ askedSize NOTIFY changed)
+  Q_PROPERTY(QList<vitrelle::ui::ScreenshotPhones> origins READ origins NOTIFY changed)
+  Q_PROPERTY(QString presentPhone READ presentPhone NOTIFY changed)
 
  public:
   /// What goes wrong is told by the notices.
@@ -52,11 +71,16 @@ class IntakeScreen final : public QObject {
   int revision() const { return revision_; }
   bool isLightSet() const { return screen_->isSet(lightStyle); }
   bool isDarkSet() const { return screen_->isSet(darkStyle); }
-  bool isPickerOpen() const { return screen_->activeSheet() == ActiveSheet::photoPicker; }
+  bool isPickerOpen() const { return isPicking() && !isAsking(); }
   QString sheet() const {
-    if (!screen_->activeSheet() || isPickerOpen()) return {};
+    if (!screen_->activeSheet() || isPicking()) return {};
     return QString::fromLatin1(screenName(*screen_->activeSheet()));
   }
+
+  bool isAsking() const { return incoming_.isAsking(); }
+  QString askedSize() const;
+  QList<ScreenshotPhones> origins() const;
+  QString presentPhone() const;
 
   Q_INVOKABLE void appear();
   /// When the page is left, and when the program ends while it is open.
@@ -80,6 +104,11 @@ class IntakeScreen final : public QObject {
   /// taken, which is said.
   Q_INVOKABLE void takeFiles(const QList<QUrl>& files);
 
+  // The answers to the question about what was picked, pasted or dropped.
+  Q_INVOKABLE void answer(int origin);
+  Q_INVOKABLE void keepPhone() { incoming_.keep(); }
+  Q_INVOKABLE void cancelQuestion();
+
  Q_SIGNALS:
   void changed();
 
@@ -87,6 +116,9 @@ class IntakeScreen final : public QObject {
   static QString text(std::string_view words) {
     return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
   }
+  bool isPicking() const { return screen_->activeSheet() == ActiveSheet::photoPicker; }
+  /// What came for the half that was chosen last.
+  void receive(const Image& picture);
   void take(const std::optional<Image>& picture);
   bool refuse(const Failure& failure); ///< false
   bool tellObstacle() const;
@@ -94,9 +126,10 @@ class IntakeScreen final : public QObject {
   const Platform& platform_;
   Notices& notices_;
   std::unique_ptr<WallpaperIntake> screen_;
+  IncomingScreenshots incoming_;
   int revision_ = 0;
   bool appeared_ = false;
-  Subscription view_;
+  Subscription view_, question_;
 };
 
 } // namespace vitrelle::ui
