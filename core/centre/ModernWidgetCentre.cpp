@@ -36,9 +36,18 @@ constexpr HubTile more{"More", "ellipsis", panel, HubTile::Opens::more};
 
 ModernWidgetCentre::ModernWidgetCentre(const Platform& platform)
     : platform_(platform),
-      isZoomed_(platform.device.screenScale() < platform.device.screenNativeScale()),
       selectedConfig_(platform, keys::selectedConfig),
-      binding_(selectedConfig_.onChange([this](const auto&) { changed(); })) {}
+      binding_(selectedConfig_.onChange([this](const auto&) { changed(); })),
+      phones_(platform.phoneBook.watch([this](const PhoneChoice&) {
+        lookAtDisplay();
+        changed();
+      })) {
+  lookAtDisplay();
+}
+
+void ModernWidgetCentre::lookAtDisplay() {
+  isZoomed_ = platform_.device.screenScale() < platform_.device.screenNativeScale();
+}
 
 void ModernWidgetCentre::appear() const {
   ReviewHandler::check(platform_);

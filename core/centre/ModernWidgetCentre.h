@@ -33,7 +33,8 @@ class ModernWidgetCentre final : public Screen {
   static constexpr double iconSide = 60;    ///< of a tile, points
   static constexpr double tileSpacing = 30; ///< points
 
-  /// Whether the display is zoomed is looked at now. The platform must outlive it.
+  /// Whether the display is zoomed is looked at now, and when another phone is stood for. The
+  /// platform must outlive it.
   explicit ModernWidgetCentre(const Platform& platform);
 
   /// Also sees to the request for a review.
@@ -55,13 +56,16 @@ class ModernWidgetCentre final : public Screen {
   void dismissSheet();
 
  private:
+  void lookAtDisplay();
+
   const Platform& platform_;
-  bool isZoomed_;
+  bool isZoomed_ = false;
   bool moreTapped_ = false;
   bool showSettings_ = false;
   bool showExport_ = false;
   StoredValue<std::int64_t> selectedConfig_;
-  Subscription binding_; ///< last, for it calls this screen
+  Subscription binding_; ///< last, for they call this screen
+  Subscription phones_;
 };
 
 } // namespace vitrelle

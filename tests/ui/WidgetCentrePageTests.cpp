@@ -84,6 +84,36 @@ TEST_F(WidgetCentrePageTest, settings_areASheetOverIt) {
   EXPECT_EQ(appearances(), 1) << "it was beneath";
 }
 
+TEST_F(WidgetCentrePageTest, exportSheet_closesOnTheTileThatOpenedIt) {
+  addSlices(0);
+  openCentre();
+  driver->click("tile More");
+  driver->find("tile Export")->forceActiveFocus(); // scrolls there
+  driver->click("tile Export");
+  waitFor("exportPage");
+  driver->find("topLeftSmall")->forceActiveFocus();
+  driver->key(Qt::Key_Return);
+  waitFor("shareSheet");
+  driver->key(Qt::Key_Escape);
+  waitForEndOf("shareSheet");
+  driver->key(Qt::Key_Escape);
+  waitForEndOf("exportPage");
+  EXPECT_TRUE(hasKeys("tile Export"));
+}
+
+TEST_F(WidgetCentrePageTest, anotherDisplay_changesTheLayout) {
+  phone.models = {{.name = "iPhone SE (3rd generation)",
+                   .identifiers = {"iPhone14,6"},
+                   .standard = {.bounds = {375, 667}, .scale = 2, .nativeScale = 2},
+                   .zoomed = {.bounds = {320, 568}, .scale = 2, .nativeScale = 2.34375}}};
+  openCentre();
+  EXPECT_TRUE(driver->isShown("tile More"));
+  ASSERT_TRUE(
+      platform.phoneBook.save({.identifier = "iPhone14,6", .os = {18, 0, 0}, .zoomed = true}));
+  waitForEndOf("tile More");
+  EXPECT_TRUE(driver->isShown("tile Time"));
+}
+
 TEST_F(WidgetCentrePageTest, settingsOfABetaBuild_blockTheTap) {
   surroundings.receipt = "sandboxReceipt";
   open({.screen = "WidgetSettingsView", .framed = false, .animated = false});

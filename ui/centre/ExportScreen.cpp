@@ -24,7 +24,8 @@ ExportScreen::ExportScreen(const Platform& platform)
       reloads_(platform.widgetCenter.watchReloads([this] {
         ++revision_;
         follow();
-      })) {
+      })),
+      phones_(platform.phoneBook.watch([this](const PhoneChoice&) { follow(); })) {
   follow();
 }
 

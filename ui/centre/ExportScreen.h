@@ -26,7 +26,7 @@ class ExportScreen : public QObject {
   Q_PROPERTY(QString sizeLabel READ sizeLabel CONSTANT)
   Q_PROPERTY(QStringList appearances READ appearances CONSTANT)
   Q_PROPERTY(QStringList sizes READ sizes CONSTANT)
-  /// How many there are; they are numbered from 0.
+  /// How many there are.
   Q_PROPERTY(int styles READ styles NOTIFY changed)
   Q_PROPERTY(int selection READ selection WRITE select NOTIFY changed)
   Q_PROPERTY(int lightDark READ lightDark WRITE setLightDark NOTIFY changed)
@@ -35,7 +35,7 @@ class ExportScreen : public QObject {
   Q_PROPERTY(QVariantList rows READ rows NOTIFY rowsChanged)
   Q_PROPERTY(qreal previewWidth READ previewWidth NOTIFY changed)
   Q_PROPERTY(qreal previewHeight READ previewHeight NOTIFY changed)
-  Q_PROPERTY(qreal rowSpacing READ rowSpacing CONSTANT)
+  Q_PROPERTY(qreal rowSpacing READ rowSpacing NOTIFY changed)
   /// Of the pictures, which other processes may replace.
   Q_PROPERTY(int revision READ revision NOTIFY changed)
   Q_PROPERTY(bool sheetShown READ isSheetShown NOTIFY changed)
@@ -93,8 +93,7 @@ class ExportScreen : public QObject {
   bool sheetShown_ = false;
   SharedItem shared_;
   int revision_ = 0;
-  Subscription view_;
-  Subscription reloads_;
+  Subscription view_, reloads_, phones_;
 };
 
 } // namespace vitrelle::ui

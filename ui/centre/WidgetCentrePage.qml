@@ -97,6 +97,23 @@ Page {
                     onClosed: page.centre.dismissSheet()
                 }
             }
+        },
+        Sheet {
+            id: slices
+            objectName: "exportSheet"
+            shown: page.centre.showExport
+            onDismissed: page.centre.dismissSheet()
+
+            Loader {
+                anchors.fill: parent
+                focus: true
+                active: slices.present
+                sourceComponent: ExportPage {
+                    focus: true
+                    screen: page.centre.slices()
+                    onClosed: page.centre.dismissSheet()
+                }
+            }
         }
     ]
 }

@@ -6,7 +6,7 @@
 
 namespace vitrelle::ui {
 
-QList<Tile> WidgetCentreScreen::tiles() const {
+QList<Tile> WidgetCentreScreen::made() const {
   QList<Tile> tiles;
   for (const HubTile& tile : screen_.tiles())
     tiles += {qText(tile.text), qText(tile.symbol), host::qColour(tile.colour)};
@@ -21,8 +21,11 @@ QString WidgetCentreScreen::tap(int index) {
 
 /// The tiles are made anew only when there are others: the keys are on one of them.
 void WidgetCentreScreen::follow() {
-  const auto count = static_cast<qsizetype>(screen_.tiles().size());
-  if (std::exchange(shown_, count) != count) Q_EMIT tilesChanged();
+  const QList<Tile> now = made();
+  if (now != tiles_) {
+    tiles_ = now;
+    Q_EMIT tilesChanged();
+  }
   Q_EMIT changed();
 }
 

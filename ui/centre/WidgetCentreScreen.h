@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/centre/ModernWidgetCentre.h"
+#include "ui/centre/ExportScreen.h"
 #include "ui/centre/WidgetSettingsScreen.h"
 #include "ui/parts/QtText.h"
 
@@ -32,7 +33,7 @@ class WidgetCentreScreen : public QObject {
   QML_UNCREATABLE("the shell makes it")
   Q_PROPERTY(QString title READ title CONSTANT)
   Q_PROPERTY(QString symbol READ symbol CONSTANT)
-  Q_PROPERTY(bool list READ isList CONSTANT)
+  Q_PROPERTY(bool list READ isList NOTIFY changed)
   Q_PROPERTY(QList<vitrelle::ui::Tile> tiles READ tiles NOTIFY tilesChanged)
   Q_PROPERTY(qreal padding READ padding NOTIFY changed)
   Q_PROPERTY(qreal iconSide READ iconSide CONSTANT)
@@ -46,13 +47,13 @@ class WidgetCentreScreen : public QObject {
   explicit WidgetCentreScreen(const Platform& platform)
       : platform_(platform),
         screen_(platform),
-        shown_(tiles().size()),
+        tiles_(made()),
         view_(screen_.onChange([this] { follow(); })) {}
 
   QString title() const { return qText(ModernWidgetCentre::title); }
   QString symbol() const { return qText(ModernWidgetCentre::symbol); }
   bool isList() const { return screen_.isList(); }
-  QList<Tile> tiles() const;
+  const QList<Tile>& tiles() const { return tiles_; }
   qreal padding() const { return screen_.padding(); }
   qreal iconSide() const { return ModernWidgetCentre::iconSide; }
   qreal tileSpacing() const { return ModernWidgetCentre::tileSpacing; }
@@ -68,17 +69,19 @@ class WidgetCentreScreen : public QObject {
   Q_INVOKABLE vitrelle::ui::WidgetSettingsScreen* settings() const {
     return new WidgetSettingsScreen(platform_);
   }
+  Q_INVOKABLE vitrelle::ui::ExportScreen* slices() const { return new ExportScreen(platform_); }
 
  Q_SIGNALS:
   void changed();
   void tilesChanged();
 
  private:
+  QList<Tile> made() const;
   void follow();
 
   const Platform& platform_;
   ModernWidgetCentre screen_;
-  qsizetype shown_; ///< how many tiles
+  QList<Tile> tiles_;
   Subscription view_;
 };
 
