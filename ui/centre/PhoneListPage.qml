@@ -40,7 +40,11 @@ Page {
     }
     Component.onCompleted: {
         settings.search("");
-        list.currentIndex = Math.max(0, settings.phones.findIndex(phone => phone.chosen));
+        const phones = settings.phones;
+        for (let i = 0; i < list.count; ++i) {
+            if (phones[i].chosen)
+                list.currentIndex = i;
+        }
         list.positionViewAtIndex(list.currentIndex, ListView.Center);
         list.forceActiveFocus();
     }

@@ -31,12 +31,6 @@ Page {
         halves.itemAt(nextIsDark ? 1 : 0).focus = true;
     }
 
-    /// From the question, which may have come before the page had them.
-    function takeKeysBack() {
-        forceActiveFocus();
-        focusNext();
-    }
-
     Label {
         id: styleName
         objectName: "styleName"
@@ -133,7 +127,7 @@ Page {
             objectName: "questionSheet"
             shown: page.intake.asking
             onDismissed: page.intake.cancelQuestion()
-            onShownChanged: if (!shown) Qt.callLater(page.takeKeysBack)
+            onShownChanged: if (!shown) answered.start()
 
             Loader {
                 anchors.fill: parent
@@ -151,6 +145,14 @@ Page {
         id: settled
         interval: 0
         onTriggered: page.followPicker()
+    }
+    Timer { // the question may have come before the page had the keys
+        id: answered
+        interval: 0
+        onTriggered: {
+            page.forceActiveFocus();
+            page.focusNext();
+        }
     }
     // What is dropped or pasted opens the picker in passing: only how it ends is followed.
     function followPicker() {
