@@ -4,9 +4,11 @@
 
 #include "tests/host/power/FakePower.h"
 #include "tests/host/power/FakeSupplies.h"
+#include "tests/support/MockedService.h"
 #include "tests/support/PrivateBus.h"
 
 #include <QCoreApplication>
+#include <QDBusObjectPath>
 #include <QElapsedTimer>
 #include <QTest>
 
@@ -137,6 +139,26 @@ TEST_F(ServedBatteryTest, whatIsNoBattery_hasNoLevel) {
     expected.push_back(0.2F);
     EXPECT_TRUE(tells(expected)) << one.firstKey().toStdString();
   }
+}
+
+TEST_F(SystemBatteryTest, serviceOfAnotherMaker_isUnderstood) {
+  if (!test::MockedService::isInstalled()) GTEST_SKIP() << "python3-dbusmock is not installed";
+  test::MockedService mocked(bus, {.name = test::powerService,
+                                   .path = QStringLiteral("/org/freedesktop/UPower"),
+                                   .pattern = QStringLiteral("upower")});
+  const auto set = [&](const QVariantMap& changed) {
+    const QDBusObjectPath display(QStringLiteral("/org/freedesktop/UPower/devices/DisplayDevice"));
+    mocked.tell(QStringLiteral("SetDeviceProperties"), {QVariant::fromValue(display), changed});
+  };
+  monitor();
+  EXPECT_EQ(battery.level(), unknownBatteryLevel) << "a machine without a battery";
+  const Subscription subscription = watch();
+  set({{QStringLiteral("IsPresent"), true}, {percentage, 73.0}, {QStringLiteral("Type"), 2U}});
+  EXPECT_TRUE(tells({unknownBatteryLevel, 0.73F}));
+  set({{percentage, 72.5}});
+  EXPECT_TRUE(tells({unknownBatteryLevel, 0.73F, 0.725F}));
+  mocked.end();
+  EXPECT_TRUE(tells({unknownBatteryLevel, 0.73F, 0.725F, 0.4F})) << "the kernel's";
 }
 
 TEST_F(SystemBatteryTest, kernel_isAskedWhereThereIsNoService) {
