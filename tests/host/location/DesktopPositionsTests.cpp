@@ -4,6 +4,7 @@
 #include "host/desktop/QtLoop.h"
 #include "host/location/SystemLocation.h"
 #include "tests/host/location/FakeGeoClue.h"
+#include "tests/support/MockedService.h"
 #include "tests/support/PrivateBus.h"
 
 #include <QCoreApplication>
@@ -77,6 +78,19 @@ TEST_F(DesktopPositionsTest, positions_areThoseOfTheService) {
   EXPECT_TRUE(tells({{52.5, 13.4}, {-33.9, 151.2}}));
   EXPECT_EQ(service.clientProperties().value(QStringLiteral("DesktopId")).toString(),
             QStringLiteral("vitrelle"));
+}
+
+TEST_F(DesktopPositionsTest, serviceOfAnotherMaker_isUnderstood) {
+  if (!test::MockedService::isInstalled()) GTEST_SKIP() << "python3-dbusmock is not installed";
+  const test::MockedService mocked(*world->bus,
+                                   {.name = test::locationService,
+                                    .path = QStringLiteral("/org/freedesktop/GeoClue2/Manager"),
+                                    .pattern = QStringLiteral(VITRELLE_GEOCLUE_TEMPLATE)});
+  mocked.tell(QStringLiteral("Move"), {52.5, 13.4});
+  const Subscription updates = follow();
+  EXPECT_TRUE(tells({{52.5, 13.4}}));
+  mocked.tell(QStringLiteral("Move"), {-33.9, 151.2});
+  EXPECT_TRUE(tells({{52.5, 13.4}, {-33.9, 151.2}}));
 }
 
 TEST_F(DesktopPositionsTest, service_isStoppedWithTheSubscription) {
