@@ -29,7 +29,7 @@ int main(int argc, char** argv) {
          Platform platform = *std::move(made);
          drawing.use(platform);
          host::useDateWords(platform);
-         host::useBattery(platform, cli::hostOptions(options), loop);
+         host::useBatteryAtOnce(platform, cli::hostOptions(options), loop);
          host::useGeocoder(platform, loop);
          host::useLocationAtOnce(platform, cli::hostOptions(options), loop);
          host::useWeatherService(platform, cli::hostOptions(options), loop);

@@ -201,10 +201,11 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
   if (interactive) platform.device.userInterfaceStyle = appearanceOf(platform.phoneBook);
   host::useDrawing(platform);
   host::useDateWords(platform);
-  host::useBattery(platform, options, loop);
   if (interactive) {
+    host::useBattery(platform, options, loop);
     host::useMusic(platform);
   } else {
+    host::useBatteryAtOnce(platform, options, loop);
     host::useMusicAtOnce(platform);
     platform.musicPlayer.playbackState(); // is waited for while no page is open yet
   }

@@ -39,12 +39,14 @@ PowerService::PowerService(QDBusConnection bus, std::chrono::milliseconds patien
       owner_(service, bus_, QDBusServiceWatcher::WatchForOwnerChange) {
   connect(&owner_, &QDBusServiceWatcher::serviceOwnerChanged, this,
           [this](const QString&, const QString&, const QString&) { ask(); });
-  bus_.connect(service, display, properties, changes, this, SLOT(ask()));
+  // Of whoever says it there, which only makes us ask the service: for one of that name the library
+  // would first ask the bus who that is, and wait.
+  bus_.connect({}, display, properties, changes, this, SLOT(ask()));
   ask();
 }
 
 PowerService::~PowerService() {
-  bus_.disconnect(service, display, properties, changes, this, SLOT(ask()));
+  bus_.disconnect({}, display, properties, changes, this, SLOT(ask()));
 }
 
 std::optional<float> PowerService::level() {

@@ -2,10 +2,14 @@
 // made-up folder of the kernel's.
 #include "host/power/SystemBattery.h"
 
+#include "core/platform/Platform.h"
+#include "host/desktop/QtLoop.h"
+#include "host/power/PowerSupplies.h"
 #include "tests/host/power/FakePower.h"
 #include "tests/host/power/FakeSupplies.h"
 #include "tests/support/MockedService.h"
 #include "tests/support/PrivateBus.h"
+#include "tests/support/UnimplementedPlatform.h"
 
 #include <QCoreApplication>
 #include <QDBusObjectPath>
@@ -28,7 +32,12 @@ class SystemBatteryTest : public testing::Test {
   SystemBatteryTest() { supplies.set("BAT0", {{"type", "Battery"}, {"capacity", "40"}}); }
 
   Battery batteryOn(const QDBusConnection& connection) {
-    return makeBattery({.bus = [connection] { return connection; },
+    return makeBattery({.connect =
+                            [this, connection](std::function<void(const QDBusConnection&)> done) {
+                              if (!isSlow) done(connection);
+                              connected = [connection, done] { done(connection); };
+                              return Subscription([this] { connected = nullptr; });
+                            },
                         .patience = patience,
                         .supplies = supplies.path(),
                         .watchSupplies =
@@ -53,6 +62,8 @@ class SystemBatteryTest : public testing::Test {
     return came && told == levels;
   }
 
+  bool isSlow = false;             ///< the bus
+  std::function<void()> connected; ///< then tells that it is there after all
   std::chrono::milliseconds patience = std::chrono::seconds(10); // a busy machine is slow
   test::PrivateBus bus;
   test::FakePower power{bus.connect(QStringLiteral("power"))};
@@ -187,6 +198,34 @@ TEST_F(SystemBatteryTest, silentService_isNotWaitedForLong) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return battery.level() == 0.6F; })) << "it speaks again";
 }
 
+TEST_F(SystemBatteryTest, untilThereIsABus_theKernelIsAsked) {
+  isSlow = true;
+  power.start();
+  monitor();
+  const Subscription subscription = watch();
+  change("39");
+  ASSERT_TRUE(connected);
+  connected();
+  EXPECT_TRUE(tells({0.4F, 0.39F, 0.73F}));
+  monitor();
+  battery = {};
+  EXPECT_FALSE(connected) << "nobody waits for it any more";
+}
+
+TEST_F(SystemBatteryTest, busThatFallsSilent_isNotWaitedForLong) {
+  patience = std::chrono::milliseconds(150);
+  power.start();
+  const QDBusConnection connection = bus.connect(QStringLiteral("own"));
+  bus.suspend();
+  QElapsedTimer timer;
+  timer.start();
+  battery = batteryOn(connection);
+  battery.setMonitoringEnabled(true);
+  EXPECT_FLOAT_EQ(battery.level(), 0.4F);
+  EXPECT_LT(timer.elapsed(), 4000);
+  bus.resume();
+}
+
 TEST_F(SystemBatteryTest, service_isNotStartedToLook) {
   const QString started = bus.servicesFolder() + QStringLiteral("/started");
   QFile service(bus.servicesFolder() + QStringLiteral("/power.service"));
@@ -212,6 +251,33 @@ TEST_F(SystemBatteryTest, withoutABus_theKernelIsAsked) {
   EXPECT_EQ(battery.level(), unknownBatteryLevel) << "it is not monitored";
   battery.setMonitoringEnabled(true);
   EXPECT_FLOAT_EQ(battery.level(), 0.4F);
+}
+
+// The only one of this process that asks for the system's bus, which stays what it is then.
+TEST_F(SystemBatteryTest, busThatLetsInAndStaysSilent_holdsNothingUp) {
+  power.start();
+  bus.suspend();
+  qputenv("DBUS_SYSTEM_BUS_ADDRESS", bus.address().toUtf8());
+  const float kernels = batteryLevelIn("/sys/class/power_supply");
+  std::vector<Battery> batteries;
+  for (const auto use : {useBattery, useBatteryAtOnce}) {
+    Platform platform = test::unimplementedPlatform();
+    QElapsedTimer timer;
+    timer.start();
+    use(platform, {.home = HomeFolder("/nowhere"), .phone = {}}, makeQtLoop());
+    platform.battery.setMonitoringEnabled(true);
+    EXPECT_EQ(platform.battery.level(), kernels);
+    EXPECT_LT(timer.elapsed(), 4000);
+    batteries.push_back(platform.battery);
+  }
+  bus.resume();
+  for (const Battery& one : batteries) {
+    const auto isTold = [&] {
+      power.set({{percentage, 60.0}}); // again, for a busy machine may be too slow to answer
+      return one.level() == 0.6F;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isTold)) << "it speaks after all";
+  }
 }
 
 } // namespace
