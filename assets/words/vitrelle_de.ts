@@ -389,7 +389,7 @@
     </message>
     <message id="app.share.open">
         <source></source>
-        <translation>In anderem Programm öffnen</translation>
+        <translation>Mit Programm öffnen</translation>
     </message>
     <message id="app.share.copied">
         <source></source>

@@ -389,7 +389,7 @@
     </message>
     <message id="app.share.open">
         <source></source>
-        <translation>Open in Another Program</translation>
+        <translation>Open in a Program</translation>
     </message>
     <message id="app.share.copied">
         <source></source>

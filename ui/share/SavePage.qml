@@ -87,18 +87,18 @@ FocusScope {
                 onPressed: page.closed()
             }
         }
-        Row { // above, where no notice covers it
+        Column { // above, where no notice covers it
             id: place
             anchors.top: header.bottom
             anchors.topMargin: 4
             anchors.horizontalCenter: parent.horizontalCenter
             width: parent.width - 60
-            spacing: 10
+            spacing: 8
 
             TextRow {
                 id: name
                 objectName: "saveName"
-                width: parent.width - button.width - parent.spacing
+                width: parent.width
                 placeholder: qsTrId("app.share.name")
                 value: page.fileName
                 onEdited: now => page.fileName = now
@@ -106,9 +106,8 @@ FocusScope {
                 Keys.onEnterPressed: if (!Surroundings.isKeyHeld()) page.save()
             }
             ActionButton {
-                id: button
                 objectName: "saveButton"
-                width: 112
+                width: parent.width
                 height: name.height
                 enabled: page.isName
                 name: qsTrId("app.share.save")
