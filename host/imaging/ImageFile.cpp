@@ -8,6 +8,7 @@
 #include "host/imaging/PngFiles.h"
 #include "host/imaging/PngReader.h"
 #include "host/imaging/PngWriter.h"
+#include "host/imaging/Resize.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -209,6 +210,14 @@ Status decodeAll(std::span<const Image> images) {
   return **first;
 }
 
+Result<Image> resized(const Image& image, const PixelSize& size) {
+  const Result<Bitmap> bitmap = image.bitmap();
+  if (!bitmap) return bitmap.failure();
+  Result<Bitmap> made = resizeBitmap(*bitmap, size);
+  if (!made) return made.failure();
+  return Image(*std::move(made), image.profile());
+}
+
 Result<Data> pngRepresentation(const Image& image) {
   const Result<Bitmap> bitmap = image.bitmap();
   if (!bitmap) return bitmap.failure();
@@ -228,9 +237,7 @@ Images makeImages(const HomeFolder& home) {
   return {.load = [known = std::make_shared<KnownFiles>()](
                       const std::string& path) { return known->load(path); },
           .decode = decodeAll,
-          .resized = [](const Image&, const PixelSize&) -> Result<Image> {
-            return Failure{"picture", "it can't be resized yet"};
-          },
+          .resized = resized,
           .pngRepresentation = pngRepresentation,
           .writePngFiles =
               [home](std::span<const PngFile> files) { return writePngFiles(home, files); }};
