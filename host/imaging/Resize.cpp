@@ -38,6 +38,11 @@ std::vector<Taps> filterTaps(std::int32_t from, std::int32_t to) {
   const double step = static_cast<double>(from) / to;
   const double width = std::max(step, 1.0);
   std::vector<Taps> all(static_cast<std::size_t>(to));
+  if (from == to) { // as it is: a filter would blur it each time anew
+    for (std::int32_t i = 0; i < to; ++i)
+      all[static_cast<std::size_t>(i)] = {i, {1}};
+    return all;
+  }
   for (std::size_t i = 0; i < all.size(); ++i) {
     const double centre = (static_cast<double>(i) + 0.5) * step - 0.5;
     const auto first = std::max(std::ceil(centre - reach * width), 0.0);

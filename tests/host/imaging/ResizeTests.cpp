@@ -70,6 +70,11 @@ double mitchell(double x) {
 
 /// The weight of every pixel of one direction in pixel `i` of the result.
 std::vector<double> weights(int from, int to, int i) {
+  if (from == to) {
+    std::vector<double> one(static_cast<std::size_t>(from));
+    one[static_cast<std::size_t>(i)] = 1;
+    return one;
+  }
   const double step = static_cast<double>(from) / to;
   std::vector<double> all;
   double sum = 0;
@@ -177,6 +182,16 @@ TEST(Resize, opaquePicture_staysOpaqueAndKeepsItsProfile) {
   Bitmap looked = resizeBitmap(plain, {90, 900}).value();
   EXPECT_TRUE(isOpaque(looked));
   EXPECT_EQ(made.profile(), profile);
+}
+
+TEST(Resize, sameSize_isTheSamePicture) {
+  const Bitmap source = paint({80, 60}, soft);
+  const Bitmap once = resizeBitmap(source, source.size).value();
+  Data want = test::packedPixels(source);
+  for (std::size_t i = 0; i < want.size(); i += 4) {
+    if (want[i + 3] == 0) std::fill_n(want.begin() + static_cast<std::ptrdiff_t>(i), 3, 0);
+  }
+  EXPECT_EQ(test::packedPixels(once), want);
 }
 
 TEST(Resize, sizesOutOfBounds_areRefusedInWords) {
