@@ -3,6 +3,7 @@
 #include "host/drawing/Blur.h"
 #include "host/drawing/Shadows.h"
 #include "host/drawing/TextLayout.h"
+#include "host/imaging/Resize.h"
 #include "host/painting/PainterValues.h"
 
 #include <QLinearGradient>
@@ -44,6 +45,21 @@ QPainterPath outlineOf(const QPainterPath& path, const StrokeStyle& style) {
   QPainterPath outline = stroker.createStroke(path);
   outline.setFillRule(Qt::WindingFill);
   return outline;
+}
+
+/// The bitmap with as many pixels as are drawn, where it has more: the painter looks at four of
+/// them for each that it sets, and would leave the others out.
+Bitmap asDrawn(const Bitmap& bitmap, const QSizeF& pixels) {
+  constexpr double nearly = 1.1;
+  const bool isShrunk =
+      bitmap.size.width > pixels.width() * nearly || bitmap.size.height > pixels.height() * nearly;
+  if (!isShrunk) return bitmap;
+  const auto side = [](double drawn, std::int32_t there) {
+    return static_cast<std::int32_t>(std::clamp(std::ceil(drawn), 1.0, static_cast<double>(there)));
+  };
+  auto shrunk = resizeBitmap(
+      bitmap, {side(pixels.width(), bitmap.size.width), side(pixels.height(), bitmap.size.height)});
+  return shrunk ? *std::move(shrunk) : bitmap;
 }
 
 /// Whether the font's glyphs are pictures or in several colours, which no outline is. The tables
@@ -176,7 +192,7 @@ class Inker final {
   static void add(Inks& to, const DrawnImage& item, const QTransform& toPixels) {
     const auto bitmap = item.image.bitmap();
     if (!bitmap || bitmap->size.width == 0 || bitmap->size.height == 0) return;
-    const QImage image = qImage(*bitmap);
+    const QImage image = qImage(asDrawn(*bitmap, toPixels.mapRect(qRect(item.box)).size()));
     if (!item.outline.commands.empty()) {
       QBrush brush(image); // a clip would have jagged edges
       brush.setTransform(

@@ -223,6 +223,20 @@ TEST_F(RasteriserTest, images_fillTheirBoxAndOutline) {
   EXPECT_EQ(at(disc, 5, 5)[3], 255);
 }
 
+TEST_F(RasteriserTest, imageThatIsShrunk_countsAllItsPixels) {
+  const auto bytes = std::make_shared<std::vector<std::uint8_t>>();
+  for (int i = 0; i < 160 * 160; ++i) { // a white column in eight
+    const std::uint8_t level = i % 8 == 0 ? 240 : 0;
+    bytes->insert(bytes->end(), {level, level, level, 255});
+  }
+  const Image image(
+      Bitmap{.size = {160, 160}, .bytesPerRow = 640, .pixels = bytes->data(), .owner = bytes});
+  const Bitmap bitmap =
+      render({{DrawnImage{.image = image, .box = {0, 0, 20, 20}}}}, {0, 0, 20, 20});
+  for (int x = 2; x < 18; ++x)
+    EXPECT_NEAR(at(bitmap, x, 9)[0], 30, 5) << x;
+}
+
 TEST_F(RasteriserTest, imageWhoseRowsLieAnyhow_isDrawnAsItIs) {
   const auto bytes = std::make_shared<std::vector<std::uint8_t>>();
   bytes->push_back(0); // then rows of two pixels, three bytes apart
