@@ -5,6 +5,7 @@
 #include "ui/Addresses.h"
 #include "ui/app/ScreenTable.h"
 #include "ui/app/WindowPlace.h"
+#include "ui/parts/GivenPictures.h"
 #include "ui/pickers/PictureFolder.h"
 
 #include <QClipboard>
@@ -85,7 +86,7 @@ bool Shell::openReview() const {
 
 bool Shell::canPaste() const {
   const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-  return data != nullptr && (data->hasImage() || data->hasUrls());
+  return data != nullptr && hasPicture(*data);
 }
 
 bool Shell::eventFilter(QObject* watched, QEvent* event) {

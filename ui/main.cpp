@@ -21,6 +21,7 @@
 #include "ui/Trouble.h"
 #include "ui/Unwritten.h"
 #include "ui/Words.h"
+#include "ui/parts/GivenPictures.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -177,6 +178,10 @@ int runWindow(const Arguments& arguments, const host::EventLoop& loop,
         if (shell != nullptr && shell->notices().text() == told) shell->notices().dismiss();
         told.clear();
       });
+  platform = ui::withGivenPictures(std::move(platform), [&](const Failure& failure) {
+    const QString words = QString::fromStdString(failure.what + ": " + failure.why);
+    if (shell != nullptr) shell->notices().show(qtTrId("app.unreadable").arg(words));
+  });
   platform.application.rootViewController = []() -> std::optional<ViewController> {
     const QWindowList windows = QGuiApplication::topLevelWindows();
     if (windows.isEmpty()) return std::nullopt;

@@ -1,11 +1,11 @@
 #include "ui/slicing/IntakeScreen.h"
 
 #include "core/slicing/PhoneChoices.h"
+#include "ui/parts/GivenPictures.h"
 #include "ui/parts/Notices.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QImage>
 #include <QMimeData>
 #include <QStringList>
 
@@ -14,16 +14,6 @@
 namespace vitrelle::ui {
 
 namespace {
-
-Image imageOf(const QImage& picture) {
-  const auto pixels =
-      std::make_shared<const QImage>(picture.convertToFormat(QImage::Format_RGBA8888));
-  return Image(Bitmap{.size = {pixels->width(), pixels->height()},
-                      .bytesPerRow = static_cast<std::size_t>(pixels->bytesPerLine()),
-                      .pixels = pixels->constBits(),
-                      .opaque = !picture.hasAlphaChannel(),
-                      .owner = pixels});
-}
 
 QString marked(const std::string& phone, bool zoomed) {
   const QString name = QString::fromStdString(phone);
@@ -97,12 +87,8 @@ bool IntakeScreen::tellObstacle() const {
 }
 
 bool IntakeScreen::pick(const QUrl& file) {
-  const std::string path = file.toLocalFile().toStdString();
-  const Result<Image> image = path.empty()
-                                  ? Failure{file.toString().toStdString(), "it is no local file"}
-                                  : platform_.images.load(path);
+  const Result<Image> image = givenFile(platform_, file);
   if (!image) return refuse(image.failure());
-  if (const auto bitmap = image->bitmap(); !bitmap) return refuse(bitmap.failure());
   receive(*image);
   return true;
 }
@@ -136,11 +122,12 @@ void IntakeScreen::paste(bool dark) {
     pick(data->urls().constFirst());
     return;
   }
-  const QImage picture = QGuiApplication::clipboard()->image();
-  if (picture.isNull())
-    refuse({"the clipboard", "it holds no picture"});
+  if (data == nullptr) return;
+  const auto picture = givenPicture(platform_, *data);
+  if (picture)
+    receive(*picture);
   else
-    receive(imageOf(picture));
+    refuse(picture.failure());
 }
 
 void IntakeScreen::pasteAll() {
