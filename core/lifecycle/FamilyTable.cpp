@@ -68,7 +68,9 @@ const std::array<FamilyDescription, 6> familyTable{{
      .assignItem = "Assign to Vitrelle Style",
      .assignTitle = "Link Image Style",
      .assignRefusal = "This Vitrelle Style already has an Image Style linked to it, please pick "
-                      "another Vitrelle Style."},
+                      "another Vitrelle Style.",
+     .secondTitle = familyWords::setupTitle,
+     .secondSymbol = familyWords::setupSymbol},
     {.name = "battery",
      .entryScreen = "ModernCustomBatteryView",
      .stylesScreen = "",

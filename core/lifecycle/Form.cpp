@@ -26,4 +26,8 @@ void Form::setValue(StyleDraft& draft, std::size_t index, const FormValue& value
   }
 }
 
+void Form::press(StyleEditor& editor, std::size_t index) const {
+  if (index < rows_.size() && rows_[index].press) rows_[index].press(editor);
+}
+
 } // namespace vitrelle

@@ -17,6 +17,8 @@ namespace vitrelle {
 
 using FormValue = std::variant<bool, std::int64_t, std::string, Colour>;
 
+class StyleEditor;
+
 enum class FormControl {
   text,       ///< a string; the title is the field's placeholder
   font,       ///< a string: a PostScript name, picked on a sheet
@@ -25,7 +27,9 @@ enum class FormControl {
   toggle,     ///< a bool
   colourWell, ///< a colour
   segments,   ///< one of several values, each with a symbol
+  menu,       ///< one of several values, each in words, picked from a list that opens
   note,       ///< words and a symbol, without a value
+  button,     ///< words and a symbol; does something at once
 };
 
 constexpr bool isPickedOnSheet(FormControl control) {
@@ -39,25 +43,26 @@ struct NumberRange {
   bool operator==(const NumberRange&) const = default;
 };
 
-/// One value to choose, in the order in which they are shown from the left.
+/// One value to choose, in the order in which they are shown, from the left or the top.
 struct FormOption {
   FormValue value;
-  std::string_view symbol;
-  std::string_view spoken; ///< what the symbol stands for, for those who do not see it
+  std::string_view symbol = {}; ///< of a segment
+  std::string_view words;       ///< shown in a menu; of a segment for those who do not see it
 };
 
 /// One row of a family's form. Which control it is, is told by its kind alone.
 struct FormRow {
   std::string_view title;
   FormControl control = FormControl::toggle;
-  std::function<FormValue(const StyleDraft&)> get = {}; ///< none for a note
-  /// A value of another kind than the row's changes nothing. None for a note.
+  std::function<FormValue(const StyleDraft&)> get = {}; ///< none for a row without a value
+  /// A value of another kind than the row's changes nothing. None for a row without a value.
   std::function<void(StyleDraft&, const FormValue&)> set = {};
+  std::function<void(StyleEditor&)> press = {};      ///< of a button
   std::function<bool(const StyleDraft&)> shown = {}; ///< always, when it is empty
   NumberRange range = {};
   std::vector<FormOption> options = {};
-  std::string_view label = {};  ///< of a choice; spoken, not shown
-  std::string_view symbol = {}; ///< of a note
+  std::string_view label = {};  ///< of a choice; never shown, and spoken of segments alone
+  std::string_view symbol = {}; ///< of a row without a value
   bool isBehindDivider = false; ///< a line sets it apart from the row above
 };
 
@@ -87,6 +92,22 @@ FormRow choiceOver(std::string_view title, std::string_view label, std::int64_t 
   return row;
 }
 
+/// The same of values in words, on a list.
+template <class Record, class Field>
+FormRow menuOver(std::string_view title, std::string_view label, Field Record::*field,
+                 std::vector<FormOption> options) {
+  FormRow row = rowOver(title, FormControl::menu, field);
+  row.label = label;
+  row.options = std::move(options);
+  return row;
+}
+
+inline FormRow button(std::string_view symbol, std::string_view words,
+                      std::function<void(StyleEditor&)> press) {
+  return {
+      .title = words, .control = FormControl::button, .press = std::move(press), .symbol = symbol};
+}
+
 inline FormRow note(std::string_view symbol, std::string_view words) {
   return {.title = words, .control = FormControl::note, .symbol = symbol};
 }
@@ -112,6 +133,8 @@ class Form final {
   std::vector<ShownRow> shownRows(const StyleDraft& draft) const;
   /// Numbers of a stepper stay in its range; an index without a row changes nothing.
   void setValue(StyleDraft& draft, std::size_t index, const FormValue& value) const;
+  /// What the button of the index does; nothing for another row.
+  void press(StyleEditor& editor, std::size_t index) const;
 
  private:
   std::vector<FormRow> rows_;

@@ -1,5 +1,7 @@
 #include "core/lifecycle/StyleEditor.h"
 
+#include "core/lifecycle/PastedPicture.h"
+
 #include <utility>
 
 namespace vitrelle {
@@ -21,6 +23,17 @@ void StyleEditor::takeSlice() {
 
 void StyleEditor::setValue(std::size_t row, const FormValue& value) {
   form_.setValue(draft_, row, value);
+  changed();
+}
+
+void StyleEditor::paste() {
+  if (!takesPictures()) return;
+  if (const auto picture = pastedPicture(platform_)) takePicture(*picture);
+}
+
+void StyleEditor::takePicture(const Image& picture) {
+  if (!takesPictures()) return;
+  draft_.picture = family_.takenIn(platform_, picture);
   changed();
 }
 

@@ -36,6 +36,13 @@ class StyleEditor : public Screen {
 
   std::vector<ShownRow> rows() const { return form_.shownRows(draft_); }
   void setValue(std::size_t row, const FormValue& value);
+  /// What the row's button does.
+  void press(std::size_t row) { form_.press(*this, row); }
+  /// Takes the picture in the clipboard in, if there is one, where this step takes any.
+  void paste();
+  /// The same of a picture that comes in another way.
+  void takePicture(const Image& picture);
+  bool takesPictures() const { return family_.takesPictures(step_); }
   /// The row whose value is picked on a sheet, while one is open.
   std::optional<ShownRow> activeSheet() const;
   /// Of a row that is picked on one; others open none.

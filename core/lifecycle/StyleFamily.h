@@ -9,6 +9,7 @@
 #include "core/lifecycle/StyleDraft.h"
 #include "core/platform/Platform.h"
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -87,12 +88,22 @@ class StyleFamily {
   virtual StyleDraft secondDraft(const Platform&, const StyleRecord& record, bool /*isNew*/) const {
     return {.record = record, .kind = kindOf(record)};
   }
+  /// Told each time the gallery has read its records.
+  virtual void galleryLoaded(const Platform&, std::size_t /*count*/) const {}
+
+  /// Whether the step takes in a picture that is pasted or dropped.
+  virtual bool takesPictures(EditorStep) const { return false; }
+  /// What the draft holds of such a picture.
+  virtual Image takenIn(const Platform&, const Image& picture) const { return picture; }
   virtual std::vector<FormRow> rows(EditorStep step) const = 0;
   /// Writes what the step edits into a record, and nothing else.
   virtual void copy(EditorStep step, const StyleDraft& from, StyleRecord& to) const = 0;
   /// Stores what a draft holds beside its record, before that is stored. A failure ends the saving
   /// with nothing changed.
   virtual Status keep(const Platform&, const StyleDraft&, RecordIndex) const { return success(); }
+  /// The picture that was stored with the record of the index, for a step that edits it. One that
+  /// is gone is a fatal error.
+  virtual std::optional<Image> kept(const Platform&, RecordIndex) const { return std::nullopt; }
 
  private:
   const FamilyDescription& words_;

@@ -20,6 +20,7 @@ void StyleGallery::appear() {
   storedDataArray_.load();
   amount_ = storedDataArray_.count();
   loaded_ = true;
+  family_.galleryLoaded(platform_, amount_);
   changed();
 }
 

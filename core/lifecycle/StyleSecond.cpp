@@ -44,10 +44,14 @@ void StyleSecond::appear() {
   stored_.load();
   index_ = findRecord();
   const bool isNew = task().mode == EditorMode::create;
-  if (const StyleRecord* record = stored_.at(index_)) {
-    setDraft(family().secondDraft(platform(), *record, isNew));
-  } else if (saved_) {
-    setDraft(family().secondDraft(platform(), saved_->record, isNew));
+  const StyleRecord* record = stored_.at(index_);
+  if (record != nullptr || saved_) {
+    StyleDraft draft =
+        family().secondDraft(platform(), record != nullptr ? *record : saved_->record, isNew);
+    if (saved_) draft.picture = saved_->picture;
+    if (record != nullptr && !isNew && !mustKeep())
+      draft.picture = family().kept(platform(), index_);
+    setDraft(std::move(draft));
   }
   changed();
 }
@@ -55,6 +59,7 @@ void StyleSecond::appear() {
 Saved StyleSecond::save() {
   bool isSaved = false;
   if (StyleRecord* record = stored_.at(index_)) {
+    if (mustKeep() && !family().keep(platform(), draft(), index_)) return Saved::refused;
     family().copy(EditorStep::second, draft(), *record);
     isSaved = stored_.save();
     if (isStored()) selected_.set(index_.value);
@@ -70,7 +75,8 @@ RecordIndex StyleSecond::findRecord() {
   const bool editing = task().mode == EditorMode::edit;
   if (!saved_) return editing ? task().configNumber : RecordIndex{behindAll.value - 1};
   StyleRecord* there = stored_.at(saved_->index);
-  if (there != nullptr && areStoredAlike(*there, saved_->record)) return saved_->index;
+  const bool isSaved = saved_->isKept && there != nullptr && areStoredAlike(*there, saved_->record);
+  if (isSaved) return saved_->index;
   const StyleDraft before{.record = saved_->record, .kind = family().kindOf(saved_->record)};
   if (editing) {
     if (there != nullptr) family().copy(EditorStep::setup, before, *there);
@@ -80,6 +86,11 @@ RecordIndex StyleSecond::findRecord() {
   if (behindAll < saved_->index || stored_.count() >= maximumWidgetStyles) return nowhere;
   family().copy(EditorStep::setup, before, stored_.append());
   return behindAll;
+}
+
+/// Whether what belongs to the record is not stored yet, or was stored for another index.
+bool StyleSecond::mustKeep() const {
+  return saved_ && (!saved_->isKept || saved_->index != index_);
 }
 
 bool StyleSecond::isStored() const {

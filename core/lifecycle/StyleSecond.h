@@ -15,6 +15,8 @@ namespace vitrelle {
 struct SavedRecord {
   RecordIndex index;
   StyleRecord record;
+  std::optional<Image> picture = {}; ///< of the draft
+  bool isKept = true;                ///< whether what the draft held beside the record was stored
 };
 
 class StyleSecond final : public StyleEditor {
@@ -26,6 +28,7 @@ class StyleSecond final : public StyleEditor {
 
   void appear() override;
   /// Where there is no record to work on, nothing is written, and the flow ends as if it were.
+  /// What the step before could not keep is kept now, or nothing is saved.
   Saved save() override;
 
   /// Works the suggested colours out a moment later, when the screen has been drawn once. A style
@@ -37,6 +40,7 @@ class StyleSecond final : public StyleEditor {
 
  private:
   RecordIndex findRecord();
+  bool mustKeep() const;
   bool isStored() const;
   void suggest();
 

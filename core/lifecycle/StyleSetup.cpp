@@ -14,8 +14,11 @@ void StyleSetup::appear() {
   readImg();
   stored_.load();
   if (task().mode == EditorMode::edit) {
-    if (const StyleRecord* record = stored_.at(task().configNumber))
-      setDraft(family().draftOf(*record));
+    if (const StyleRecord* record = stored_.at(task().configNumber)) {
+      StyleDraft draft = family().draftOf(*record);
+      draft.picture = family().kept(platform(), task().configNumber);
+      setDraft(std::move(draft));
+    }
   }
   changed();
 }
@@ -29,10 +32,12 @@ Saved StyleSetup::save() {
     if (stored_.loaded()) fatalError("there is no widget style to edit at this index");
     return stored_.save() ? Saved::stored : Saved::notStored; // what can't be read is not written
   }
-  if (!family().keep(platform(), draft(), index)) return Saved::refused;
+  // Where the records can't be read, the index is another one's.
+  const bool isKept = stored_.loaded();
+  if (isKept && !family().keep(platform(), draft(), index)) return Saved::refused;
   StyleRecord& record = isNew ? stored_.append() : *stored_.at(index);
   family().copy(EditorStep::setup, draft(), record);
-  saved_ = {index, record};
+  saved_ = {index, record, draft().picture, isKept};
   return stored_.save() ? Saved::stored : Saved::notStored;
 }
 

@@ -6,6 +6,15 @@
 
 namespace vitrelle {
 
+namespace {
+
+FaceUse sizedUse(const Platform& platform, const PointSize& size, FaceUse use) {
+  const bool isWide = size.width > platform.device.screenBounds().width / 2;
+  return use == FaceUse::widget && isWide ? FaceUse::wideWidget : use;
+}
+
+} // namespace
+
 std::optional<StyleRecord> shownRecord(const Platform& platform, const StyleFamily& family) {
   StyleRecords stored(platform, family.store());
   stored.load();
@@ -20,9 +29,14 @@ std::optional<StyleRecord> shownRecord(const Platform& platform, const StyleFami
 
 DisplayList widgetFace(const Platform& platform, const StyleFamily& family,
                        const StyleRecord& record, const PointSize& size, FaceUse use) {
-  const bool isWide = size.width > platform.device.screenBounds().width / 2;
-  if (use == FaceUse::widget && isWide) use = FaceUse::wideWidget;
-  return layOut(family.face(platform, record, use), size, platform.drawing);
+  return layOut(family.face(platform, record, sizedUse(platform, size, use)), size,
+                platform.drawing);
+}
+
+DisplayList widgetFace(const Platform& platform, const StyleFamily& family, const StyleDraft& draft,
+                       const PointSize& size, FaceUse use) {
+  return layOut(family.draftFace(platform, draft, sizedUse(platform, size, use)), size,
+                platform.drawing);
 }
 
 std::optional<SliceName> widgetBackdrop(const Platform& platform, const StyleRecord& record,

@@ -19,6 +19,10 @@ DisplayList widgetFace(const Platform& platform, const StyleFamily& family,
                        const StyleRecord& record, const PointSize& size,
                        FaceUse use = FaceUse::widget);
 
+/// The same of a draft, which may hold a picture that no record has yet.
+DisplayList widgetFace(const Platform& platform, const StyleFamily& family, const StyleDraft& draft,
+                       const PointSize& size, FaceUse use = FaceUse::widget);
+
 /// What a widget of a record stands on: the slice of the wallpaper style that the record is linked
 /// to, else of the one in use, in the present appearance.
 std::optional<SliceName> widgetBackdrop(const Platform& platform, const StyleRecord& record,

@@ -1,5 +1,7 @@
 #include "core/slicing/ImageLoader.h"
 
+#include "core/slicing/ImageOverlay.h"
+
 #include <algorithm>
 
 namespace vitrelle {
@@ -10,7 +12,7 @@ std::optional<Image> ImageLoader::loadSlice(std::string_view name, InterfaceStyl
 }
 
 std::optional<Image> ImageLoader::loadOverlay(RecordIndex index) const {
-  const auto file = path("overlayImage" + std::to_string(index.value) + ".png");
+  const auto file = path(overlayFileName(index));
   if (file) platform_.debugConsole.print("Trying to load from " + *file);
   return load(file);
 }

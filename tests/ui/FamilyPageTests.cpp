@@ -127,14 +127,6 @@ TEST_F(FamilyPageTest, limits_areTold) {
   EXPECT_FALSE(driver->isShown("setupPage"));
 }
 
-TEST_F(FamilyPageTest, familyWithoutAnEditor_makesNothing) {
-  openAt("CustomImageView");
-  driver->click("create");
-  driver->click("gallery");
-  EXPECT_TRUE(driver->isShown("galleryPage"));
-  EXPECT_FALSE(driver->isShown("setupPage"));
-}
-
 TEST_F(FamilyPageTest, gallery_ticksAndLinksAndRefuses) {
   setNumber("amountOfConfigs", 2);
   addStyle(0);

@@ -29,7 +29,7 @@ QVariantList qOptions(const FormRow& row) {
   QVariantList options;
   for (const FormOption& option : row.options) {
     options += QVariantMap{{QStringLiteral("symbol"), qText(option.symbol)},
-                           {QStringLiteral("spoken"), qText(option.spoken)}};
+                           {QStringLiteral("words"), qText(option.words)}};
   }
   return options;
 }
@@ -126,6 +126,10 @@ void FormModel::choose(int index, int option) {
   editor_.setValue(shown->index, value);
 }
 
+void FormModel::press(int index) {
+  if (const ShownRow* shown = rowAt(index)) editor_.press(shown->index);
+}
+
 void FormModel::openSheet(int index) {
   if (const ShownRow* shown = rowAt(index)) editor_.openSheet(shown->index);
 }
@@ -178,8 +182,12 @@ QString controlName(FormControl control) {
     return QStringLiteral("colourWell");
   case FormControl::segments:
     return QStringLiteral("segments");
+  case FormControl::menu:
+    return QStringLiteral("menu");
   case FormControl::note:
     return QStringLiteral("note");
+  case FormControl::button:
+    return QStringLiteral("button");
   }
   return {};
 }

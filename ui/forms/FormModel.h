@@ -31,6 +31,8 @@ class FormModel : public QAbstractListModel {
   Q_INVOKABLE void setValue(int index, const QVariant& value);
   /// Of a choice: which of its options is taken.
   Q_INVOKABLE void choose(int index, int option);
+  /// What a button does.
+  Q_INVOKABLE void press(int index);
   /// Opens the sheet on which the row's value is picked.
   Q_INVOKABLE void openSheet(int index);
   void refresh();

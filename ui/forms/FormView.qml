@@ -8,6 +8,8 @@ Column {
     required property FormModel rows
 
     signal colourAsked(int index, color now, string title)
+    signal menuAsked(Item row, int index)
+    signal pressed(int index)
 
     spacing: 10
     add: Transition { NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.shortTime; easing.type: Easing.InOutQuad } }
@@ -52,7 +54,9 @@ Column {
                     "toggle": toggleRow,
                     "colourWell": colourRow,
                     "segments": segmentsRow,
-                    "note": noteRow
+                    "menu": menuRow,
+                    "note": noteRow,
+                    "button": pressRow
                 })[row.control]
             }
             Component {
@@ -121,6 +125,27 @@ Column {
                     options: row.options
                     chosen: row.chosen
                     onChose: option => form.rows.choose(row.index, option)
+                }
+            }
+            Component {
+                id: menuRow
+                MenuRow {
+                    id: menu
+                    objectName: "menuRow"
+                    title: row.title
+                    options: row.options
+                    chosen: row.chosen
+                    onChose: option => form.rows.choose(row.index, option)
+                    onPressed: form.menuAsked(menu, row.index)
+                }
+            }
+            Component {
+                id: pressRow
+                PressRow {
+                    objectName: "pressRow"
+                    name: row.title
+                    symbol: row.symbol
+                    onPressed: form.pressed(row.index)
                 }
             }
             Component {

@@ -6,7 +6,7 @@ Panel {
     id: row
 
     required property string title
-    required property string label // what is chosen, for those who do not see the title
+    required property string label // what is chosen, for those who do not see it; may be empty
     required property var options // each with a symbol, and what it stands for; the words where it has none
     required property int chosen // -1 where it is none of them
 
@@ -21,7 +21,7 @@ Panel {
     implicitHeight: 45
     activeFocusOnTab: true
     Accessible.role: Accessible.List
-    Accessible.name: title + ", " + label
+    Accessible.name: label === "" ? title : title + ", " + label
     Accessible.focusable: true
     Keys.onLeftPressed: move(-1)
     Keys.onRightPressed: move(1)
@@ -72,7 +72,7 @@ Panel {
                 height: 41
                 activeFocusOnTab: false
                 role: Accessible.RadioButton
-                name: modelData.spoken
+                name: modelData.words
                 Accessible.checkable: true
                 Accessible.checked: index === row.chosen
                 onPressed: row.chose(index)

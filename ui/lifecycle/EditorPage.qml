@@ -16,7 +16,28 @@ SheetPage {
     title: screen.isSecond ? screen.words.secondTitle : SharedWords.setupTitle
     symbol: screen.isSecond ? screen.words.secondSymbol : SharedWords.setupSymbol
     spacing: 20
-    covered: chooser.shown || screen.sheet !== ""
+    covered: chooser.shown || menu.shown || screen.sheet !== ""
+    Keys.onPressed: event => {
+        if (!event.matches(StandardKey.Paste) || !screen.takesPictures || covered)
+            return;
+        event.accepted = true;
+        paste();
+    }
+
+    // What was said of the picture before is no more of use.
+    function paste() {
+        forgetRefusal();
+        screen.paste();
+    }
+    function tell(refusal: string) {
+        forgetRefusal();
+        if (refusal !== "")
+            Notices.show(qsTrId("app.unreadable").arg(refusal));
+    }
+    function forgetRefusal() {
+        if (Notices.kind === Notices.Refusal)
+            Notices.dismiss();
+    }
     StackView.onActivating: screen.appear() // also on the way back from the step after
     StackView.onActivated: screen.settle()
 
@@ -41,6 +62,9 @@ SheetPage {
         backdrop: page.screen.backdrop
         previewWidth: page.screen.previewWidth
         previewHeight: page.screen.previewHeight
+        takesPictures: page.screen.takesPictures
+        onFileDropped: file => page.tell(page.screen.takeFile(file))
+        onBytesDropped: bytes => page.tell(page.screen.takeBytes(bytes))
     }
     SuggestedColoursPanel {
         objectName: "suggestions"
@@ -76,6 +100,16 @@ SheetPage {
             page.colourRow = index;
             chooser.open(now, title);
         }
+        onMenuAsked: (row, index) => {
+            menu.asker = row;
+            menu.options = row.options;
+            menu.chosen = row.chosen;
+            menu.openAt(row, Qt.point(row.width - 250, row.height + 4), entries.itemAt(row.chosen));
+        }
+        onPressed: index => {
+            page.forgetRefusal();
+            page.screen.form.press(index);
+        }
     }
     ActionButton {
         objectName: page.screen.isSecond ? "saveAndExit" : "saveAndContinue"
@@ -87,6 +121,32 @@ SheetPage {
         ColourChooser {
             id: chooser
             onChosen: now => page.screen.form.setValue(page.colourRow, now)
+        },
+        ContextMenu {
+            id: menu
+
+            property MenuRow asker
+            property var options: []
+            property int chosen: -1
+
+            Repeater {
+                id: entries
+                model: menu.options
+
+                MenuEntry {
+                    required property int index
+                    required property var modelData
+
+                    objectName: "option" + index
+                    width: parent.width
+                    name: modelData.words
+                    symbol: index === menu.chosen ? "checkmark" : ""
+                    onPressed: {
+                        menu.close();
+                        menu.asker.chose(index);
+                    }
+                }
+            }
         },
         Sheet {
             id: sheet

@@ -1,6 +1,7 @@
 #include "ui/lifecycle/EditorScreen.h"
 
 #include "host/painting/PainterValues.h"
+#include "ui/parts/GivenPictures.h"
 
 #include <string>
 #include <utility>
@@ -41,6 +42,21 @@ void EditorScreen::settle() {
   if (second_ == nullptr || settled_) return;
   settled_ = true;
   second_->startSuggestions();
+}
+
+QString EditorScreen::takeFile(const QUrl& file) {
+  return take(givenFile(platform_, file));
+}
+
+QString EditorScreen::takeBytes(const QByteArray& bytes) {
+  return take(givenBytes(platform_, bytes, "what was dropped"));
+}
+
+QString EditorScreen::take(const Result<Image>& picture) {
+  if (!picture)
+    return QString::fromStdString(picture.failure().what + ": " + picture.failure().why);
+  screen_->takePicture(*picture);
+  return {};
 }
 
 void EditorScreen::pick(const QString& value) {

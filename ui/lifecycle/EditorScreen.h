@@ -7,7 +7,9 @@
 #include "ui/lifecycle/StyleScreen.h"
 #include "ui/parts/FaceItem.h"
 
+#include <QByteArray>
 #include <QColor>
+#include <QUrl>
 
 #include <memory>
 
@@ -26,6 +28,8 @@ class EditorScreen : public vitrelle::ui::StyleScreen {
   /// What the sheet over the form picks, "font" or "symbol"; empty while there is none.
   Q_PROPERTY(QString sheet READ sheet NOTIFY changed)
   Q_PROPERTY(QString sheetValue READ sheetValue NOTIFY changed)
+  /// Whether pictures can be pasted and dropped here.
+  Q_PROPERTY(bool takesPictures READ takesPictures CONSTANT)
   /// Of the second step.
   Q_PROPERTY(bool hasSuggestions READ hasSuggestions CONSTANT)
   Q_PROPERTY(bool hasSuggestionsHint READ hasSuggestionsHint CONSTANT)
@@ -43,6 +47,7 @@ class EditorScreen : public vitrelle::ui::StyleScreen {
   qreal previewHeight() const { return mediumPreviewSize(platform_).height; }
   QString sheet() const;
   QString sheetValue() const;
+  bool takesPictures() const { return screen_->takesPictures(); }
   bool hasSuggestions() const { return second_ != nullptr && second_->suggesting().has_value(); }
   bool hasSuggestionsHint() const { return hasSuggestions() && second_->suggesting()->hasHint; }
   bool suggestionsLoaded() const { return second_ != nullptr && second_->suggestions().loaded(); }
@@ -54,6 +59,11 @@ class EditorScreen : public vitrelle::ui::StyleScreen {
   /// When the screen has come to rest.
   Q_INVOKABLE void settle();
   Q_INVOKABLE void dismissSheet() { screen_->dismissSheet(); }
+  /// The picture in the clipboard.
+  Q_INVOKABLE void paste() { screen_->paste(); }
+  /// One that is dropped, as a file or as the bytes of one. Why it was not taken, if it was not.
+  Q_INVOKABLE QString takeFile(const QUrl& file);
+  Q_INVOKABLE QString takeBytes(const QByteArray& bytes);
   /// What was picked on the sheet.
   Q_INVOKABLE void pick(const QString& value);
 
@@ -61,6 +71,8 @@ class EditorScreen : public vitrelle::ui::StyleScreen {
   void changed();
 
  private:
+  QString take(const Result<Image>& picture);
+
   const Platform& platform_;
   std::shared_ptr<StyleEditor> screen_;
   StyleSecond* second_; ///< the same, if it is one

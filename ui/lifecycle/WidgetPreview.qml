@@ -8,6 +8,11 @@ Column {
     property alias face: faceView.face
     property alias backdrop: ground.name
 
+    property bool takesPictures: false
+
+    signal fileDropped(url file)
+    signal bytesDropped(var bytes)
+
     required property real previewWidth
     required property real previewHeight
 
@@ -33,6 +38,33 @@ Column {
             objectName: "previewFace"
             anchors.fill: parent
             bleed: 0 // a widget ends at its edge
+        }
+        DropArea {
+            id: drop
+
+            // Pixels before names: the file that a browser names is far away.
+            function picture(event: DragEvent): string {
+                return event.formats.find(format => format.startsWith("image/")) ?? "";
+            }
+
+            anchors.fill: parent
+            enabled: preview.takesPictures
+            onEntered: event => event.accepted = event.hasUrls || picture(event) !== ""
+            onDropped: event => {
+                event.acceptProposedAction();
+                const format = picture(event);
+                if (format !== "")
+                    preview.bytesDropped(event.getDataAsArrayBuffer(format));
+                else if (event.hasUrls)
+                    preview.fileDropped(event.urls[0]);
+            }
+        }
+        ContinuousRectangle {
+            anchors.fill: parent
+            visible: drop.containsDrag
+            radius: ground.radius
+            borderColour: Theme.accent
+            borderWidth: 3
         }
     }
 }

@@ -1,5 +1,5 @@
-// A menu over the screen: its entries are its children. Arrows move in it, Escape closes it. It can
-// be scrolled where it is higher than the screen.
+// A menu over the screen: its entries are its children. Arrows move in it, a letter goes to the next
+// entry that begins with it, Escape closes it. It can be scrolled where it is higher than the screen.
 import QtQuick
 import Vitrelle
 
@@ -93,6 +93,17 @@ FocusScope {
                         ++now;
                     focusFrom(now + step, step);
                 }
+                function seek(letter: string): bool {
+                    const starts = entry => entry.enabled && entry.visible && entry.name !== undefined && entry.name.toLowerCase().startsWith(letter);
+                    const all = Array.from(children);
+                    const now = all.findIndex(entry => entry.activeFocus);
+                    const found = all.slice(now + 1).concat(all).find(starts);
+                    if (letter === "" || !found)
+                        return false;
+                    focusOn(found);
+                    return true;
+                }
+                Keys.onPressed: event => event.accepted = seek(event.text.trim().toLowerCase())
                 Keys.onUpPressed: move(-1)
                 Keys.onDownPressed: move(1)
             }

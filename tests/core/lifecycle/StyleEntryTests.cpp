@@ -60,15 +60,6 @@ TEST_F(StyleEntryTest, stylesThatCannotBeRead_areNeitherAddedToNorCalledNone) {
   EXPECT_EQ(entry.alert()->title, "Cannot Create Text Widget Style");
 }
 
-TEST_F(StyleEntryTest, familyWithoutAnEditor_makesNothing) {
-  for (const FamilyDescription& family : familyTable) {
-    StyleEntry any(platform, styleFamily(family.name));
-    any.appear();
-    any.tapCreate();
-    EXPECT_EQ(any.showCreate(), styleFamily(family.name).hasEditor()) << family.name;
-  }
-}
-
 TEST(FamilyTable, families_haveTheirKnownWords) {
   const FamilyDescription& music = familyDescription("music");
   EXPECT_EQ(music.entryTitle, "Music Widget");
