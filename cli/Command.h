@@ -54,6 +54,7 @@ void addDateCommand(CLI::App& program, CommandContext& context);
 void addDefaultsCommand(CLI::App& program, CommandContext& context);
 void addExportCommand(CLI::App& program, CommandContext& context);
 void addFaceCommand(CLI::App& program, CommandContext& context);
+void addImageCommand(CLI::App& program, CommandContext& context);
 void addMusicCommand(CLI::App& program, CommandContext& context);
 void addOpenCommand(CLI::App& program, CommandContext& context);
 void addPaletteCommand(CLI::App& program, CommandContext& context);

@@ -46,6 +46,7 @@ struct Chosen {
   std::optional<std::int64_t> record = {};
   bool current = false;
   std::vector<std::string> fields = {}; ///< "textWidgetSize=40"
+  std::string picture = {};             ///< a file, in the place of the record's own
 };
 
 /// The pixels of a screenshot in one point, which slots are measured in. A zoomed display has more
@@ -151,7 +152,8 @@ Status draw(const Platform& platform, const Sheet& sheet, const Drawn& drawn) {
 /// The stored record that is asked for, else a new one; with the fields that are told.
 Result<StyleRecord> chosenRecord(const Platform& platform, const Chosen& chosen) {
   const FamilyStore& store = chosen.family->store();
-  StyleRecord record = store.newRecord(0);
+  // Behind all that are stored: it has none of their pictures.
+  StyleRecord record = store.newRecord(maximumWidgetStyles);
   if (chosen.record) {
     const auto stored = store.read(GroupStore(platform));
     if (!stored) return stored.failure();
@@ -170,6 +172,19 @@ Result<StyleRecord> chosenRecord(const Platform& platform, const Chosen& chosen)
     if (!set) return set.failure();
   }
   return record;
+}
+
+/// The same with the picture that is told.
+Result<StyleDraft> chosenDraft(const Platform& platform, const Chosen& chosen) {
+  auto record = chosenRecord(platform, chosen);
+  if (!record) return record.failure();
+  StyleDraft draft{.record = *std::move(record)};
+  if (chosen.picture.empty()) return draft;
+  const auto picture = platform.images.load(chosen.picture);
+  if (!picture) return picture.failure();
+  if (const auto bitmap = picture->bitmap(); !bitmap) return bitmap.failure();
+  draft.picture = *picture;
+  return draft;
 }
 
 void addSheetOptions(CLI::App& command, Sheet& sheet) {
@@ -248,17 +263,21 @@ void addFamilyFace(CLI::App& face, const StyleFamily& family, CommandContext& co
       ->check(CLI::Validator(whyNoField, "FIELD=VALUE"))
       ->take_all()
       ->allow_extra_args(false);
+  if (family.takesPictures(EditorStep::setup)) {
+    command->add_option("--picture", chosen->picture,
+                        "A picture file to be tried in the place of the stored one");
+  }
   addDrawing(*command, sheet, context,
              [sheet, chosen, &family](const Platform& platform) -> Result<Drawn> {
-               const auto record = chosenRecord(platform, *chosen);
-               if (!record) return record.failure();
+               const auto draft = chosenDraft(platform, *chosen);
+               if (!draft) return draft.failure();
                const auto alive = std::make_shared<Alive>(platform, family);
                return Drawn{
                    .face =
-                       [&platform, &family, record = *record, alive](const PointSize& frame) {
-                         return widgetFace(platform, family, record, frame);
+                       [&platform, &family, draft = *draft, alive](const PointSize& frame) {
+                         return widgetFace(platform, family, draft, frame);
                        },
-                   .slice = widgetBackdrop(platform, *record, *widgetLocation(sheet->slot))};
+                   .slice = widgetBackdrop(platform, draft->record, *widgetLocation(sheet->slot))};
              });
 }
 

@@ -34,11 +34,11 @@ int main(int argc, char** argv) {
   return cli::runProgram(
       argc, argv,
       {.commands = {cli::addCutCommand, cli::addPaletteCommand, cli::addPhonesCommand,
-                    cli::addPhoneCommand, cli::addDefaultsCommand, cli::addRecordsCommand,
-                    cli::addStyleCommand, cli::addShortcutCommand, cli::addFaceCommand,
-                    cli::addSymbolsCommand, cli::addDateCommand, cli::addBackgroundCommand,
-                    cli::addMusicCommand, cli::addPlaceCommand, cli::addWeatherCommand,
-                    cli::addOpenCommand, cli::addExportCommand},
+                    cli::addPhoneCommand, cli::addDefaultsCommand, cli::addImageCommand,
+                    cli::addRecordsCommand, cli::addStyleCommand, cli::addShortcutCommand,
+                    cli::addFaceCommand, cli::addSymbolsCommand, cli::addDateCommand,
+                    cli::addBackgroundCommand, cli::addMusicCommand, cli::addPlaceCommand,
+                    cli::addWeatherCommand, cli::addOpenCommand, cli::addExportCommand},
        .makePlatform =
            [&](const cli::Options& options) {
              return cli::hostPlatform(options, loop.operations());
