@@ -214,14 +214,18 @@ TEST_F(ExportPageTest, whatCannotBeSaved_isToldAndAnotherPlaceCanBeChosen) {
   EXPECT_FALSE(driver->find("saveButton")->isEnabled()) << "without a name";
   type("folder.png");
   driver->key(Qt::Key_Return);
-  driver->key(Qt::Key_Down);
+  EXPECT_FALSE(driver->isShown("replaceQuestion")) << "it is a folder, and gone into";
+  EXPECT_EQ(property("step0", "name"), "Computer");
+  driver->key(Qt::Key_A, Qt::ControlModifier);
+  type(std::string(300, 'a').c_str());
   driver->key(Qt::Key_Return);
-  EXPECT_TRUE(property("notice", "name").toString().startsWith("folder.png can’t be saved. "));
+  EXPECT_TRUE(property("notice", "name").toString().contains(" can’t be saved. "));
   ASSERT_TRUE(driver->isShown("savePage"));
   driver->key(Qt::Key_Escape);
   waitForEndOf("savePage");
   EXPECT_TRUE(driver->isShown("shareSheet"));
   EXPECT_EQ(root.entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList{"folder.png"});
+  EXPECT_TRUE(QDir(root.filePath("folder.png")).isEmpty());
 }
 
 TEST_F(ExportPageTest, otherPrograms_getACopyAndAreMissedInWords) {

@@ -21,7 +21,9 @@ FocusScope {
         if (!isName)
             return;
         const file = Sharing.urlIn(folder.path, fileName);
-        if (Sharing.exists(file))
+        if (Sharing.isFolder(file))
+            folder.path += "/" + fileName;
+        else if (Sharing.exists(file))
             asking = true;
         else
             chosen(file);

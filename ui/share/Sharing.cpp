@@ -43,6 +43,10 @@ QUrl Sharing::urlIn(const QString& folder, const QString& fileName) {
   return QUrl::fromLocalFile(QDir(folder).filePath(fileName));
 }
 
+bool Sharing::isFolder(const QUrl& place) {
+  return QFileInfo(place.toLocalFile()).isDir();
+}
+
 bool Sharing::exists(const QUrl& file) {
   const QFileInfo info(file.toLocalFile());
   return info.exists() || info.isSymLink();

@@ -32,6 +32,7 @@ class Sharing final : public QObject {
   Q_INVOKABLE QString folder() const;
   Q_INVOKABLE static QUrl urlIn(const QString& folder, const QString& fileName);
   Q_INVOKABLE static QString nameOf(const QUrl& file) { return file.fileName(); }
+  Q_INVOKABLE static bool isFolder(const QUrl& place);
   /// Whether something lies there already.
   Q_INVOKABLE static bool exists(const QUrl& file);
   /// Writes the file whole, replacing what was there, and remembers its folder. Why it could not;
