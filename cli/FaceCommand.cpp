@@ -299,10 +299,8 @@ void addDateFace(CLI::App& face, CommandContext& context) {
 void addFaceCommand(CLI::App& program, CommandContext& context) {
   CLI::App* command = program.add_subcommand("face", "Draw a widget's face to a PNG file");
   command->require_subcommand(1);
-  for (const FamilyDescription& words : familyTable) {
-    const StyleFamily& family = styleFamily(words.name);
-    if (family.hasEditor()) addFamilyFace(*command, family, context);
-  }
+  for (const FamilyDescription& words : familyTable)
+    addFamilyFace(*command, styleFamily(words.name), context);
   addDateFace(*command, context);
 }
 

@@ -14,7 +14,7 @@ bool StyleEntry::canRead() {
 }
 
 void StyleEntry::tapCreate() {
-  if (!family_.hasEditor() || !canRead()) return;
+  if (!canRead()) return;
   if (storedDataArray_.count() < maximumWidgetStyles) {
     platform_.haptics.lightImpact();
     toggle(FlowStart::create);

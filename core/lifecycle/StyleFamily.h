@@ -67,8 +67,6 @@ class StyleFamily {
 
   /// What is passed before the entry; null where nothing is.
   virtual std::unique_ptr<Gate> gate(const Platform&) const { return nullptr; }
-  /// Whether its styles can be made and changed; all other screens are there for every family.
-  virtual bool hasEditor() const { return true; }
   /// Chosen between the entry and the form, if there are any.
   virtual std::span<const StyleKind> kinds() const { return {}; }
   /// Below them.

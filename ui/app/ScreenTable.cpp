@@ -76,16 +76,14 @@ ScreenEntry gateEntry(const StyleFamily& family) {
 struct FamilyPage {
   std::string_view FamilyDescription::*typeName;
   std::optional<FlowStart> start; ///< none for the entry, which leads to the others
-  bool needsEditor;
 };
-constexpr FamilyPage familyPages[] = {
-    {&FamilyDescription::entryScreen, std::nullopt, false},
-    {&FamilyDescription::stylesScreen, FlowStart::create, true},
-    {&FamilyDescription::setupScreen, FlowStart::setup, true},
-    {&FamilyDescription::secondScreen, FlowStart::second, true},
-    {&FamilyDescription::galleryScreen, FlowStart::gallery, false},
-    {&FamilyDescription::assignScreen, FlowStart::assign, false},
-    {&FamilyDescription::previewScreen, FlowStart::preview, false}};
+constexpr FamilyPage familyPages[] = {{&FamilyDescription::entryScreen, std::nullopt},
+                                      {&FamilyDescription::stylesScreen, FlowStart::create},
+                                      {&FamilyDescription::setupScreen, FlowStart::setup},
+                                      {&FamilyDescription::secondScreen, FlowStart::second},
+                                      {&FamilyDescription::galleryScreen, FlowStart::gallery},
+                                      {&FamilyDescription::assignScreen, FlowStart::assign},
+                                      {&FamilyDescription::previewScreen, FlowStart::preview}};
 
 ScreenEntry familyEntry(const StyleFamily& family, const FamilyPage& page) {
   const std::string name(family.words().*page.typeName);
@@ -125,11 +123,9 @@ std::vector<ScreenEntry> makeTable() {
   };
   for (const FamilyDescription& words : familyTable) {
     const StyleFamily& family = styleFamily(words.name);
-    if (!words.gateScreen.empty() && family.hasEditor()) table.push_back(gateEntry(family));
+    if (!words.gateScreen.empty()) table.push_back(gateEntry(family));
     for (const FamilyPage& page : familyPages) {
-      const bool isThere = !(words.*page.typeName).empty();
-      if (isThere && (family.hasEditor() || !page.needsEditor))
-        table.push_back(familyEntry(family, page));
+      if (!(words.*page.typeName).empty()) table.push_back(familyEntry(family, page));
     }
   }
   return table;

@@ -57,7 +57,7 @@ SheetPage {
         width: Surroundings.screenWidth - 60
         title: page.settings.unitTitle
         label: page.settings.units[page.settings.unit]
-        options: page.settings.units.map(unit => ({ "symbol": "", "spoken": unit }))
+        options: page.settings.units.map(unit => ({ "symbol": "", "words": unit }))
         chosen: page.settings.unit
         onChose: option => page.settings.unit = option
     }

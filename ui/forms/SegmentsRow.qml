@@ -90,7 +90,7 @@ Panel {
                     font.pixelSize: 15
                     font.weight: Font.DemiBold
                     spoken: false
-                    text: segment.modelData.spoken
+                    text: segment.modelData.words
                 }
             }
         }

@@ -38,7 +38,6 @@ Page {
         ActionButton {
             objectName: "create"
             focus: true
-            enabled: page.family.hasEditor
             name: SharedWords.create
             symbol: "plus"
             onPressed: page.family.tapCreate()

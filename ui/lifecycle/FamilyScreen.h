@@ -15,7 +15,6 @@ class FamilyScreen : public QObject {
   QML_ELEMENT
   QML_UNCREATABLE("the shell makes it")
   Q_PROPERTY(vitrelle::ui::FamilyWords words READ words CONSTANT)
-  Q_PROPERTY(bool hasEditor READ hasEditor CONSTANT)
   /// What the sheet over it holds; null while there is none.
   Q_PROPERTY(vitrelle::ui::FlowScreen* flow READ flow NOTIFY changed)
   Q_PROPERTY(QString alertTitle READ alertTitle NOTIFY changed)
@@ -29,7 +28,6 @@ class FamilyScreen : public QObject {
   ~FamilyScreen() override { delete flow_; }
 
   FamilyWords words() const { return FamilyWords(screen_.family().words()); }
-  bool hasEditor() const { return screen_.family().hasEditor(); }
   FlowScreen* flow() const { return flow_; }
   QString alertTitle() const { return qText(screen_.alert().value_or(Alert{}).title); }
   QString alertMessage() const { return qText(screen_.alert().value_or(Alert{}).message); }

@@ -115,7 +115,6 @@ SheetPage {
             MenuEntry {
                 objectName: "editEntry"
                 width: parent.width
-                visible: page.screen.hasEditor
                 name: SharedWords.editItem
                 symbol: SharedWords.editSymbol
                 onPressed: {

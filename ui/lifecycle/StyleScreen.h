@@ -16,14 +16,12 @@ class StyleScreen : public QObject {
   /// "kinds", "editor", "gallery", "assign" or "preview".
   Q_PROPERTY(QString page READ page CONSTANT)
   Q_PROPERTY(vitrelle::ui::FamilyWords words READ words CONSTANT)
-  Q_PROPERTY(bool hasEditor READ hasEditor CONSTANT)
 
  public:
   StyleScreen(const StyleFamily& family, const char* page) : family_(family), page_(page) {}
 
   QString page() const { return QString::fromLatin1(page_); }
   FamilyWords words() const { return FamilyWords(family_.words()); }
-  bool hasEditor() const { return family_.hasEditor(); }
 
  private:
   const StyleFamily& family_;
