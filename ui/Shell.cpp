@@ -13,7 +13,6 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QMimeData>
 #include <QVariant>
 
 #include <utility>
@@ -85,8 +84,7 @@ bool Shell::openReview() const {
 }
 
 bool Shell::canPaste() const {
-  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-  return data != nullptr && hasPicture(*data);
+  return hasPicture(clipboardOffer());
 }
 
 bool Shell::eventFilter(QObject* watched, QEvent* event) {

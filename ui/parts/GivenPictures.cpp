@@ -65,22 +65,21 @@ Result<Image> decoded(const Result<Image>& image, const std::string& what) {
   return *image;
 }
 
-std::optional<QUrl> firstFile(const QMimeData& data) {
-  if (!data.hasUrls() || data.urls().isEmpty()) return std::nullopt;
-  return data.urls().constFirst();
-}
-
-/// The format in which the data hold a picture, with alpha and all bits if there is one; empty
-/// where there is none.
-QString pictureFormat(const QMimeData& data) {
-  const QStringList formats = data.formats();
+/// The format in which a picture is offered, with alpha and all bits if there is one; empty where
+/// there is none.
+QString pictureFormat(const Offer& offer) {
   for (const char* best : {"image/png", "image/jpeg"}) {
-    if (formats.contains(QLatin1String(best))) return QLatin1String(best);
+    if (offer.formats.contains(QLatin1String(best))) return QLatin1String(best);
   }
-  for (const QString& format : formats) {
+  for (const QString& format : offer.formats) {
     if (format.startsWith(QLatin1String("image/"))) return format;
   }
   return {};
+}
+
+/// Pixels of this very program are offered without a format.
+bool hasPixels(const Offer& offer) {
+  return offer.formats.contains(QLatin1String("application/x-qt-image"));
 }
 
 } // namespace
@@ -110,22 +109,32 @@ Result<Image> givenBytes(const Platform& platform, const QByteArray& bytes, cons
   return decoded(platform.images.load("/proc/self/fd/" + std::to_string(memory)), from);
 }
 
-bool hasPicture(const QMimeData& clipboard) {
-  if (clipboard.hasImage() || !pictureFormat(clipboard).isEmpty()) return true;
-  const auto file = firstFile(clipboard);
-  if (!file || !file->isLocalFile()) return false;
+Offer clipboardOffer() {
+  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+  return {data, data == nullptr ? QStringList() : data->formats()};
+}
+
+QList<QUrl> offeredFiles(const Offer& offer) {
+  return offer.formats.contains(QLatin1String("text/uri-list")) ? offer.data->urls()
+                                                                : QList<QUrl>();
+}
+
+bool hasPicture(const Offer& offer) {
+  if (hasPixels(offer) || !pictureFormat(offer).isEmpty()) return true;
+  const QList<QUrl> files = offeredFiles(offer);
+  if (files.isEmpty() || !files.constFirst().isLocalFile()) return false;
   return QMimeDatabase()
-      .mimeTypeForFile(file->toLocalFile())
+      .mimeTypeForFile(files.constFirst().toLocalFile())
       .name()
       .startsWith(QLatin1String("image/"));
 }
 
-Result<Image> givenPicture(const Platform& platform, const QMimeData& clipboard) {
-  if (const QString format = pictureFormat(clipboard); !format.isEmpty())
-    return givenBytes(platform, clipboard.data(format), clipboardName);
-  const auto pixels = qvariant_cast<QImage>(clipboard.imageData());
-  if (!pixels.isNull()) return imageOf(pixels);
-  if (const auto file = firstFile(clipboard)) return givenFile(platform, *file);
+Result<Image> givenPicture(const Platform& platform, const Offer& offer) {
+  if (const QString format = pictureFormat(offer); !format.isEmpty())
+    return givenBytes(platform, offer.data->data(format), clipboardName);
+  if (hasPixels(offer)) return imageOf(qvariant_cast<QImage>(offer.data->imageData()));
+  const QList<QUrl> files = offeredFiles(offer);
+  if (!files.isEmpty()) return givenFile(platform, files.constFirst());
   return Failure{clipboardName, "it holds no picture"};
 }
 
@@ -140,15 +149,9 @@ Platform withGivenPictures(Platform platform, std::function<void(const Failure&)
     return made;
   };
   const auto reading = std::make_shared<const Platform>(platform);
-  platform.pasteboard = {.hasImages =
-                             [] {
-                               const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-                               return data != nullptr && hasPicture(*data);
-                             },
+  platform.pasteboard = {.hasImages = [] { return hasPicture(clipboardOffer()); },
                          .image = [told, reading]() -> std::optional<Image> {
-                           const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-                           if (data == nullptr) return std::nullopt;
-                           const auto picture = givenPicture(*reading, *data);
+                           const auto picture = givenPicture(*reading, clipboardOffer());
                            told(picture);
                            if (!picture) return std::nullopt;
                            return *picture;

@@ -4,9 +4,6 @@
 #include "ui/parts/GivenPictures.h"
 #include "ui/parts/Notices.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QMimeData>
 #include <QStringList>
 
 #include <utility>
@@ -117,13 +114,12 @@ void IntakeScreen::cancelQuestion() {
 
 void IntakeScreen::paste(bool dark) {
   if (!choose(dark)) return;
-  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-  if (data != nullptr && data->hasUrls() && !data->urls().isEmpty()) {
-    pick(data->urls().constFirst());
+  const Offer offer = clipboardOffer();
+  if (const QList<QUrl> files = offeredFiles(offer); !files.isEmpty()) {
+    pick(files.constFirst());
     return;
   }
-  if (data == nullptr) return;
-  const auto picture = givenPicture(platform_, *data);
+  const auto picture = givenPicture(platform_, offer);
   if (picture)
     receive(*picture);
   else
@@ -131,9 +127,8 @@ void IntakeScreen::paste(bool dark) {
 }
 
 void IntakeScreen::pasteAll() {
-  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-  if (data != nullptr && data->hasUrls() && !data->urls().isEmpty())
-    takeFiles(data->urls());
+  if (const QList<QUrl> files = offeredFiles(clipboardOffer()); !files.isEmpty())
+    takeFiles(files);
   else
     paste(false);
 }
