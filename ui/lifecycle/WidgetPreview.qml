@@ -44,7 +44,7 @@ Column {
 
             // Pixels before names: the file that a browser names is far away.
             function picture(event: DragEvent): string {
-                return event.formats.find(format => format.startsWith("image/")) ?? "";
+                return Array.from(event.formats).find(format => format.startsWith("image/")) ?? "";
             }
 
             anchors.fill: parent
