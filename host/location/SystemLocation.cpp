@@ -205,8 +205,9 @@ void useLocationAtOnce(Platform& platform, const HostOptions& options, const Eve
                waiting.quit();
              });
              waiting.exec();
+             look.cancel(); // a later answer would find nobody here
              done(isThere);
-             return look;
+             return Subscription();
            },
        .follow = follower(loop)});
 }

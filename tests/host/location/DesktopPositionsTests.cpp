@@ -1,11 +1,13 @@
 // The desktop's location service over a bus that this process takes for the system's.
 #include "host/location/DesktopPositions.h"
 
+#include "core/platform/Platform.h"
 #include "host/desktop/QtLoop.h"
 #include "host/location/SystemLocation.h"
 #include "tests/host/location/FakeGeoClue.h"
 #include "tests/support/MockedService.h"
 #include "tests/support/PrivateBus.h"
+#include "tests/support/UnimplementedPlatform.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -143,6 +145,18 @@ TEST_F(DesktopPositionsTest, service_isLookedForAside) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return found.has_value(); }));
   EXPECT_EQ(found, false);
   world->bus->resume();
+}
+
+// A process asks for the system's bus once: alone this test has it connect meanwhile.
+TEST_F(DesktopPositionsTest, answerThatComesTooLate_isNobodysAnyMore) {
+  service.start();
+  world->bus->suspend();
+  Platform platform = test::unimplementedPlatform();
+  useLocationAtOnce(platform, {.home = HomeFolder("/nowhere"), .phone = {}}, makeQtLoop());
+  EXPECT_FALSE(platform.locationSettings.hasDesktopService());
+  world->bus->resume();
+  QTest::qWait(200);
+  EXPECT_FALSE(platform.locationSettings.hasDesktopService()) << "it is asked once";
 }
 
 TEST(LocationService, isThereWhenItRunsOrCanBeStarted) {
