@@ -20,6 +20,7 @@
 
 #include <chrono>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace vitrelle::host {
@@ -253,8 +254,9 @@ TEST_F(SystemBatteryTest, withoutABus_theKernelIsAsked) {
   EXPECT_FLOAT_EQ(battery.level(), 0.4F);
 }
 
-// The only one of this process that asks for the system's bus, which stays what it is then.
 TEST_F(SystemBatteryTest, busThatLetsInAndStaysSilent_holdsNothingUp) {
+  static bool isFirst = true;
+  if (!std::exchange(isFirst, false)) GTEST_SKIP() << "a process asks for its system's bus once";
   power.start();
   bus.suspend();
   qputenv("DBUS_SYSTEM_BUS_ADDRESS", bus.address().toUtf8());
