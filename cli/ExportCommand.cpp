@@ -49,8 +49,9 @@ std::string pathIn(const std::string& folder, const std::string& name) {
 
 std::string appearanceOf(const ExportArguments& arguments, const Options& options) {
   if (!arguments.appearance.empty()) return arguments.appearance;
-  if (!options.appearance) return "both";
-  return *options.appearance == Appearance::dark ? "dark" : "light";
+  // The desktop's own is no choice of one of them.
+  const auto told = options.appearance.value_or(AppearanceChoice::desktop);
+  return told == AppearanceChoice::desktop ? "both" : std::string(describe(told));
 }
 
 std::vector<std::string> fileNames(const ExportArguments& arguments,

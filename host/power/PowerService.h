@@ -28,7 +28,6 @@ class PowerService final : public QObject {
 
  private:
   Q_SLOT void ask();
-  void follow(const QString& owner);
   void take();
 
   QDBusConnection bus_;
