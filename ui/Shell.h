@@ -6,6 +6,7 @@
 #include "ui/app/RootScreen.h"
 #include "ui/centre/LocationAnswer.h"
 #include "ui/centre/ReviewAnswer.h"
+#include "ui/centre/WidgetSettingsScreen.h"
 #include "ui/parts/Notices.h"
 #include "ui/parts/Surroundings.h"
 #include "ui/pickers/FontScreen.h"
@@ -69,6 +70,9 @@ class Shell final : public QObject {
   Q_INVOKABLE bool hasScreen(const QString& name) const { return screenNames().contains(name); }
   /// The QML owns what it gets.
   Q_INVOKABLE vitrelle::ui::FontScreen* fonts() const { return new FontScreen(platform_); }
+  Q_INVOKABLE vitrelle::ui::WidgetSettingsScreen* widgetSettings() const {
+    return new WidgetSettingsScreen(platform_);
+  }
   /// Over the key of a picker that has one of its own, by the picker's type name.
   Q_INVOKABLE vitrelle::ui::FontScreen* storedFonts(const QString& picker) const {
     return new FontScreen(platform_, storedFont(picker.toStdString()));

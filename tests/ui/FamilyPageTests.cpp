@@ -51,10 +51,7 @@ TEST_F(FamilyPageTest, style_isMadeFromTheRootFoundAndEdited) {
   setNumber("amountOfConfigs", 1);
   addStyle(0);
   open();
-  driver->click("widgetCentreButton");
-  driver->click("tile More");
-  driver->find("tile Text")->forceActiveFocus(); // scrolls there
-  driver->click("tile Text");
+  openFamily("Text");
   driver->click("create");
   waitFor("setupPage");
   driver->click("textField");

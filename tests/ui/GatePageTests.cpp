@@ -25,8 +25,7 @@ TEST_F(GatePageTest, weather_isEnteredWhereThePositionMayBeKnown) {
   addStyle(0);
   location.authorize(AuthorizationStatus::denied);
   open();
-  driver->click("widgetCentreButton");
-  driver->click("tile Weather");
+  openFamily("Weather");
   waitFor("gateRefusal");
   EXPECT_FALSE(driver->isShown("gateSpinner"));
   EXPECT_EQ(driver->find("gateTitle")->property("text").toString(), "We can't get Weather Data");
@@ -85,8 +84,7 @@ TEST_F(GatePageTest, questionBeforeTheGate_hasTheKeysAndLeavesThemToIt) {
   setNumber("amountOfConfigs", 1);
   addStyle(0);
   open();
-  driver->click("widgetCentreButton");
-  driver->click("tile Weather");
+  openFamily("Weather");
   waitFor("locationQuestion");
   waitFor("gatePage");
   EXPECT_TRUE(driver->find("alertButton")->hasActiveFocus());

@@ -30,11 +30,6 @@ class GateWalkTest : public test::UiTest {
       return driver->isShown("swatches");
     }));
   }
-  void openFamily(const char* button) {
-    open();
-    driver->click("widgetCentreButton");
-    driver->click(button);
-  }
   /// From the gallery, whose only tile goes with the second wallpaper then.
   void link() {
     waitFor("tile0");
@@ -61,7 +56,8 @@ class GateWalkTest : public test::UiTest {
 };
 
 TEST_F(GateWalkTest, music_isMadeLinkedAndSeen) {
-  openFamily("family music");
+  open();
+  openFamily("Now Playing");
   waitFor("gateSpinner");
   music.authorisations.answer({});
   music.subscriptions.answer(true);
@@ -83,7 +79,8 @@ TEST_F(GateWalkTest, music_isMadeLinkedAndSeen) {
 }
 
 TEST_F(GateWalkTest, weather_isMadeInItsSecondFormLinkedAndSeen) {
-  openFamily("family weather");
+  open();
+  openFamily("Weather");
   waitFor("familyPage");
   driver->click("create");
   waitFor("kindsPage");

@@ -104,8 +104,7 @@ class ImagePageTest : public test::UiTest {
 
 TEST_F(ImagePageTest, style_isPastedPlacedFoundAndEdited) {
   open();
-  driver->click("widgetCentreButton");
-  driver->click("family image");
+  openFamily("Image");
   driver->click("create");
   waitFor("setupPage");
   driver->click("pressRow");

@@ -224,6 +224,10 @@ TEST_F(IntakePageTest, helpSheets_openByTheirState) {
   EXPECT_TRUE(driver->find("darkCell")->hasActiveFocus());
 
   intake()->screen().present(ActiveSheet::settings);
+  EXPECT_TRUE(driver->isShown("widgetSettingsPage"));
+  driver->key(Qt::Key_Escape);
+  EXPECT_TRUE(driver->eventually([&] { return !driver->isShown("intakeSheet"); }));
+  intake()->screen().present(ActiveSheet::invalid);
   EXPECT_FALSE(driver->isShown("intakeSheet")) << "no sheet shows a screen that is not there";
   EXPECT_TRUE(folder.written.empty());
 }

@@ -203,8 +203,7 @@ TEST_F(PhonePageTest, openPages_followThePhoneAndTheAppearance) {
   for (const InterfaceStyle style : {lightStyle, darkStyle})
     folder.images.insert_or_assign(sliceFileName({0}, "topMedium", style), screenshot);
   open();
-  driver->click("widgetCentreButton");
-  driver->click("family text");
+  openFamily("Text");
   driver->click("create");
   waitFor("setupPage");
   const QQuickItem* preview = driver->find("previewBackdrop");

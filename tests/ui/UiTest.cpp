@@ -127,6 +127,14 @@ void UiTest::open(ui::ShellOptions options) {
   QCoreApplication::processEvents();
 }
 
+void UiTest::openFamily(const QString& tile) {
+  driver->click(QStringLiteral("widgetCentreButton"));
+  const QString name = QStringLiteral("tile ") + tile;
+  if (!driver->isShown(name)) driver->click(QStringLiteral("tile More"));
+  driver->find(name)->forceActiveFocus(); // scrolls there
+  driver->click(name);
+}
+
 } // namespace vitrelle::test
 
 // What Qt leaves behind of textures. What our code allocates is named by our frames, and still

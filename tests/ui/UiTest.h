@@ -44,6 +44,9 @@ class UiTest : public AppTest {
   /// Builds the window; the store and the folder are as the test wants them.
   void open(ui::ShellOptions options = {.screen = {}, .framed = false, .animated = false});
 
+  /// From the root, by the name on its tile.
+  void openFamily(const QString& tile);
+
   QString accessibleName(const QString& objectName) const {
     return driver->accessibleName(objectName);
   }

@@ -93,7 +93,7 @@ Page {
                 active: settings.present
                 sourceComponent: WidgetSettingsPage {
                     focus: true
-                    screen: page.centre.settings()
+                    screen: Shell.widgetSettings()
                     onClosed: page.centre.dismissSheet()
                 }
             }

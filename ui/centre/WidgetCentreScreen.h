@@ -3,7 +3,6 @@
 
 #include "core/centre/ModernWidgetCentre.h"
 #include "ui/centre/ExportScreen.h"
-#include "ui/centre/WidgetSettingsScreen.h"
 #include "ui/parts/QtText.h"
 
 #include <QColor>
@@ -66,9 +65,6 @@ class WidgetCentreScreen : public QObject {
   Q_INVOKABLE QString tap(int index);
   Q_INVOKABLE void dismissSheet() { screen_.dismissSheet(); }
   /// The QML owns what it gets.
-  Q_INVOKABLE vitrelle::ui::WidgetSettingsScreen* settings() const {
-    return new WidgetSettingsScreen(platform_);
-  }
   Q_INVOKABLE vitrelle::ui::ExportScreen* slices() const { return new ExportScreen(platform_); }
 
  Q_SIGNALS:

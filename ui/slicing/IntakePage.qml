@@ -23,6 +23,11 @@ Page {
         intake.paste(nextIsDark);
     }
 
+    /// What the sheet can show, by type names.
+    readonly property var sheets: ({
+            "PerspectiveZoomDescription": perspectiveZoom,
+            "WidgetSettingsView": widgetSettings
+        })
     readonly property bool nextIsDark: intake.lightSet && !intake.darkSet // what will be used next
 
     function focusNext() {
@@ -108,16 +113,32 @@ Page {
         Sheet {
             id: sheet
             objectName: "intakeSheet"
-            shown: Shell.hasScreen(page.intake.sheet)
+
+            readonly property Component asked: page.sheets[page.intake.sheet] ?? null
+
+            shown: asked !== null
+            onAskedChanged: if (asked) loader.sourceComponent = asked // it stays while it goes away
             onDismissed: page.intake.dismissSheet()
 
             Loader {
+                id: loader
                 anchors.fill: parent
                 focus: true
                 active: sheet.present
-                sourceComponent: PerspectiveZoomDescription {
+            }
+            Component {
+                id: perspectiveZoom
+                PerspectiveZoomDescription {
                     focus: true
                     backTitle: qsTrId("app.close")
+                    onClosed: sheet.dismissed()
+                }
+            }
+            Component {
+                id: widgetSettings
+                WidgetSettingsPage {
+                    focus: true
+                    screen: Shell.widgetSettings()
                     onClosed: sheet.dismissed()
                 }
             }
