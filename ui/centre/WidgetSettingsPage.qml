@@ -57,7 +57,10 @@ SheetPage {
         width: Surroundings.screenWidth - 60
         title: page.settings.unitTitle
         label: page.settings.units[page.settings.unit]
-        options: page.settings.units.map(unit => ({ "symbol": "", "words": unit }))
+        options: [
+            { "symbol": "", "words": page.settings.units[0] },
+            { "symbol": "", "words": page.settings.units[1] }
+        ]
         chosen: page.settings.unit
         onChose: option => page.settings.unit = option
     }
