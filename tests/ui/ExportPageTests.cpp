@@ -59,9 +59,6 @@ class ExportPageTest : public test::UiTest {
     driver->click(slot);
     ASSERT_TRUE(driver->eventually([&] { return driver->isShown("shareSheet"); }));
   }
-  void waitForEndOf(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return !driver->isShown(objectName); })) << objectName;
-  }
   QVariant property(const char* objectName, const char* name) {
     return driver->find(objectName)->property(name);
   }

@@ -29,12 +29,6 @@ class FamilyPageTest : public test::UiTest {
     for (const QChar c : words)
       QTest::keyClick(shell->window(), c.toLatin1());
   }
-  void waitFor(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return driver->isShown(objectName); })) << objectName;
-  }
-  void waitForEndOf(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return !driver->isShown(objectName); })) << objectName;
-  }
   /// The colours of the wallpaper are worked out a moment after the page is there.
   void suggest() {
     EXPECT_TRUE(driver->eventually([&] {

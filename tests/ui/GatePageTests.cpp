@@ -12,12 +12,6 @@ class GatePageTest : public test::UiTest {
   void openAt(const char* screen) {
     open({.screen = QString::fromLatin1(screen), .framed = false, .animated = false});
   }
-  void waitFor(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return driver->isShown(objectName); })) << objectName;
-  }
-  void waitForEndOf(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return !driver->isShown(objectName); })) << objectName;
-  }
 };
 
 TEST_F(GatePageTest, weather_isEnteredWhereThePositionMayBeKnown) {

@@ -17,12 +17,6 @@ class GateWalkTest : public test::UiTest {
     location.authorize(AuthorizationStatus::authorizedWhenInUse);
   }
 
-  void waitFor(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return driver->isShown(objectName); })) << objectName;
-  }
-  void waitForEndOf(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return !driver->isShown(objectName); })) << objectName;
-  }
   /// The colours of the wallpaper are worked out a moment after the page is there.
   void suggest() {
     EXPECT_TRUE(driver->eventually([&] {

@@ -81,12 +81,6 @@ class ImagePageTest : public test::UiTest {
   void openAt(const char* screen) {
     open({.screen = QString::fromLatin1(screen), .framed = false, .animated = false});
   }
-  void waitFor(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return driver->isShown(objectName); })) << objectName;
-  }
-  void waitForEndOf(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return !driver->isShown(objectName); })) << objectName;
-  }
   /// The size of the picture above the form; nothing while no picture is set.
   std::optional<PixelSize> shown(const char* item = "previewFace") {
     const auto face = driver->find(item)->property("face").value<ui::Face>();

@@ -27,12 +27,6 @@ class PhonePageTest : public test::UiTest {
     open({.screen = QString::fromLatin1(screen), .framed = false, .animated = false});
     QTest::qWait(20);
   }
-  void waitFor(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return driver->isShown(objectName); })) << objectName;
-  }
-  void waitForEndOf(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return !driver->isShown(objectName); })) << objectName;
-  }
   void type(const char* words) {
     for (const char* c = words; *c != '\0'; ++c) {
       QTest::qSleep(2);

@@ -19,12 +19,6 @@ class SettingPageTest : public test::UiTest {
     const auto found = values.find(key);
     return found == values.end() ? std::nullopt : std::optional(found->second);
   }
-  void waitFor(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return driver->isShown(objectName); })) << objectName;
-  }
-  void waitForEndOf(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return !driver->isShown(objectName); })) << objectName;
-  }
   void chooseColour(const char* digits) {
     waitFor("colourChooser");
     driver->find("hexField")->forceActiveFocus();

@@ -127,6 +127,14 @@ void UiTest::open(ui::ShellOptions options) {
   QCoreApplication::processEvents();
 }
 
+void UiTest::waitFor(const char* objectName) const {
+  EXPECT_TRUE(Driver::eventually([&] { return driver->isShown(objectName); })) << objectName;
+}
+
+void UiTest::waitForEndOf(const char* objectName) const {
+  EXPECT_TRUE(Driver::eventually([&] { return !driver->isShown(objectName); })) << objectName;
+}
+
 void UiTest::openFamily(const QString& tile) {
   driver->click(QStringLiteral("widgetCentreButton"));
   const QString name = QStringLiteral("tile ") + tile;

@@ -44,6 +44,9 @@ class UiTest : public AppTest {
   /// Builds the window; the store and the folder are as the test wants them.
   void open(ui::ShellOptions options = {.screen = {}, .framed = false, .animated = false});
 
+  /// For what comes, or goes, a while after it was asked for. Fails the test when it does not.
+  void waitFor(const char* objectName) const;
+  void waitForEndOf(const char* objectName) const;
   /// From the root, by the name on its tile.
   void openFamily(const QString& tile);
 

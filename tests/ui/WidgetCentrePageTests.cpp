@@ -17,12 +17,6 @@ class WidgetCentrePageTest : public test::UiTest {
     driver->click("widgetCentreButton");
     waitFor("widgetCentrePage");
   }
-  void waitFor(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return driver->isShown(objectName); })) << objectName;
-  }
-  void waitForEndOf(const char* objectName) {
-    EXPECT_TRUE(driver->eventually([&] { return !driver->isShown(objectName); })) << objectName;
-  }
   std::int64_t appearances() {
     const auto& values = defaults.values(Suite::standard);
     return std::get<std::int64_t>(values.at("appStartUpsCountKey"));
